@@ -1,0 +1,41 @@
+# What every target of ours is compiled with. Dependencies do not get these flags.
+add_library(tessera_build_options INTERFACE)
+target_compile_features(tessera_build_options INTERFACE cxx_std_17)
+target_include_directories(tessera_build_options INTERFACE "${PROJECT_SOURCE_DIR}")
+
+option(TESSERA_WERROR "Treat warnings in our code as errors" ON)
+set(TESSERA_SANITIZE "" CACHE STRING "Sanitizers for the host build, as for -fsanitize=")
+
+if(MSVC)
+    target_compile_options(tessera_build_options INTERFACE /W4 /permissive- /utf-8
+        $<$<BOOL:${TESSERA_WERROR}>:/WX>)
+    set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
+else()
+    target_compile_options(tessera_build_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+        -Woverloaded-virtual -Wold-style-cast -Wcast-qual -Wformat=2 -Wundef
+        $<$<BOOL:${TESSERA_WERROR}>:-Werror>)
+    # Unused functions and data of the static libraries leave the program at link time.
+    add_compile_options(-ffunction-sections -fdata-sections)
+    add_link_options(-Wl,--gc-sections)
+endif()
+
+if(WIN32)
+    # Windows 7 interfaces and the wide entry points by default.
+    target_compile_definitions(tessera_build_options INTERFACE
+        UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
+    if(MINGW)
+        add_link_options(-static)
+    endif()
+endif()
+
+if(TESSERA_SANITIZE)
+    add_compile_options(-fsanitize=${TESSERA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${TESSERA_SANITIZE})
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_C_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
