@@ -1,0 +1,91 @@
+#pragma once
+
+// Keelbase: the support library's logging surface, as the suite's applications use it.
+//
+// Threads: everything here may be called from any thread, except setSettingsName, which belongs
+// into a static initialiser, before the first createLogger.
+// Failures: logging never makes the program fail. A log that cannot be opened or written is
+// given up silently; createLogger still succeeds and messages go nowhere.
+
+#include <memory>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <utility>
+
+namespace Keelbase {
+
+// Levels in use. A message is written when the logger's level is at least the message's.
+constexpr int levelError = 3;
+constexpr int levelInformation = 6;
+constexpr int levelDetail = 7;
+constexpr int defaultLevel = levelInformation;
+
+// Support staff raise or lower the level with this environment variable (a decimal number, 0
+// writes nothing). Anything else in it leaves the default.
+constexpr const char* levelVariable = "KEELBASE_LOG_LEVEL";
+
+// One finished message, as handed to a logger.
+struct LogRecord
+{
+    int level = 0;
+    std::string category;
+    std::string sourceFile;
+    int sourceLine = 0;
+    std::string text;
+};
+
+class ILogger
+{
+public:
+    virtual ~ILogger() = default;
+    virtual int level() const noexcept = 0;
+    virtual void write(const LogRecord& record) noexcept = 0;
+};
+
+using LoggerHandle = std::shared_ptr<ILogger>;
+
+// Names the folder below the user's roaming application data whose "logs" sub-folder receives
+// the log files. The text is copied.
+void setSettingsName(const char* name);
+std::string settingsName();
+
+// Fills `logger` with the process's logger, made on the first call; returns 0 on success.
+int createLogger(LoggerHandle& logger);
+
+// Replaces the process's logger (null: back to the library's own at the next createLogger).
+// For programs that collect their messages elsewhere, tests among them.
+void setLogger(LoggerHandle logger);
+
+// An output stream that is one log message: text is inserted, and the finished message goes to
+// the logger when the stream object ends.
+class CLogMsgMultibyte : public std::ostringstream
+{
+public:
+    CLogMsgMultibyte(LoggerHandle logger, int level, const char* category, const char* sourceFile,
+                     int sourceLine);
+    ~CLogMsgMultibyte() override;
+    CLogMsgMultibyte(const CLogMsgMultibyte&) = delete;
+    CLogMsgMultibyte& operator=(const CLogMsgMultibyte&) = delete;
+
+private:
+    LoggerHandle logger;
+    int level;
+    const char* category;
+    const char* sourceFile;
+    int sourceLine;
+};
+
+// Writes one message, composed by `compose(std::ostream&)` only when the level asks for it.
+template <typename Compose>
+void log(int level, const char* category, const char* sourceFile, int sourceLine,
+         Compose&& compose)
+{
+    LoggerHandle logger;
+    if (createLogger(logger) != 0 || logger->level() < level)
+        return;
+    CLogMsgMultibyte message(std::move(logger), level, category, sourceFile, sourceLine);
+    std::forward<Compose>(compose)(static_cast<std::ostream&>(message));
+}
+
+} // namespace Keelbase
