@@ -1,0 +1,73 @@
+#pragma once
+
+#include "ui/common/config/config_text.h"
+
+#include <mutex>
+#include <set>
+#include <string>
+
+namespace fs {
+
+// The class has no virtual destructor: the four slots below are its whole virtual table, and
+// objects are always destroyed as what they are.
+#if defined(__GNUC__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
+
+// One ".cfg" file: its pairs in memory, and the keys that this process changed.
+//
+// Any thread may call any operation; each is atomic with respect to the others on the same object.
+// Between processes there is no lock: save() reads the file again and lays only this process's
+// changes over it, so that two processes with different keys both keep theirs.
+//
+// Results are sys:: result codes (ui/common/sys/result_codes.h). Nothing is saved on destruction.
+class CConfig
+{
+public:
+    CConfig() = default;
+    CConfig(const CConfig&) = delete;
+    CConfig& operator=(const CConfig&) = delete;
+
+    // Binds the object to a file and empties it. Does not read the file.
+    virtual void setFileName(const std::wstring& path);
+
+    // Writes the file anew: what it holds now, with this process's changes over it. A file that
+    // is missing or cannot be read counts as empty. Without changes the disk is not touched.
+    // Returns success; noSuchFile without a file name; readOrWriteFailed, and then the changes
+    // are kept for the next save().
+    virtual int save();
+
+    // Adds the file's pairs; keys in memory keep their values but no longer count as changed.
+    // Returns success; noSuchFile; readOrWriteFailed. Memory is touched on success only.
+    virtual int load();
+
+    // Like load(), but memory afterwards equals the file.
+    virtual int reload();
+
+    // Changes memory only. The empty value deletes the key at the next save().
+    void setValue(const std::string& key, const std::string& value);
+    std::string getValue(const std::string& key, const std::string& defaultValue) const;
+
+    // True for the text "1" only; the default is taken when the key is absent.
+    bool getBool(const std::string& key, bool defaultValue) const;
+
+    // True from a setValue() until the next load, reload or successful save.
+    bool isModified() const;
+
+private:
+    enum class Existing { keep, discard };
+    int readFile(Existing existing);
+
+    ConfigValues values;
+    std::set<std::string> changedKeys;
+    mutable std::mutex mutex;
+    bool modified = false;
+    std::wstring filePath;
+};
+
+#if defined(__GNUC__)
+#pragma GCC diagnostic pop
+#endif
+
+} // namespace fs

@@ -1,0 +1,31 @@
+#pragma once
+
+// The suite's applications. Names and codes live here only. Pure lookups; any thread.
+
+#include <string>
+#include <string_view>
+
+namespace uninstall {
+
+constexpr int suiteId = 0;
+constexpr int unknownId = -1;
+
+// Numeric ids are sparse in this range, and they also travel in statistics: gaps stay unused.
+constexpr int firstAppId = 1;
+constexpr int lastAppId = 68;
+
+// The numeric id of an id string, compared byte by byte; unknownId when there is none.
+int idFromString(std::string_view text);
+
+// The id string of a row, empty for any other id. Row 53 answers with its spaced name.
+std::string idToString(int id);
+
+// The name shown to the user (UTF-8), empty for ids without one (row 53 among them). `variant`
+// chooses the wording of the two applications with a survey: false for the list and for
+// pre-selection, true elsewhere.
+std::string displayName(int id, bool variant);
+
+// The code in names of statistics events; never empty ("unkn" at least).
+std::string shortCode(int id);
+
+} // namespace uninstall

@@ -1,0 +1,45 @@
+#pragma once
+
+// An application's uninstall command as its installer registered it: the program's path, then
+// " /log", then the rest of the log switch, whose path holds "logs\", the application's id string
+// and "_uninstall". All texts are UTF-8. Pure functions; any thread.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace uninstall {
+
+// The text after the last "logs\" and before the first "_uninstall" that follows. A mark that is
+// missing cuts nothing.
+std::string idStringFromCommand(std::string_view command);
+
+// The command split at " /log", empty parts kept: at least one part.
+std::vector<std::string> splitCommand(std::string_view command);
+
+struct RunOptions
+{
+    int remaining;       // rows not yet uninstalled, this one included
+    bool full;           // every row was checked when the run began
+    bool deleteSettings; // "Delete settings and history" is checked
+};
+
+// The first part as it stands; empty when there is nothing to run.
+std::string programOf(const std::vector<std::string>& parts);
+
+// The switches for the application's uninstaller, in their order.
+std::vector<std::string> uninstallArguments(const std::vector<std::string>& parts,
+                                            const RunOptions& options);
+
+// True when the value UninstallMode is to be written: it tells the applications' uninstallers
+// that more of the suite is about to go.
+bool writesUninstallMode(const RunOptions& options);
+
+// The folder name of an application, for the running-application warning: what follows the last
+// "<brand>\" in its install path, up to the next "\".
+std::string shownName(std::string_view installPath, std::string_view brand);
+
+// The registry subkey that holds the uninstall list of a brand.
+std::string listName(std::string_view brand);
+
+} // namespace uninstall

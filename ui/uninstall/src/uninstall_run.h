@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace uninstall {
+
+// What the run needs from the window. Rows are the list's rows at the start of the run, by their
+// position then; they keep these numbers when rows before them leave the list.
+class IUninstallSteps
+{
+public:
+    virtual ~IUninstallSteps() = default;
+
+    // The row's check box as it is now: a cancelled warning changes the boxes during the run.
+    virtual bool isChecked(std::size_t row) = 0;
+    // The row's uninstall command, empty when none is registered.
+    virtual std::string command(std::size_t row) = 0;
+    virtual void setCurrentAppId(int id) = 0;
+    virtual void openExitSurvey(int id) = 0;
+    virtual bool isRunning(const std::string& idString) = 0;
+    // May set what cancelled() tells.
+    virtual void showWarningAndKillApp(const std::string& idString) = 0;
+    virtual bool cancelled() = 0;
+    // `index` is the row, or -1 for a suite that has no row. `commandParts` may then be empty.
+    virtual void uninstall(int remaining, int index, const std::vector<std::string>& commandParts,
+                           bool full) = 0;
+    virtual void removeRow(std::size_t row) = 0;
+};
+
+// Uninstalls the checked rows in their order, and the suite last when every row was checked.
+// Runs on the caller's thread until the last uninstaller has been dealt with.
+void runUninstall(std::size_t rowCount, IUninstallSteps& steps);
+
+} // namespace uninstall
