@@ -1,0 +1,134 @@
+# shellcheck shell=bash
+# Shared by the set-up scripts: where the cache is, one-at-a-time locks, stages with visible
+# progress, and Debian source packages. Sourced, never run.
+
+setupStart=$SECONDS
+stagePid=""
+
+# Everything that takes minutes to make lives outside the tree, so that a clean clone is quick.
+cacheRoot() {
+    printf '%s\n' "${XDG_CACHE_HOME:-$HOME/.cache}/tessera-uninstall"
+}
+
+elapsed() {
+    local seconds=$((SECONDS - setupStart))
+    printf '%d:%02d' $((seconds / 60)) $((seconds % 60))
+}
+
+say() {
+    printf '[%s %s] %s\n' "$setupName" "$(elapsed)" "$*" >&2
+}
+
+die() {
+    say "error: $*"
+    exit 1
+}
+
+# hashOf FILE...: a short key that changes when a recipe changes.
+hashOf() {
+    cat -- "$@" | sha256sum | cut -c1-12
+}
+
+packageVersion() {
+    dpkg-query -W -f '${Version}' "$1" 2>/dev/null ||
+        die "package $1 is not installed; run tools/setup/packages.sh"
+}
+
+# 1:5.15.8+dfsg-11+deb12u3 -> 5.15.8
+upstreamVersion() {
+    local version=${1#*:}
+    version=${version%%-*}
+    printf '%s\n' "${version%%+*}"
+}
+
+# takeLock FILE: holds the lock until this script ends, so that two set-ups never build twice.
+# Descriptor 9 is closed for every stage: a tool that lingers must not keep the lock.
+takeLock() {
+    mkdir -p "$(dirname "$1")"
+    exec 9>"$1"
+    if ! flock -n 9; then
+        say "waiting for another set-up that holds $1"
+        flock 9
+    fi
+}
+
+stopStage() {
+    if [[ -n $stagePid ]]; then
+        kill -TERM -- "-$stagePid" 2>/dev/null || true
+    fi
+}
+
+trap 'stopStage; exit 130' INT
+trap 'stopStage; exit 143' TERM HUP
+
+# progressOf LOG STEPS: "43 %, src/corelib" from the compiler lines in a log.
+progressOf() {
+    local log=$1 steps=$2 done last percent=""
+    done=$(grep -cE '^[^ ]*(g\+\+|gcc)[^ ]* .*-c |^  CC ' "$log" || true)
+    last=$(grep -oE '[^ ]+\.(cpp|c|cc)( |$)' "$log" | tail -n 1 | sed 's,^\(\.\./\)*,,' || true)
+    if ((steps > 0)); then
+        percent=$((done * 100 / steps))
+        ((percent > 99)) && percent=99
+        percent="$percent %, "
+    fi
+    printf '%s%s' "$percent" "${last:-starting}"
+}
+
+# runStage TITLE STEPS COMMAND...: runs the command with its output in $setupLog and tells every
+# few seconds how far it is. STEPS is the expected number of compiler calls, 0 when unknown.
+runStage() {
+    local title=$1 steps=$2 log status=0 nextReport=15 begun=$SECONDS
+    shift 2
+    say "$title"
+    log=$(mktemp "${TMPDIR:-/tmp}/tessera-stage.XXXXXX")
+    set -m
+    (set -e; "$@") </dev/null >"$log" 2>&1 9>&- &
+    stagePid=$!
+    set +m
+    while kill -0 "$stagePid" 2>/dev/null; do
+        sleep 0.5
+        if ((SECONDS - begun >= nextReport)); then
+            say "$title: $(progressOf "$log" "$steps")"
+            nextReport=$((nextReport + 15))
+        fi
+    done
+    wait "$stagePid" || status=$?
+    stagePid=""
+    { printf '=== %s\n' "$title"; cat "$log"; } >>"$setupLog"
+    rm -f "$log"
+    if ((status != 0)); then
+        say "failed: $title (exit code $status); the last lines of $setupLog:"
+        tail -n 30 "$setupLog" >&2
+        exit 1
+    fi
+}
+
+# The machine's own mirrors, as source lists; nothing on the machine is changed.
+writeSourceList() {
+    apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' |
+        sort -u | sed 's/^/deb-src /'
+}
+
+# fetchDebianSource NAME VERSION FOLDER: unpacks the source package, with Debian's patches, into
+# FOLDER/source. An older VERSION may have left the mirror: then the newest one is taken, as long
+# as it is the same upstream release.
+fetchDebianSource() {
+    local name=$1 version=$2 folder=$3 found
+    local -a apt=(apt-get -q
+        -o "Dir::Etc::SourceList=$folder/apt/sources.list" -o Dir::Etc::SourceParts=/dev/null
+        -o "Dir::State::Lists=$folder/apt/lists" -o "Dir::Cache=$folder/apt/cache"
+        -o APT::Sandbox::User= -o APT::Get::List-Cleanup=0)
+    mkdir -p "$folder/apt/lists/partial" "$folder/apt/cache/archives/partial" "$folder/download"
+    writeSourceList >"$folder/apt/sources.list"
+    "${apt[@]}" update
+    cd "$folder/download"
+    if ! "${apt[@]}" source --download-only "$name=$version"; then
+        "${apt[@]}" source --download-only "$name"
+    fi
+    found=$(sed -n 's/^Version: //p' ./*.dsc | head -n 1)
+    if [[ $(upstreamVersion "$found") != "$(upstreamVersion "$version")" ]]; then
+        echo "the mirror has $name $found, but $version is installed here"
+        return 1
+    fi
+    dpkg-source --no-check -x ./*.dsc "$folder/source"
+}

@@ -1,0 +1,62 @@
+# shellcheck shell=bash
+# How Qt is built for 64-bit Windows. The install is keyed by a hash of this file: any change here
+# builds Qt again. The functions are run as stages by tools/setup/qt.sh, which sets $qtSource,
+# $qtBuild, $qtPrefix and $qtStage.
+
+# The expected number of compiler calls, for the progress display only.
+qtCompilerCalls=1400
+
+# Only what the program and its tests use. Three facts behind the choice:
+# - tabletevent must be off: Debian's source leaves out the header its Windows part would include;
+# - binaryjson and inputdialog must stay on: a static QtCore and the Vista style refer to them;
+# - no TLS and no network module: the program's HTTP goes through libcurl.
+qtOptions=(
+    -opensource -confirm-license -static -release -optimize-size -pch
+    -xplatform win32-g++ -device-option CROSS_COMPILE=x86_64-w64-mingw32-
+    -nomake examples -nomake tests -nomake tools -no-compile-examples
+    -no-opengl -no-angle -no-vulkan -no-feature-direct2d -no-dbus -no-icu -no-glib
+    -no-openssl -no-schannel -no-sql-odbc -no-sql-sqlite -no-cups -no-fontconfig
+    -qt-zlib -qt-pcre -qt-libpng -no-libjpeg -no-gif -qt-harfbuzz -no-freetype
+    -qt-doubleconversion -no-libmd4c
+)
+
+qtUnusedFeatures=(
+    sql network xml concurrent printer pdf picture tuiotouch systemtrayicon textmarkdownwriter
+    textodfwriter statemachine sharedmemory systemsemaphore jalalicalendar hijricalendar
+    islamiccivilcalendar graphicsview mdiarea dockwidget toolbox wizard calendarwidget colordialog
+    fontdialog errormessage progressdialog keysequenceedit lcdnumber dial columnview undoview
+    undocommand datawidgetmapper splashscreen syntaxhighlighter treewidget tablewidget fontcombobox
+    commandlinkbutton textbrowser scroller gestures filedialog dirmodel filesystemmodel
+    concatenatetablesproxymodel transposeproxymodel imageformat_ppm imageformat_xbm sessionmanager
+    movie big_codecs style-fusion tabletevent
+)
+
+# The compilers are taken by the names without "-posix" inside Qt's makefiles, so a folder of links
+# at the front of PATH decides which thread model they are.
+qtLinkCompilers() {
+    local links=$1 tool
+    mkdir -p "$links"
+    for tool in gcc g++; do
+        ln -sf "$(command -v x86_64-w64-mingw32-$tool-posix)" "$links/x86_64-w64-mingw32-$tool"
+    done
+    export PATH="$links:$PATH"
+}
+
+qtConfigure() {
+    qtLinkCompilers "$qtBuild/../compilers"
+    mkdir -p "$qtBuild"
+    cd "$qtBuild"
+    # The variable makes the bootstrap of qmake parallel; configure has no option for it.
+    MAKEFLAGS="-j$qtJobs" "$qtSource/configure" -prefix "$qtPrefix" "${qtOptions[@]}" \
+        "${qtUnusedFeatures[@]/#/-no-feature-}"
+}
+
+qtCompile() {
+    qtLinkCompilers "$qtBuild/../compilers"
+    make -C "$qtBuild" -j"$qtJobs"
+}
+
+qtInstall() {
+    qtLinkCompilers "$qtBuild/../compilers"
+    make -C "$qtBuild" INSTALL_ROOT="$qtStage" install
+}

@@ -1,0 +1,37 @@
+# shellcheck shell=bash
+# Where Wine is and how its processes are to behave, for every script here that starts one.
+# Sourced, never run.
+
+# Debian's /usr/bin/wine prints a hint about 32-bit support at every start; the 64-bit loader
+# behind it does not.
+wineLoader=/usr/lib/wine/wine64
+wineServer=/usr/lib/wine/wineserver
+# shellcheck disable=SC2034 # used by the scripts that source this file
+wineLibraries=/usr/lib/x86_64-linux-gnu/wine/x86_64-windows
+# shellcheck disable=SC2034
+wineData=/usr/share/wine
+if [[ ! -x $wineLoader ]]; then
+    wineLoader=$(command -v wine64 || command -v wine || echo wine)
+    wineServer=$(command -v wineserver || echo wineserver)
+fi
+export WINELOADER="$wineLoader"
+export WINEARCH=win64
+export WINEDEBUG=${WINEDEBUG:--all}
+# No offers to download .NET or a browser engine, and no menu entries on the person's own desktop.
+export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=;winemenubuilder.exe=d}
+# The locale decides Windows' ANSI code page; C.UTF-8 gives US English and 1252 on every machine.
+export LC_ALL=${WINE_RUN_LOCALE:-C.UTF-8}
+
+# windowsPath FILE: the name under which Windows programs see a Unix path. What lies in the
+# prefix's own drive is C:, as it would be on Windows; the rest is reached through Z:.
+windowsPath() {
+    local path drive
+    path=$(realpath -m -s -- "$1")
+    drive=$(realpath -m -s -- "$WINEPREFIX/drive_c")
+    if [[ $path == "$drive"/* ]]; then
+        path="C:${path#"$drive"}"
+    else
+        path="Z:$path"
+    fi
+    printf '%s\n' "${path//\//\\}"
+}
