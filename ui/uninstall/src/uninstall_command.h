@@ -31,8 +31,8 @@ std::string programOf(const std::vector<std::string>& parts);
 std::vector<std::string> uninstallArguments(const std::vector<std::string>& parts,
                                             const RunOptions& options);
 
-// True when the value UninstallMode is to be written: it tells the applications' uninstallers
-// that more of the suite is about to go.
+// True when the registry value UninstallMode is written before the uninstaller starts: in a full
+// run, as long as more of the suite follows.
 bool writesUninstallMode(const RunOptions& options);
 
 // The folder name of an application, for the running-application warning: what follows the last

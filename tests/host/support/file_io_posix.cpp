@@ -1,0 +1,59 @@
+#include "ui/common/sys/file_io.h"
+
+#include "ui/common/sys/result_codes.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace sys {
+
+namespace {
+
+struct FileCloser
+{
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
+
+FileHandle openFile(const std::wstring& path, const char* mode)
+{
+    return FileHandle(std::fopen(std::filesystem::path(path).c_str(), mode));
+}
+
+} // namespace
+
+int readWholeFile(const std::wstring& path, std::string& content)
+{
+    const FileHandle file = openFile(path, "rb");
+    if (!file)
+        return errno;
+    struct stat status = {};
+    if (fstat(fileno(file.get()), &status) != 0)
+        return readOrWriteFailed;
+    std::string read(static_cast<std::size_t>(status.st_size), '\0');
+    if (std::fread(read.data(), 1, read.size(), file.get()) != read.size())
+        return readOrWriteFailed;
+    content = std::move(read);
+    return success;
+}
+
+int writeWholeFile(const std::wstring& path, const std::string& text)
+{
+    const FileHandle file = openFile(path, "wb");
+    if (!file || std::fputs(text.c_str(), file.get()) < 0 || std::fflush(file.get()) != 0)
+        return readOrWriteFailed;
+    return success;
+}
+
+bool fileExists(const std::wstring& path)
+{
+    std::error_code error;
+    return std::filesystem::exists(path, error);
+}
+
+} // namespace sys

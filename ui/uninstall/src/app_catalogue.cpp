@@ -1,0 +1,115 @@
+#include "ui/uninstall/src/app_catalogue.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace uninstall {
+
+namespace {
+
+struct Application
+{
+    int id;
+    const char* idString;
+    const char* displayName;
+    const char* displayNameVariant; // null: the same as displayName
+    const char* shortCode;
+};
+
+// The suite stands first: its id string is the first one compared.
+constexpr Application applications[] = {
+    {0, "Tessera", "Tessera Kit", nullptr, "tsr"},
+    {2, "ClipTrimmer", "Clip Trimmer", nullptr, "cltrm"},
+    {3, "TrackRipper", "Track Ripper", nullptr, "trkrp"},
+    {5, "DiscComposer", "Disc Composer", nullptr, "dcmp"},
+    {9, "ScreenTaker", "Screen Taker", nullptr, "scrtk"},
+    {10, "PictureSlicer", "Picture Slicer", nullptr, "picslcr"},
+    {14, "SoundShaper", "Sound Shaper", nullptr, "sndsh"},
+    {15, "ReelJoiner", "Reel Joiner", nullptr, "rljn"},
+    {25, "PhotoMender", "Photo Mender", nullptr, "phmnd"},
+    {27, "SubtitleWeaver", "Subtitle Weaver", nullptr, "subwv"},
+    {33, "AlbumKeeper", "Album Keeper", nullptr, "albkp"},
+    {39, "WaveTuner", "Wave Tuner", nullptr, "wvtn"},
+    {40, "FrameCatcher", "Frame Catcher", nullptr, "frmct"},
+    {42, "PodcastPress", "Podcast Press", nullptr, "podpr"},
+    {43, "LoopMaker", "Loop Maker", nullptr, "lpmk"},
+    {52, "StreamMixer", "Stream Mixer", nullptr, "strmx"},
+    {53, "PhotoStoryAndSlideshow", "Photo Story and Slideshow", nullptr, "pstsl"},
+    {54, "VoiceBooth", "Voice Booth", nullptr, "vcbth"},
+    {55, "TagSorter", "Tag Sorter", nullptr, "tgsrt"},
+    {58, "PanoramaStitcher", "Panorama Stitcher", nullptr, "panst"},
+    {59, "MediaVault", "Media Vault", nullptr, "mdvlt"},
+    {60, "ClipSaver", "Clip Saver 2026", "Tessera Clip Saver", "clsv"},
+    {61, "TrackSaver", "Track Saver 2026", "Tessera Track Saver", "trksv"},
+    {62, "KaraokeStage", "Karaoke Stage", nullptr, "krstg"},
+    {63, "BeatGrid", "Beat Grid", nullptr, "btgrd"},
+    {64, "VidaloDownloader", "Vidalo Downloader", nullptr, "vdldl"},
+    {65, "MusaloDownloader", "Musalo Downloader", nullptr, "msldl"},
+    {66, "CaptionStudio", "Caption Studio", nullptr, "capst"},
+    {67, "CodecDoctor", "Codec Doctor", nullptr, "cdcdr"},
+    {68, "LightTable", "Light Table", nullptr, "lttbl"},
+};
+
+// Registered without spaces, but every release so far has looked it up by its spaced name and
+// listed it without one; other data depends on that by now.
+constexpr int photoStoryId = 53;
+
+const Application* findApplication(int id)
+{
+    const auto found = std::find_if(std::begin(applications), std::end(applications),
+                                    [id](const Application& row) { return row.id == id; });
+    return found != std::end(applications) ? found : nullptr;
+}
+
+} // namespace
+
+int idFromString(std::string_view text)
+{
+    const auto found =
+        std::find_if(std::begin(applications), std::end(applications),
+                     [text](const Application& row) { return text == row.idString; });
+    return found != std::end(applications) ? found->id : unknownId;
+}
+
+std::string idToString(int id)
+{
+    const Application* const application = findApplication(id);
+    if (application == nullptr)
+        return {};
+    return id == photoStoryId ? application->displayName : application->idString;
+}
+
+std::string displayName(int id, bool variant)
+{
+    const Application* const application = findApplication(id);
+    if (application == nullptr || id == photoStoryId)
+        return {};
+    if (variant && application->displayNameVariant != nullptr)
+        return application->displayNameVariant;
+    return application->displayName;
+}
+
+std::string shortCode(int id)
+{
+    if (const Application* const application = findApplication(id))
+        return application->shortCode;
+    // Codes that statistics still know although the catalogue does not list the ids.
+    switch (id) {
+    case unknownId:
+        return "po";
+    case 1:
+        return "_1";
+    case 4:
+        return "_2";
+    case 6:
+        return "_3";
+    case 7:
+        return "_4";
+    case 13:
+        return "_8";
+    default:
+        return "unkn";
+    }
+}
+
+} // namespace uninstall
