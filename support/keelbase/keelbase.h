@@ -2,6 +2,11 @@
 
 // Keelbase: the support library's logging surface, as the suite's applications use it.
 //
+// The log: <roaming application data>\<settings name>\logs\<program>.log, UTF-8, one message a
+// line, each ended by a line feed:
+//   2026-11-21 01:39:46.123 1234:5678 6 MainForm ui/uninstall/src/widget:77 | text
+//   local time              pid :tid  level category  source file:line      | text
+// At 1 MiB the file is moved to <program>.1.log and so on up to .3.log; the oldest goes.
 // Threads: everything here may be called from any thread, except setSettingsName, which belongs
 // into a static initialiser, before the first createLogger.
 // Failures: logging never makes the program fail. A log that cannot be opened or written is
@@ -22,7 +27,7 @@ constexpr int levelDetail = 7;
 constexpr int defaultLevel = levelInformation;
 
 // Support staff raise or lower the level with this environment variable (a decimal number, 0
-// writes nothing). Anything else in it leaves the default.
+// writes nothing). Anything else in it leaves the default. Read by the first createLogger.
 constexpr const char* levelVariable = "KEELBASE_LOG_LEVEL";
 
 // One finished message, as handed to a logger.
@@ -50,20 +55,21 @@ using LoggerHandle = std::shared_ptr<ILogger>;
 void setSettingsName(const char* name);
 std::string settingsName();
 
-// Fills `logger` with the process's logger, made on the first call; returns 0 on success.
-int createLogger(LoggerHandle& logger);
+// Fills `logger` with the process's logger, made on the first call; returns 0 on success, and
+// there is no failure: the logger is never null.
+int createLogger(LoggerHandle& logger) noexcept;
 
 // Replaces the process's logger (null: back to the library's own at the next createLogger).
 // For programs that collect their messages elsewhere, tests among them.
 void setLogger(LoggerHandle logger);
 
 // An output stream that is one log message: text is inserted, and the finished message goes to
-// the logger when the stream object ends.
+// the logger when the stream object ends. The three texts are kept by pointer: literals.
 class CLogMsgMultibyte : public std::ostringstream
 {
 public:
-    CLogMsgMultibyte(LoggerHandle logger, int level, const char* category, const char* sourceFile,
-                     int sourceLine);
+    CLogMsgMultibyte(LoggerHandle receiver, int messageLevel, const char* messageCategory,
+                     const char* file, int line);
     ~CLogMsgMultibyte() override;
     CLogMsgMultibyte(const CLogMsgMultibyte&) = delete;
     CLogMsgMultibyte& operator=(const CLogMsgMultibyte&) = delete;
@@ -78,8 +84,7 @@ private:
 
 // Writes one message, composed by `compose(std::ostream&)` only when the level asks for it.
 template <typename Compose>
-void log(int level, const char* category, const char* sourceFile, int sourceLine,
-         Compose&& compose)
+void log(int level, const char* category, const char* sourceFile, int sourceLine, Compose&& compose)
 {
     LoggerHandle logger;
     if (createLogger(logger) != 0 || logger->level() < level)

@@ -1,0 +1,78 @@
+#include "support/keelbase/file_logger.h"
+
+#include "support/keelbase/log_line.h"
+
+#include <spdlog/pattern_formatter.h>
+#include <spdlog/sinks/rotating_file_sink.h>
+
+#include <utility>
+
+namespace Keelbase {
+
+namespace {
+
+constexpr int failedOpensTolerated = 3;
+
+// Holds the gate for a scope.
+class GatePassage
+{
+public:
+    explicit GatePassage(WriteGate& writeGate) : gate(writeGate) { gate.enter(); }
+    ~GatePassage() { gate.leave(); }
+    GatePassage(const GatePassage&) = delete;
+    GatePassage& operator=(const GatePassage&) = delete;
+
+private:
+    WriteGate& gate;
+};
+
+} // namespace
+
+FileLogger::FileLogger(std::filesystem::path logFile, int level, RotationLimits rotation)
+    : file(std::move(logFile)), highestLevel(level), limits(rotation), gate(file)
+{}
+
+FileLogger::~FileLogger() = default;
+
+int FileLogger::level() const noexcept
+{
+    return highestLevel;
+}
+
+void FileLogger::write(const LogRecord& record) noexcept
+{
+    if (record.level > highestLevel)
+        return;
+    try {
+        const std::string line = composeLine(record);
+        const std::lock_guard<std::mutex> lock(mutex);
+        if (failedOpens < failedOpensTolerated)
+            append(line);
+    } catch (...) {
+        // A message that cannot be written is lost; the program goes on.
+    }
+}
+
+void FileLogger::append(const std::string& line)
+{
+    const GatePassage passage(gate);
+    const spdlog::details::log_msg message({}, spdlog::level::off, line);
+    // A rotation that fails (somebody keeps an older file open) leaves an emptied file behind,
+    // and the second attempt puts the message there.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        ++failedOpens;
+        spdlog::sinks::rotating_file_sink_st sink(file.native(), limits.fileSize,
+                                                  limits.olderFiles);
+        failedOpens = 0;
+        sink.set_formatter(std::make_unique<spdlog::pattern_formatter>(
+            "%Y-%m-%d %H:%M:%S.%e %P:%t %v", spdlog::pattern_time_type::local, "\n"));
+        try {
+            sink.log(message);
+            sink.flush();
+            return;
+        } catch (const spdlog::spdlog_ex&) {
+        }
+    }
+}
+
+} // namespace Keelbase

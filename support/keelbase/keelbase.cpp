@@ -1,0 +1,119 @@
+#include "support/keelbase/keelbase.h"
+
+#include "support/keelbase/file_logger.h"
+#include "support/keelbase/platform.h"
+
+#include <charconv>
+#include <cstdlib>
+#include <cstring>
+#include <mutex>
+
+namespace Keelbase {
+
+namespace {
+
+class SilentLogger : public ILogger
+{
+public:
+    int level() const noexcept override { return 0; }
+    void write(const LogRecord&) noexcept override {}
+};
+
+struct Library
+{
+    std::mutex mutex; // guards what follows
+    std::string settingsName;
+    LoggerHandle logger;
+};
+
+// Never destroyed: static objects of the program may still log while they end.
+Library& library()
+{
+    static Library& instance = *new Library;
+    return instance;
+}
+
+// Needs no memory, so that it is there even when a logger could not be made.
+LoggerHandle silentLogger() noexcept
+{
+    static SilentLogger& instance = *new SilentLogger;
+    return LoggerHandle(LoggerHandle(), &instance);
+}
+
+int levelFromEnvironment()
+{
+    const char* const text = std::getenv(levelVariable);
+    if (text == nullptr)
+        return defaultLevel;
+    const char* const end = text + std::strlen(text);
+    int level = 0;
+    const auto [next, error] = std::from_chars(text, end, level);
+    const bool isLevel = error == std::errc() && next == end && level >= 0;
+    return isLevel ? level : defaultLevel;
+}
+
+LoggerHandle makeLogger(const std::string& settingsName)
+{
+    if (settingsName.empty())
+        return silentLogger();
+    const std::filesystem::path file = logFilePath(settingsName);
+    if (file.empty())
+        return silentLogger();
+    return std::make_shared<FileLogger>(file, levelFromEnvironment());
+}
+
+} // namespace
+
+void setSettingsName(const char* name)
+{
+    Library& shared = library();
+    const std::lock_guard<std::mutex> lock(shared.mutex);
+    shared.settingsName = name;
+}
+
+std::string settingsName()
+{
+    Library& shared = library();
+    const std::lock_guard<std::mutex> lock(shared.mutex);
+    return shared.settingsName;
+}
+
+int createLogger(LoggerHandle& logger) noexcept
+{
+    try {
+        Library& shared = library();
+        const std::lock_guard<std::mutex> lock(shared.mutex);
+        if (!shared.logger)
+            shared.logger = makeLogger(shared.settingsName);
+        logger = shared.logger;
+    } catch (...) {
+        logger = silentLogger();
+    }
+    return 0;
+}
+
+void setLogger(LoggerHandle logger)
+{
+    Library& shared = library();
+    const std::lock_guard<std::mutex> lock(shared.mutex);
+    shared.logger = std::move(logger);
+}
+
+CLogMsgMultibyte::CLogMsgMultibyte(LoggerHandle receiver, int messageLevel,
+                                   const char* messageCategory, const char* file, int line)
+    : logger(std::move(receiver)), level(messageLevel), category(messageCategory), sourceFile(file),
+      sourceLine(line)
+{}
+
+CLogMsgMultibyte::~CLogMsgMultibyte()
+{
+    if (!logger)
+        return;
+    try {
+        logger->write({level, category, sourceFile, sourceLine, str()});
+    } catch (...) {
+        // No memory for the message: it is lost, the program goes on.
+    }
+}
+
+} // namespace Keelbase

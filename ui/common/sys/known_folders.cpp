@@ -1,0 +1,104 @@
+#include "ui/common/sys/known_folders.h"
+
+#include "ui/common/sys/known_folders_lookup.h"
+#include "ui/common/sys/unique_handle.h"
+
+#include <iostream>
+#include <utility>
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <shlobj.h>
+
+namespace sys {
+
+namespace {
+
+// shlobj.h only declares the identifiers, and the import library that defines them is not
+// wanted here.
+constexpr GUID roamingAppDataId = {
+    0x3EB685DB, 0x65F9, 0x4CF6, {0xA0, 0x3A, 0xE3, 0xEF, 0x65, 0x72, 0x9F, 0x3D}};
+constexpr GUID localAppDataId = {
+    0xF1B32785, 0x6FBA, 0x4FCF, {0x9D, 0x55, 0x7B, 0x8E, 0x7F, 0x15, 0x70, 0x91}};
+
+// One function of a library, which stays loaded as long as this object lives.
+template <typename Function>
+class LoadedFunction
+{
+public:
+    LoadedFunction(const LibraryLoading& loading, const wchar_t* libraryName,
+                   const char* functionName)
+        : library(loading.load(libraryName))
+    {
+        if (!library) {
+            std::wcerr << L"Couldn't load dll" << libraryName << L" | err = " << GetLastError()
+                       << std::endl;
+            return;
+        }
+        const FARPROC found = loading.find(library.get(), functionName);
+        if (found == nullptr) {
+            std::cerr << "GetProcAddress return null | err = " << GetLastError() << std::flush;
+            return;
+        }
+        // Through void*, for a cast from one function type to another draws a warning.
+        function = reinterpret_cast<Function>(reinterpret_cast<void*>(found));
+    }
+
+    explicit operator bool() const { return function != nullptr; }
+
+    template <typename... Arguments>
+    auto operator()(Arguments&&... arguments) const
+    {
+        return function(std::forward<Arguments>(arguments)...);
+    }
+
+private:
+    win32::LibraryHandle library;
+    Function function = nullptr;
+};
+
+// A path that cannot be freed is left to the end of the process: it is a few bytes.
+void freePath(wchar_t* memory, const LibraryLoading& loading)
+{
+    const LoadedFunction<decltype(&CoTaskMemFree)> free(loading, L"ole32.dll", "CoTaskMemFree");
+    if (!free)
+        return;
+    try {
+        free(memory);
+    } catch (...) {
+        std::cerr << "Exception (\"CoTaskMemFree\") | err = " << GetLastError() << std::flush;
+    }
+}
+
+} // namespace
+
+int knownFolderPath(KnownFolder folder, std::wstring& path, const LibraryLoading& loading)
+{
+    path.clear();
+    const LoadedFunction<decltype(&SHGetKnownFolderPath)> lookUp(loading, L"shell32.dll",
+                                                                 "SHGetKnownFolderPath");
+    if (!lookUp)
+        return E_FAIL;
+    const GUID& id = folder == KnownFolder::roamingAppData ? roamingAppDataId : localAppDataId;
+    wchar_t* found = nullptr;
+    HRESULT result = E_FAIL;
+    try {
+        result = lookUp(id, DWORD(0), HANDLE(nullptr), &found);
+    } catch (...) {
+        std::cerr << "Exception(\"SHGetKnownFolderPath\") | err = " << GetLastError() << std::flush;
+    }
+    if (SUCCEEDED(result) && found != nullptr)
+        path = found;
+    // The shell may leave memory behind even when it fails.
+    if (found != nullptr)
+        freePath(found, loading);
+    return result;
+}
+
+int knownFolderPath(KnownFolder folder, std::wstring& path)
+{
+    return knownFolderPath(folder, path, LibraryLoading());
+}
+
+} // namespace sys
