@@ -22,6 +22,9 @@ export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=;winemenubuilder.exe=
 # The locale decides Windows' ANSI code page; C.UTF-8 gives US English and 1252 on every machine.
 export LC_ALL=${WINE_RUN_LOCALE:-C.UTF-8}
 
+# Without a console Qt sends its messages, and Qt Test its results, to the debugger only.
+export QT_FORCE_STDERR_LOGGING=${QT_FORCE_STDERR_LOGGING-1}
+
 # windowsPath FILE: the name under which Windows programs see a Unix path. What lies in the
 # prefix's own drive is C:, as it would be on Windows; the rest is reached through Z:.
 windowsPath() {
