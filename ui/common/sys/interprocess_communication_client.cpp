@@ -1,0 +1,76 @@
+// The client side of CInterprocessCommunicationWin.
+
+#include "ui/common/sys/interprocess_communication_win.h"
+
+#include "ui/common/sys/pipe_frame.h"
+#include "ui/common/sys/win32_error.h"
+
+namespace {
+
+constexpr DWORD connectWait = 15000; // ms
+constexpr int attempts = 7;
+constexpr DWORD pauseBetweenAttempts = 300; // ms
+
+void logFailure(int line, const char* api, DWORD error)
+{
+    win32::logFailure("IPC", "ui/common/sys/interprocess_communication_client", line, api, error);
+}
+
+} // namespace
+
+int CInterprocessCommunicationWin::connectToServer()
+{
+    prepare();
+    // The bare name is not a pipe's path, so this fails at once and costs no waiting; the open
+    // below then settles whether there is a server. Should the call ever succeed, the name is
+    // somebody else's, and nothing is opened.
+    if (WaitNamedPipeW(getPipeName().c_str(), connectWait))
+        return static_cast<int>(GetLastError());
+
+    wchar_t computer[16] = {};
+    DWORD computerSize = 16;
+    if (!GetComputerNameW(computer, &computerSize))
+        logFailure(__LINE__, "GetComputerNameW", GetLastError());
+    // Through the computer's name the system's file sharing opens the pipe, which gives a handle
+    // in message-read mode, as TransactNamedPipe needs it.
+    const std::wstring path = std::wstring(L"\\\\") + computer + L"\\pipe\\" + getPipeName();
+    const HANDLE opened =
+        CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        logFailure(__LINE__, "CreateFileW", error);
+        return static_cast<int>(error);
+    }
+    pipe.reset(opened);
+    return 0;
+}
+
+int CInterprocessCommunicationWin::sendMessage(const std::string& text)
+{
+    if (firstInstance)
+        return 0;
+    if (!pipe)
+        return ERROR_BAD_ENVIRONMENT;
+    lastAnswer.clear();
+    const std::size_t size = sys::writeFrame(sendBuffer.get(), GetCurrentProcessId(), text);
+    if (size == 0)
+        return ERROR_BUFFER_OVERFLOW;
+
+    DWORD error = 0;
+    for (int attempt = 0; attempt < attempts && !stopRequested(); ++attempt) {
+        DWORD received = 0;
+        if (TransactNamedPipe(pipe.get(), sendBuffer.get(), static_cast<DWORD>(size),
+                              receiveBuffer.get(), static_cast<DWORD>(sys::largestFrame), &received,
+                              nullptr)) {
+            if (const auto answer = sys::readAnswer(receiveBuffer.get(), received))
+                lastAnswer.assign(*answer);
+            break;
+        }
+        error = GetLastError();
+        logFailure(__LINE__, "TransactNamedPipe", error);
+        if (WaitForSingleObject(stopEvent.get(), pauseBetweenAttempts) == WAIT_OBJECT_0)
+            break;
+    }
+    return static_cast<int>(error);
+}

@@ -1,0 +1,139 @@
+// The serving side of CInterprocessCommunicationWin.
+
+#include "ui/common/sys/interprocess_communication_win.h"
+
+#include "ui/common/sys/pipe_frame.h"
+#include "ui/common/sys/win32_error.h"
+
+namespace {
+
+constexpr DWORD defaultWait = 15000; // ms, what WaitNamedPipe uses for NMPWAIT_USE_DEFAULT_WAIT
+
+void logFailure(int line, const char* api, DWORD error)
+{
+    win32::logFailure("IPC", "ui/common/sys/interprocess_communication_server", line, api, error);
+}
+
+} // namespace
+
+int CInterprocessCommunicationWin::createServer()
+{
+    prepare();
+    const int error = openPipe();
+    if (error != 0)
+        return error;
+    return serverThread.start();
+}
+
+int CInterprocessCommunicationWin::openPipe()
+{
+    // A null access list lets any account open the pipe: a copy that runs elevated and one that
+    // does not must reach each other. What arrives is therefore never trusted with anything that
+    // the sender could not do itself; see docs/messages.md.
+    SECURITY_DESCRIPTOR descriptor = {};
+    InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION);
+    SetSecurityDescriptorDacl(&descriptor, TRUE, nullptr, FALSE);
+    SECURITY_ATTRIBUTES attributes = {};
+    attributes.nLength = sizeof(attributes);
+    attributes.lpSecurityDescriptor = &descriptor;
+    attributes.bInheritHandle = FALSE;
+
+    const std::wstring path = L"\\\\.\\pipe\\" + getPipeName();
+    const HANDLE created =
+        CreateNamedPipeW(path.c_str(), PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED,
+                         PIPE_TYPE_MESSAGE | PIPE_READMODE_MESSAGE | PIPE_WAIT,
+                         PIPE_UNLIMITED_INSTANCES, static_cast<DWORD>(sys::largestFrame),
+                         static_cast<DWORD>(sys::largestFrame), defaultWait, &attributes);
+    if (created == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        logFailure(__LINE__, "CreateNamedPipeW", error);
+        return static_cast<int>(error);
+    }
+    pipe.reset(created);
+    return 0;
+}
+
+// One client at a time: connect, one request, its answer, disconnect.
+void CInterprocessCommunicationWin::run(int)
+{
+    if (stopRequested())
+        return;
+    bool goOn = true;
+    do {
+        if (!ConnectNamedPipe(pipe.get(), &overlapped)) {
+            const DWORD error = GetLastError();
+            if (error != ERROR_IO_PENDING) {
+                // Also a client that was there before this call (ERROR_PIPE_CONNECTED), which only
+                // happens to a pipe that was opened a moment ago: serving ends, and later copies
+                // hand over to nobody and still end.
+                logFailure(__LINE__, "ConnectNamedPipe", error);
+                return;
+            }
+        }
+        goOn = serveOneClient();
+        DisconnectNamedPipe(pipe.get());
+    } while (goOn && !stopRequested());
+}
+
+// False when the stop event ended it.
+bool CInterprocessCommunicationWin::serveOneClient()
+{
+    const Wake connected = waitForIo();
+    if (connected != Wake::io)
+        return connected != Wake::stop;
+
+    if (!ReadFile(pipe.get(), receiveBuffer.get(), static_cast<DWORD>(sys::largestFrame), nullptr,
+                  &overlapped)) {
+        const DWORD error = GetLastError();
+        if (error != ERROR_IO_PENDING && error != ERROR_MORE_DATA) {
+            logFailure(__LINE__, "ReadFile", error);
+            return true;
+        }
+    }
+    if (waitForIo() == Wake::stop)
+        return false;
+
+    DWORD received = 0;
+    if (!GetOverlappedResult(pipe.get(), &overlapped, &received, FALSE)) {
+        logFailure(__LINE__, "GetOverlappedResult", GetLastError());
+        return true;
+    }
+    deliver(received);
+    return true;
+}
+
+void CInterprocessCommunicationWin::deliver(std::uint32_t received)
+{
+    if (!receiver)
+        return;
+    if (const auto request = sys::readRequest(receiveBuffer.get(), received))
+        receiver->onMessageFromOtherProcess(request->pid, std::string(request->text));
+    // A request that was too short to be delivered gets what the receiver answered last.
+    writeAnswer(std::string(receiver->answerText));
+}
+
+void CInterprocessCommunicationWin::writeAnswer(const std::string& answer)
+{
+    if (answer.empty())
+        return;
+    const std::size_t size = sys::writeFrame(sendBuffer.get(), GetCurrentProcessId(), answer);
+    if (size == 0)
+        return;
+    DWORD written = 0;
+    if (!WriteFile(pipe.get(), sendBuffer.get(), static_cast<DWORD>(size), &written, nullptr))
+        logFailure(__LINE__, "WriteFile", GetLastError());
+}
+
+CInterprocessCommunicationWin::Wake CInterprocessCommunicationWin::waitForIo() const
+{
+    const HANDLE events[] = {stopEvent.get(), ioEvent.get()};
+    switch (WaitForMultipleObjects(2, events, FALSE, INFINITE)) {
+    case WAIT_OBJECT_0:
+        return Wake::stop;
+    case WAIT_OBJECT_0 + 1:
+        return Wake::io;
+    default:
+        logFailure(__LINE__, "WaitForMultipleObjects", GetLastError());
+        return Wake::failure;
+    }
+}
