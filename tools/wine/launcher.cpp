@@ -12,6 +12,8 @@
 #include <windows.h>
 
 #include <cstdio>
+#include <cwchar>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -87,6 +89,26 @@ bool loadInto(HANDLE process, const std::wstring& library)
     return true;
 }
 
+// tools/wine-run hands Qt's variables over as HOST_QT_NAME, since Wine drops QT_NAME.
+void restoreQtVariables()
+{
+    constexpr wchar_t handedOver[] = L"HOST_QT_";
+    constexpr size_t handedOverLength = std::size(handedOver) - 1;
+    constexpr size_t prefixLength = 5;
+    wchar_t* const block = GetEnvironmentStringsW();
+    if (block == nullptr) {
+        return;
+    }
+    for (const wchar_t* entry = block; *entry != L'\0'; entry += std::wcslen(entry) + 1) {
+        const wchar_t* const equals = std::wcschr(entry, L'=');
+        if (equals != nullptr && std::wcsncmp(entry, handedOver, handedOverLength) == 0) {
+            const std::wstring name(entry + prefixLength, equals);
+            SetEnvironmentVariableW(name.c_str(), equals + 1);
+        }
+    }
+    FreeEnvironmentStringsW(block);
+}
+
 // The program must not outlive a launcher that is killed; what the program itself starts may.
 Handle jobThatEndsWithUs()
 {
@@ -111,6 +133,7 @@ int main()
         std::fprintf(stderr, "usage: launcher PROGRAM [ARGS...]\n");
         return static_cast<int>(cannotStart);
     }
+    restoreQtVariables();
     STARTUPINFOW startup{};
     GetStartupInfoW(&startup);
     PROCESS_INFORMATION started{};
