@@ -1,0 +1,33 @@
+#include "ui/common/config/common_config.h"
+
+#include "ui/common/sys/folders.h"
+#include "ui/common/sys/text_convert.h"
+#include "ui/uninstall/src/app_catalogue.h"
+
+#include <filesystem>
+
+namespace fs {
+
+std::unique_ptr<CConfig> makeCommonConfig()
+{
+    auto config = std::make_unique<CConfig>();
+    const std::filesystem::path folder = sys::folderPath(sys::FolderKind::suiteSettings);
+    config->setFileName(folder / L"common.cfg");
+    config->load();
+    return config;
+}
+
+CConfig& commonConfig()
+{
+    static const std::unique_ptr<CConfig> config = makeCommonConfig();
+    return *config;
+}
+
+std::wstring applicationConfigPath(int appId)
+{
+    const std::filesystem::path folder =
+        sys::folderPath(sys::FolderKind::suiteSettings, static_cast<unsigned>(appId));
+    return folder / (sys::fromUtf8(uninstall::idToString(appId)) + L".cfg");
+}
+
+} // namespace fs

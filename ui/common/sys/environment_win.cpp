@@ -1,0 +1,18 @@
+#include "ui/common/sys/environment.h"
+
+#include "ui/common/sys/text_convert.h"
+
+#include <windows.h>
+
+namespace sys {
+
+std::string environmentVariable(const char* name)
+{
+    wchar_t value[2048] = {};
+    constexpr DWORD capacity = static_cast<DWORD>(std::size(value));
+    // A value that does not fit yields the size that it needs.
+    const DWORD size = GetEnvironmentVariableW(fromUtf8(name).c_str(), value, capacity);
+    return size < capacity ? toUtf8({value, size}) : std::string();
+}
+
+} // namespace sys

@@ -1,0 +1,98 @@
+#include "ui/common/sys/file_io.h"
+
+#include "ui/common/sys/file_io_open.h"
+#include "ui/common/sys/result_codes.h"
+#include "ui/common/sys/win32_error.h"
+
+#include <cstring>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <optional>
+
+#include <windows.h>
+
+namespace sys {
+
+namespace {
+
+constexpr const char* category = "System";
+constexpr const char* source = "ui/common/sys/file_io";
+
+struct StreamCloser
+{
+    void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+using Stream = std::unique_ptr<std::FILE, StreamCloser>;
+
+int openStream(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
+{
+    return _wfopen_s(stream, path, mode);
+}
+
+// The stream's size in bytes; the stream stands at its start again.
+std::optional<std::size_t> sizeOf(std::FILE* stream)
+{
+    if (_fseeki64(stream, 0, SEEK_END) != 0)
+        return std::nullopt;
+    const __int64 size = _ftelli64(stream);
+    if (size < 0 || _fseeki64(stream, 0, SEEK_SET) != 0)
+        return std::nullopt;
+    return static_cast<std::size_t>(size);
+}
+
+} // namespace
+
+int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
+{
+    try {
+        std::FILE* opened = nullptr;
+        if (const int error = open(&opened, path.c_str(), L"rb"); error != 0)
+            return error;
+        const Stream stream(opened);
+        if (!stream)
+            return openedWithoutStream;
+        const std::optional<std::size_t> size = sizeOf(stream.get());
+        if (!size)
+            return readOrWriteFailed;
+        std::string bytes(*size, '\0');
+        // Another process may have cut the file since: what there is counts.
+        bytes.resize(std::fread(bytes.data(), 1, bytes.size(), stream.get()));
+        if (std::ferror(stream.get()) != 0) {
+            win32::logFailure(category, source, __LINE__, "ReadFile", GetLastError());
+            return readOrWriteFailed;
+        }
+        content.swap(bytes);
+        return success;
+    } catch (const std::exception&) {
+        return readOrWriteFailed; // the file does not fit into memory
+    }
+}
+
+int readWholeFile(const std::wstring& path, std::string& content)
+{
+    return readWholeFile(path, content, &openStream);
+}
+
+int writeWholeFile(const std::wstring& path, const std::string& text)
+{
+    try {
+        std::ofstream stream;
+        stream.exceptions(std::ios::badbit | std::ios::failbit);
+        stream.open(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
+        stream.write(text.data(), static_cast<std::streamsize>(std::strlen(text.c_str())));
+        stream.close();
+        return success;
+    } catch (const std::exception&) {
+        win32::logFailure(category, source, __LINE__, "WriteFile", GetLastError());
+        return readOrWriteFailed;
+    }
+}
+
+bool fileExists(const std::wstring& path)
+{
+    return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+} // namespace sys
