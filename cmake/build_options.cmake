@@ -12,8 +12,10 @@ if(MSVC)
     set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
 else()
     target_compile_options(tessera_build_options INTERFACE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+        -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wnon-virtual-dtor
         -Woverloaded-virtual -Wold-style-cast -Wcast-qual -Wformat=2 -Wundef
+        # Constructor parameters carry their fields' names, so only locals must not shadow.
+        $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow>
         $<$<BOOL:${TESSERA_WERROR}>:-Werror>)
     # Unused functions and data of the static libraries leave the program at link time.
     add_compile_options(-ffunction-sections -fdata-sections)

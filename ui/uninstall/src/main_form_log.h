@@ -1,0 +1,18 @@
+#pragma once
+
+#include <ostream>
+
+#include "support/keelbase/keelbase.h"
+
+namespace uninstall {
+
+// Every message of the main window, whichever of its source files writes it, goes under one
+// category and one source name; support staff search for both.
+template <typename Compose>
+void logMainForm(int sourceLine, Compose&& compose)
+{
+    Keelbase::log(Keelbase::levelInformation, "MainForm", "ui/uninstall/src/widget", sourceLine,
+                  std::forward<Compose>(compose));
+}
+
+} // namespace uninstall

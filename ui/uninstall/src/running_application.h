@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace uninstall {
+
+// True when an instance mutex with this application's id string exists: every application of the
+// suite holds "Global\Lumacraft_" + id string while it runs. Any thread.
+bool applicationIsRunning(const std::string& idString);
+
+} // namespace uninstall

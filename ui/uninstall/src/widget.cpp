@@ -1,0 +1,180 @@
+#include "ui/uninstall/src/widget.h"
+
+#include <QCloseEvent>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QSettings>
+#include <QTimer>
+
+#include "ui/common/config/common_config.h"
+#include "ui/common/config/runtime_brand.h"
+#include "ui/common/lang/translators.h"
+#include "ui/common/sys/environment.h"
+#include "ui/uninstall/src/app_catalogue.h"
+#include "ui/uninstall/src/command_line.h"
+#include "ui/uninstall/src/main_form_log.h"
+#include "ui/uninstall/src/registry_keys.h"
+#include "ui_widget.h"
+
+using uninstall::logMainForm;
+
+Widget::Widget(std::vector<std::string> arguments, QWidget* parent)
+    : CInterprocessCommunicationApp(std::move(arguments), parent, true, 0),
+      ui(std::make_unique<Ui::Widget>()), currentAppId(uninstall::suiteId)
+{
+    logMainForm(__LINE__, [](std::ostream& out) { out << "-->Widget::Widget()"; });
+
+    ui->setupUi(this);
+    setWindowFlags(Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
+    setWindowIcon(QIcon(QStringLiteral(":/uninstall_ico_48x48.png")));
+
+    translators = new lang::CTranslators(
+        this, QStringLiteral(":/language"), QStringLiteral("en"), QStringLiteral("English"),
+        QStringLiteral("SupportLanguages"), {QStringLiteral("uninstall_%1.qm")});
+    translators->setLanguage(
+        QString::fromLatin1(fs::commonConfig().getValue("Language", "en").c_str()));
+    ui->retranslateUi(this);
+
+    fillList();
+    connectControls();
+
+    selectApplication(QString::fromLocal8Bit(uninstall::appArgument(startArguments()).c_str()));
+    QTimer::singleShot(0, this, &Widget::on_firstShow);
+}
+
+Widget::~Widget()
+{
+    logMainForm(__LINE__, [](std::ostream& out) { out << "~Widget()"; });
+    ui.reset();
+}
+
+void Widget::fillList()
+{
+    const std::string& brand = fs::runtimeBrandName();
+    logMainForm(__LINE__, [&brand](std::ostream& out) {
+        out << "Try to fill list widget (runtime brand: " << brand << ")";
+    });
+
+    const QSettings registered(uninstall::uninstallListKey(), QSettings::NativeFormat);
+    const QStringList names = registered.childKeys();
+    for (const QString& name : names) {
+        auto* item = new QListWidgetItem(name);
+        item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
+        item->setCheckState(Qt::Unchecked);
+        ui->listWidget->addItem(item);
+    }
+
+    ui->btnAllApplicationsSel->setEnabled(false);
+    setSelectButtonMode(true);
+    if (ui->listWidget->count() > 0)
+        ui->btnAllApplicationsSel->setEnabled(true);
+    ui->btnUninstall->setEnabled(false);
+    ui->cbDeleteSettings->setEnabled(false);
+}
+
+void Widget::connectControls()
+{
+    connect(ui->btnAllApplicationsSel, &QPushButton::clicked, this,
+            &Widget::allApplicationsSelButtonClicked);
+    connect(ui->btnUninstall, &QPushButton::clicked, this, &Widget::uninstallButtonClicked);
+    connect(ui->listWidget, &QListWidget::itemClicked, this, &Widget::toggleItem);
+    connect(this, &Widget::firstShow, this, &Widget::on_firstShow);
+    // The list reports clicks only, so the space bar needs a watcher of its own.
+    ui->listWidget->installEventFilter(this);
+}
+
+void Widget::showEvent(QShowEvent*)
+{
+    // Debug builds of the suite's applications branch here; this one has nothing to add, and
+    // QMainWindow has no show handling of its own to forward to.
+    const bool debugging = sys::environmentSwitch("CV_DEBUG");
+    Q_UNUSED(debugging)
+}
+
+void Widget::closeEvent(QCloseEvent* event)
+{
+    // A run ends the program by itself; leaving in the middle would abandon the remaining rows.
+    event->setAccepted(!runInProgress);
+}
+
+bool Widget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == ui->listWidget && event->type() == QEvent::KeyRelease &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space)
+        toggleItem(ui->listWidget->currentItem());
+    return CInterprocessCommunicationApp::eventFilter(watched, event);
+}
+
+void Widget::on_firstShow()
+{
+    // Must stay empty: the window's first moments belong to the user.
+}
+
+void Widget::selectApplication(QString id)
+{
+    const auto rows = uninstall::rowsOfApplication(listRows(), id.toLocal8Bit().toStdString());
+    for (const std::size_t row : rows) {
+        ui->listWidget->item(static_cast<int>(row))->setCheckState(Qt::Checked);
+        ui->btnUninstall->setEnabled(true);
+        ui->cbDeleteSettings->setEnabled(true);
+    }
+}
+
+void Widget::allApplicationsSelButtonClicked()
+{
+    logMainForm(__LINE__, [](std::ostream& out) { out << "allApplicationsSelButtonClicked"; });
+    const bool selectAll = ui->btnAllApplicationsSel->property("state").toBool();
+    changeItemsState(selectAll);
+    setSelectButtonMode(!selectAll);
+    ui->btnUninstall->setEnabled(selectAll);
+    ui->cbDeleteSettings->setEnabled(selectAll);
+    if (selectAll)
+        ui->cbDeleteSettings->setChecked(true);
+}
+
+void Widget::changeItemsState(bool checked)
+{
+    logMainForm(__LINE__,
+                [checked](std::ostream& out) { out << "changeItemsState: " << (checked ? 1 : 0); });
+    for (int row = 0; row < ui->listWidget->count(); ++row)
+        ui->listWidget->item(row)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+}
+
+void Widget::setSelectButtonMode(bool changeTextToSelectAll)
+{
+    ui->btnAllApplicationsSel->setText(changeTextToSelectAll ? tr("Select all")
+                                                             : tr("Select none"));
+    ui->btnAllApplicationsSel->setProperty("state", changeTextToSelectAll ? 1 : 0);
+}
+
+void Widget::toggleItem(QListWidgetItem*)
+{
+    // Removing the suite removes everything, so its row checks all the others.
+    if (uninstall::suiteRowChecked(listRows())) {
+        for (int row = 0; row < ui->listWidget->count(); ++row)
+            ui->listWidget->item(row)->setCheckState(Qt::Checked);
+    }
+
+    const uninstall::ControlState controls = uninstall::controlState(listRows());
+    if (controls.anyChecked) {
+        ui->btnUninstall->setEnabled(true);
+        ui->cbDeleteSettings->setEnabled(true);
+    }
+    setSelectButtonMode(!controls.allChecked);
+    if (!controls.anyChecked) {
+        changeItemsState(false);
+        ui->btnUninstall->setEnabled(false);
+        ui->cbDeleteSettings->setEnabled(false);
+    }
+}
+
+std::vector<uninstall::ListRow> Widget::listRows() const
+{
+    std::vector<uninstall::ListRow> rows;
+    rows.reserve(static_cast<std::size_t>(ui->listWidget->count()));
+    for (int row = 0; row < ui->listWidget->count(); ++row) {
+        const QListWidgetItem* item = ui->listWidget->item(row);
+        rows.push_back({item->text().toStdString(), item->checkState() == Qt::Checked});
+    }
+    return rows;
+}

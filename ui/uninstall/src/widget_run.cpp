@@ -1,0 +1,164 @@
+// The uninstall run of the main window: the registry, processes and boxes behind the steps that
+// uninstall_run.h puts in order.
+
+#include "ui/uninstall/src/widget.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <QProcess>
+#include <QSettings>
+
+#include "ui/common/config/runtime_brand.h"
+#include "ui/uninstall/src/main_form_log.h"
+#include "ui/uninstall/src/registry_keys.h"
+#include "ui/uninstall/src/responsive_wait.h"
+#include "ui/uninstall/src/running_application.h"
+#include "ui/uninstall/src/uninstall_command.h"
+#include "ui/uninstall/src/uninstall_run.h"
+#include "ui_widget.h"
+
+using uninstall::logMainForm;
+
+namespace {
+
+constexpr int uninstallerWaitMs = 2000;
+
+// Set by Cancel in the running-application warning; the rest of the run then does nothing.
+bool uninstallCancelled = false;
+
+} // namespace
+
+class Widget::UninstallSteps : public uninstall::IUninstallSteps
+{
+public:
+    explicit UninstallSteps(Widget& widget)
+        : widget(widget), registered(uninstall::uninstallListKey(), QSettings::NativeFormat)
+    {
+        for (int row = 0; row < widget.ui->listWidget->count(); ++row)
+            items.push_back(widget.ui->listWidget->item(row));
+    }
+
+    std::size_t rowCount() const { return items.size(); }
+
+    bool isChecked(std::size_t row) override { return items[row]->checkState() == Qt::Checked; }
+
+    std::string command(std::size_t row) override
+    {
+        return registered.value(items[row]->text()).toString().toStdString();
+    }
+
+    void setCurrentAppId(int id) override { widget.currentAppId = id; }
+    void openExitSurvey(int id) override { widget.openExitSurvey(id); }
+
+    bool isRunning(const std::string& idString) override
+    {
+        return uninstall::applicationIsRunning(idString);
+    }
+
+    void showWarningAndKillApp(const std::string& idString) override
+    {
+        widget.showWarningAndKillApp(idString, true);
+    }
+
+    bool cancelled() override { return uninstallCancelled; }
+
+    void uninstall(int remaining, int index, const std::vector<std::string>& commandParts,
+                   bool full) override
+    {
+        widget.DoUninsstall(remaining, index, commandParts, full);
+    }
+
+    // The item leaves the list with its deletion.
+    void removeRow(std::size_t row) override { delete items[row]; }
+
+private:
+    Widget& widget;
+    QSettings registered;
+    std::vector<QListWidgetItem*> items;
+};
+
+void Widget::uninstallButtonClicked()
+{
+    logMainForm(__LINE__, [](std::ostream& out) { out << "--> uninstallButtonClicked"; });
+    uninstallCancelled = false;
+    runInProgress = true;
+    UninstallSteps steps(*this);
+    uninstall::runUninstall(steps.rowCount(), steps);
+    QCoreApplication::quit();
+}
+
+void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
+{
+    logMainForm(__LINE__,
+                [&appName](std::ostream& out) { out << "--> showWarningAndKillApp: " << appName; });
+
+    const QString idString = QString::fromStdString(appName);
+    QString shownName = idString;
+    if (isLMCApp) {
+        const QSettings paths(uninstall::applicationPathsKey(), QSettings::NativeFormat);
+        const std::string installPath = paths.value(idString).toString().toStdString();
+        shownName =
+            QString::fromStdString(uninstall::shownName(installPath, fs::runtimeBrandName()));
+    }
+
+    // The suite's applications show this question with the program's own picture. Here that box is
+    // only kept ready; a removal is asked about with the system's plain warning.
+    QMessageBox branded(this);
+    branded.setIconPixmap(QIcon(QStringLiteral(":/uninstall_ico_48x48.png")).pixmap(48, 48));
+
+    const QMessageBox::StandardButton answer = QMessageBox::warning(
+        this, tr("Uninstallation"),
+        tr("%1 is running.\nPlease click OK to close this application or click Cancel to exit.")
+            .arg(shownName),
+        QMessageBox::Ok | QMessageBox::Cancel);
+    if (answer != QMessageBox::Ok) {
+        // In this order: the select-button slot sees the rows just unchecked. In a selective run
+        // it checks them all again, in a full run it leaves them unchecked and disables the
+        // buttons; the run ends soon after either way.
+        changeItemsState(false);
+        allApplicationsSelButtonClicked();
+        uninstallCancelled = true;
+        return;
+    }
+
+    // Not waited for: the application's own uninstaller copes with one that is still closing.
+    auto* taskkill = new QProcess(this);
+    taskkill->start(
+        QStringLiteral("taskkill"),
+        {QStringLiteral("/IM"), idString + QStringLiteral(".exe"), QStringLiteral("/F")},
+        QIODevice::ReadWrite);
+}
+
+void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& commandParts,
+                          bool full)
+{
+    logMainForm(__LINE__, [full](std::ostream& out) {
+        out << "--> DoUninsstall: " << (full ? "full" : "selective");
+    });
+    const std::string program = uninstall::programOf(commandParts);
+    if (program.empty())
+        return;
+    logMainForm(__LINE__, [&program](std::ostream& out) { out << "DoUninsstall: " << program; });
+
+    // Has no owner on purpose: an uninstaller that takes longer than the wait goes on by itself,
+    // while deleting its QProcess would kill it. The object ends with its program.
+    auto* uninstaller = new QProcess;
+    connect(uninstaller, &QProcess::stateChanged, uninstaller,
+            [uninstaller](QProcess::ProcessState now) {
+                if (now == QProcess::NotRunning)
+                    uninstaller->deleteLater();
+            });
+
+    const uninstall::RunOptions options{remaining, full, ui->cbDeleteSettings->isChecked()};
+    if (uninstall::writesUninstallMode(options)) {
+        QSettings suite(uninstall::suiteKey(), QSettings::NativeFormat);
+        suite.setValue(QStringLiteral("UninstallMode"), 1);
+    }
+
+    QStringList arguments;
+    for (const std::string& argument : uninstall::uninstallArguments(commandParts, options))
+        arguments.append(QString::fromStdString(argument));
+    uninstaller->start(QString::fromStdString(program), arguments, QIODevice::ReadWrite);
+    uninstall::waitForFinished(*uninstaller, uninstallerWaitMs);
+}
