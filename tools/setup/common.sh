@@ -1,6 +1,8 @@
 # shellcheck shell=bash
 # Shared by the set-up scripts: where the cache is, one-at-a-time locks, stages with visible
-# progress, and Debian source packages. Sourced, never run.
+# progress, and Debian source packages. Sourced, never run. The caller sets $setupName (shown in
+# front of every line) and, before its first stage, $setupLog.
+# shellcheck disable=SC2154
 
 setupStart=$SECONDS
 stagePid=""
@@ -63,11 +65,11 @@ trap 'stopStage; exit 143' TERM HUP
 
 # progressOf LOG STEPS: "43 %, src/corelib" from the compiler lines in a log.
 progressOf() {
-    local log=$1 steps=$2 done last percent=""
-    done=$(grep -cE '^[^ ]*(g\+\+|gcc)[^ ]* .*-c |^  CC ' "$log" || true)
+    local log=$1 steps=$2 count last percent=""
+    count=$(grep -cE '^[^ ]*(g\+\+|gcc)[^ ]* .*-c |^  CC ' "$log" || true)
     last=$(grep -oE '[^ ]+\.(cpp|c|cc)( |$)' "$log" | tail -n 1 | sed 's,^\(\.\./\)*,,' || true)
     if ((steps > 0)); then
-        percent=$((done * 100 / steps))
+        percent=$((count * 100 / steps))
         ((percent > 99)) && percent=99
         percent="$percent %, "
     fi
@@ -105,6 +107,7 @@ runStage() {
 
 # The machine's own mirrors, as source lists; nothing on the machine is changed.
 writeSourceList() {
+    # shellcheck disable=SC2016 # the placeholders are apt's
     apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' |
         sort -u | sed 's/^/deb-src /'
 }

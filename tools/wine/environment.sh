@@ -4,12 +4,13 @@
 
 # Debian's /usr/bin/wine prints a hint about 32-bit support at every start; the 64-bit loader
 # behind it does not.
-wineLoader=/usr/lib/wine/wine64
-wineServer=/usr/lib/wine/wineserver
-# shellcheck disable=SC2034 # used by the scripts that source this file
-wineLibraries=/usr/lib/x86_64-linux-gnu/wine/x86_64-windows
-# shellcheck disable=SC2034
-wineData=/usr/share/wine
+# shellcheck disable=SC2034 # the names are used by the scripts that source this file
+{
+    wineLoader=/usr/lib/wine/wine64
+    wineServer=/usr/lib/wine/wineserver
+    wineLibraries=/usr/lib/x86_64-linux-gnu/wine/x86_64-windows
+    wineData=/usr/share/wine
+}
 if [[ ! -x $wineLoader ]]; then
     wineLoader=$(command -v wine64 || command -v wine || echo wine)
     wineServer=$(command -v wineserver || echo wineserver)

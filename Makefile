@@ -1,0 +1,48 @@
+# The few commands that a person needs; each one first sets up what is missing. CMake presets do
+# the work (see CMakePresets.json and docs/building.md).
+
+SHELL := /bin/bash
+.DEFAULT_GOAL := help
+.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo test lint format clean
+
+help: ## list the targets
+	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-8s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
+
+setup: setup-packages ## install what is missing; build Qt and libcurl for Windows once
+	@+$(MAKE) --no-print-directory -j3 setup-qt setup-curl setup-wine
+
+setup-packages:
+	@tools/setup/packages.sh
+
+setup-qt:
+	@tools/setup/qt.sh
+
+setup-curl:
+	@tools/setup/curl.sh
+
+setup-wine:
+	@tools/setup/wine_template.sh
+
+build: setup ## build build/windows/Uninstall.exe
+	@tools/setup/configure.sh windows-cross
+	@cmake --build --preset windows-cross
+
+run: build ## use the program on a sample suite: in a window, or as "make demo" without a display
+	@if [[ -n "$$DISPLAY" ]]; then tools/demo/run; else tools/demo/demo; fi
+
+demo: build ## drive the program through a full run; transcript, screenshots in build/demo/
+	@tools/demo/demo
+
+test: setup ## build and run every test, host and Windows
+	@tools/run_tests.sh
+
+lint: ## check formatting, shell scripts and spelling
+	@tools/setup/packages.sh lint
+	@tools/lint.sh
+
+format: ## format all C++ sources
+	@tools/setup/packages.sh lint
+	@git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format -i
+
+clean: ## remove build/ (Qt, libcurl and the Wine template stay in the cache)
+	@rm -rf build

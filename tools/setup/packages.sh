@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building, testing and running need; does nothing, and asks for
+# no rights, when they are all there.
+#
+#   tools/setup/packages.sh         for build, test and run
+#   tools/setup/packages.sh lint    for "make lint" and "make format" as well
+set -euo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+setupName=packages
+# shellcheck source=tools/setup/common.sh
+source "$here/common.sh"
+
+packages=(
+    # the host's tools, compiler and libraries
+    cmake ninja-build ccache g++ python3 perl xz-utils dpkg-dev
+    libspdlog-dev libfmt-dev libcurl4-openssl-dev googletest libbenchmark-dev
+    # the cross compiler, and the host's side of Qt 5
+    g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 qtbase5-dev-tools qt5-qmake-bin
+    qttools5-dev-tools
+    # running Windows programs, and looking at them
+    wine wine64 xvfb openbox xdotool imagemagick
+    # the last two hold Chinese, Japanese, Korean and Thai letters
+    fonts-open-sans fonts-droid-fallback fonts-tlwg-garuda-ttf
+    # the sample suite's installers
+    nsis
+)
+if [[ ${1:-} == lint ]]; then
+    packages+=(clang-format clang-tidy cppcheck shellcheck codespell)
+fi
+
+missing=()
+while read -r package; do
+    missing+=("$package")
+done < <(comm -23 <(printf '%s\n' "${packages[@]}" | sort) \
+    <(dpkg-query -W -f '${db:Status-Status} ${Package}\n' | sed -n 's/^installed //p' | sort -u))
+((${#missing[@]} == 0)) && exit 0
+
+asRoot=()
+if ((EUID != 0)); then
+    command -v sudo >/dev/null ||
+        die "these packages are missing and there is no sudo to install them: ${missing[*]}"
+    asRoot=(sudo)
+fi
+say "installing ${#missing[@]} packages: ${missing[*]}"
+setupLog=$(mktemp "${TMPDIR:-/tmp}/tessera-packages.XXXXXX.log")
+
+# sudo resets the environment, hence env; the lock is waited for because a fresh machine may be
+# busy with its own updates.
+aptGet() {
+    "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get -q -o DPkg::Lock::Timeout=300 "$@"
+}
+
+# In the foreground and on the terminal, where sudo can ask for its password.
+if ((EUID != 0)); then
+    sudo -v
+fi
+runStage "updating the package lists" 0 aptGet update
+runStage "installing" 0 aptGet install -y --no-install-recommends "${missing[@]}"
+rm -f "$setupLog"
+say "done"
