@@ -1,0 +1,183 @@
+#include "support/netpull/netpull.h"
+
+#include <algorithm>
+#include <curl/curl.h>
+#include <memory>
+#include <mutex>
+
+namespace netpull {
+namespace {
+
+struct EasyHandleEnd
+{
+    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+};
+using EasyHandle = std::unique_ptr<CURL, EasyHandleEnd>;
+
+struct HeaderListEnd
+{
+    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+};
+using HeaderList = std::unique_ptr<curl_slist, HeaderListEnd>;
+
+// Sets options on one handle and remembers the first refusal.
+class Options
+{
+public:
+    explicit Options(CURL* handle) : handle(handle) {}
+
+    template <typename Value>
+    void set(CURLoption option, Value value)
+    {
+        if (outcome == CURLE_OK)
+            outcome = curl_easy_setopt(handle, option, value);
+    }
+    void set(CURLoption option, const std::string& text) { set(option, text.c_str()); }
+
+    CURLcode result() const { return outcome; }
+
+private:
+    CURL* handle;
+    CURLcode outcome = CURLE_OK;
+};
+
+struct Answer
+{
+    std::string body;
+    bool tooLong = false;
+};
+
+std::size_t takeBody(char* data, std::size_t, std::size_t count, void* target)
+{
+    Answer& answer = *static_cast<Answer*>(target);
+    if (count > answerLimit - answer.body.size()) {
+        answer.tooLong = true;
+        return 0;
+    }
+    answer.body.append(data, count);
+    return count;
+}
+
+bool append(HeaderList& list, const std::string& header)
+{
+    curl_slist* extended = curl_slist_append(list.get(), header.c_str());
+    if (extended == nullptr)
+        return false;
+    static_cast<void>(list.release());
+    list.reset(extended);
+    return true;
+}
+
+void setLimits(Options& options, const Request& request)
+{
+    options.set(CURLOPT_TIMEOUT, long{std::min(request.timeoutSeconds, request.longestSeconds)});
+    options.set(CURLOPT_CONNECTTIMEOUT, long{request.connectSeconds});
+    options.set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(answerLimit));
+    // Time-outs by signal would reach a random thread of the program.
+    options.set(CURLOPT_NOSIGNAL, 1L);
+}
+
+void setSecurity(Options& options, const Request& request)
+{
+    options.set(CURLOPT_PROTOCOLS_STR, "http,https");
+    options.set(CURLOPT_FOLLOWLOCATION, 0L);
+    options.set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});
+    options.set(CURLOPT_SSL_VERIFYPEER, request.verifyServer ? 1L : 0L);
+    options.set(CURLOPT_SSL_VERIFYHOST, request.verifyServer ? 2L : 0L);
+    // A revocation list that cannot be reached must not cost the connection.
+    options.set(CURLOPT_SSL_OPTIONS, long{CURLSSLOPT_REVOKE_BEST_EFFORT});
+}
+
+void setProxy(Options& options, const Proxy& proxy)
+{
+    // Empty texts, not absent ones: the variables http_proxy and no_proxy must not decide.
+    options.set(CURLOPT_PROXY, proxy.address);
+    options.set(CURLOPT_NOPROXY, "");
+    if (proxy.address.empty())
+        return;
+    options.set(CURLOPT_PROXYTYPE, long{CURLPROXY_HTTP});
+    options.set(CURLOPT_PROXYPORT, long{proxy.port});
+    options.set(CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
+    if (proxy.user.empty() && proxy.password.empty())
+        return;
+    options.set(CURLOPT_PROXYAUTH, static_cast<long>(CURLAUTH_BASIC));
+    options.set(CURLOPT_PROXYUSERNAME, proxy.user);
+    options.set(CURLOPT_PROXYPASSWORD, proxy.password);
+}
+
+void setMessage(Options& options, const Request& request, HeaderList& headers)
+{
+    options.set(CURLOPT_URL, request.url);
+    options.set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
+    bool complete = true;
+    for (const std::string& header : request.headers)
+        complete = complete && append(headers, header);
+    if (request.method == Method::post) {
+        options.set(CURLOPT_POST, 1L);
+        options.set(CURLOPT_POSTFIELDS, request.postData.data());
+        options.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.postData.size()));
+        // A long form goes out at once instead of waiting a second for "100 Continue".
+        complete = complete && append(headers, "Expect:");
+    }
+    if (!complete)
+        throw std::bad_alloc();
+    options.set(CURLOPT_HTTPHEADER, headers.get());
+}
+
+bool isPossible(const Request& request)
+{
+    const bool proxyPortIsValid =
+        request.proxy.address.empty() || (request.proxy.port > 0 && request.proxy.port <= 65535);
+    return proxyPortIsValid && request.httpVersion == 1 && request.timeoutSeconds > 0 &&
+           request.longestSeconds > 0 && request.connectSeconds > 0;
+}
+
+} // namespace
+
+void init()
+{
+    // Never undone: a post may still be under way while the process's statics are destroyed.
+    static std::once_flag once;
+    std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
+}
+
+Response fetch(const Request& request)
+{
+    init();
+    Response response;
+    if (!isPossible(request)) {
+        response.transportCode = CURLE_BAD_FUNCTION_ARGUMENT;
+        return response;
+    }
+    // Before the handle, which uses it until its own end.
+    HeaderList headers;
+    const EasyHandle handle(curl_easy_init());
+    if (!handle) {
+        response.transportCode = CURLE_FAILED_INIT;
+        return response;
+    }
+
+    Answer answer;
+    Options options(handle.get());
+    setMessage(options, request, headers);
+    setProxy(options, request.proxy);
+    setSecurity(options, request);
+    setLimits(options, request);
+    options.set(CURLOPT_WRITEFUNCTION, &takeBody);
+    options.set(CURLOPT_WRITEDATA, static_cast<void*>(&answer));
+
+    CURLcode outcome = options.result();
+    if (outcome == CURLE_OK)
+        outcome = curl_easy_perform(handle.get());
+    if (answer.tooLong)
+        outcome = CURLE_FILESIZE_EXCEEDED;
+
+    long status = 0;
+    curl_easy_getinfo(handle.get(), CURLINFO_RESPONSE_CODE, &status);
+    response.transportCode = static_cast<int>(outcome);
+    response.httpStatus = static_cast<int>(status);
+    response.body = std::move(answer.body);
+    return response;
+}
+
+} // namespace netpull

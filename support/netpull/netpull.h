@@ -1,0 +1,59 @@
+#pragma once
+
+// netpull: one HTTP or HTTPS request, answered or given up within its time-out.
+//
+// Servers are verified against the system's certificate store. Redirects are not followed: the
+// caller gets the 3xx answer, and a form is never repeated to an address that nobody chose.
+// Nothing is added to a request beyond what HTTP asks for: no agent name, no cookies, and no
+// proxy from the environment.
+//
+// Threads: everything here may be called from any thread. fetch blocks its caller until the
+// answer is complete or has failed. Nothing throws except std::bad_alloc.
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace netpull {
+
+// Longer answers are refused with transport code 63. The suite's services answer in a few bytes.
+constexpr std::size_t answerLimit = 1024 * 1024;
+
+struct Proxy
+{
+    std::string address; // host name or address of an HTTP proxy; empty: straight to the server
+    int port = 80;       // 1 to 65535
+    std::string user;    // sent as Basic credentials with the first request, unless both are empty
+    std::string password;
+};
+
+enum class Method { get, post };
+
+struct Request
+{
+    std::string url; // http:// or https://
+    Method method = Method::get;
+    std::string postData;             // sent as it is with Method::post, else ignored
+    std::vector<std::string> headers; // "Name: value" each
+    Proxy proxy;
+
+    bool verifyServer = true; // refuse a certificate that is not trusted or is for another host
+    int httpVersion = 1;      // major version of HTTP to speak; only 1 is known
+    int longestSeconds = 15;  // no request lasts longer, whatever timeoutSeconds says
+    int connectSeconds = 10;  // of which at most this long for name, connection and handshake
+    int timeoutSeconds = 10;  // the whole transfer, from the name lookup to the last byte
+};
+
+struct Response
+{
+    int transportCode = 0; // 0, or libcurl's error code: the answer is missing or incomplete
+    int httpStatus = 0;    // 0 when there was no answer
+    std::string body;      // without the transfer encoding; what had arrived, after a failure
+};
+
+// Prepares the process for requests. Harmless when repeated; fetch calls it too.
+void init();
+
+Response fetch(const Request& request);
+
+} // namespace netpull

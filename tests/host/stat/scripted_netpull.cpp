@@ -1,0 +1,69 @@
+#include "tests/host/stat/scripted_netpull.h"
+
+#include <atomic>
+#include <gtest/gtest.h>
+#include <memory>
+#include <mutex>
+
+namespace {
+
+struct Script
+{
+    std::mutex mutex;
+    scripted::Server server;
+    std::vector<netpull::Request> requests;
+};
+
+Script& script()
+{
+    static Script instance;
+    return instance;
+}
+
+} // namespace
+
+namespace scripted {
+
+void setServer(Server server)
+{
+    const std::lock_guard lock(script().mutex);
+    script().server = std::move(server);
+    script().requests.clear();
+}
+
+void answerInOrder(std::vector<netpull::Response> answers)
+{
+    const auto next = std::make_shared<std::atomic<std::size_t>>(0);
+    setServer([answers = std::move(answers), next](const netpull::Request& request) {
+        const std::size_t index = (*next)++;
+        if (index < answers.size())
+            return answers[index];
+        ADD_FAILURE() << "a request too many: " << request.url;
+        return netpull::Response{7, 0, {}};
+    });
+}
+
+std::vector<netpull::Request> requests()
+{
+    const std::lock_guard lock(script().mutex);
+    return script().requests;
+}
+
+} // namespace scripted
+
+namespace netpull {
+
+void init() {}
+
+Response fetch(const Request& request)
+{
+    scripted::Server server;
+    {
+        const std::lock_guard lock(script().mutex);
+        script().requests.push_back(request);
+        server = script().server;
+    }
+    return server(request);
+}
+
+} // namespace netpull

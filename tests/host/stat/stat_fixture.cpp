@@ -1,0 +1,134 @@
+#include "tests/host/stat/stat_fixture.h"
+
+#include "ui/common/config/common_config.h"
+#include "ui/common/stat/guid.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <optional>
+#include <sstream>
+#include <unistd.h>
+
+namespace {
+
+std::filesystem::path settingsFolder;
+std::optional<std::string> nextGuid;
+int guidCount = 0;
+
+void writeFile(const std::filesystem::path& file, const std::string& text)
+{
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+} // namespace
+
+// The settings as the program finds them, in the test's folder.
+namespace fs {
+
+CConfig& commonConfig()
+{
+    static CConfig config;
+    return config;
+}
+
+std::wstring applicationConfigPath(int applicationId)
+{
+    return (settingsFolder / std::to_string(applicationId) / "application.cfg").wstring();
+}
+
+} // namespace fs
+
+namespace stats {
+
+std::string createGuid()
+{
+    ++guidCount;
+    return nextGuid.value_or("01234567-89ab-4cde-8f01-23456789abcd");
+}
+
+} // namespace stats
+
+void setNextGuid(const std::string& guid)
+{
+    nextGuid = guid;
+}
+
+int createdGuids()
+{
+    return guidCount;
+}
+
+void RecordingLogger::write(const Keelbase::LogRecord& record) noexcept
+{
+    const std::lock_guard lock(mutex);
+    written.push_back(std::to_string(record.level) + " " + record.category + " " +
+                      record.sourceFile + ":" + std::to_string(record.sourceLine) + " " +
+                      record.text);
+}
+
+std::vector<std::string> RecordingLogger::lines() const
+{
+    const std::lock_guard lock(mutex);
+    return written;
+}
+
+StatTest::StatTest()
+{
+    std::string pattern = (std::filesystem::temp_directory_path() / "stat-XXXXXX").string();
+    folder = mkdtemp(pattern.data());
+    settingsFolder = folder;
+    nextGuid.reset();
+    guidCount = 0;
+    common().setFileName(commonFile().wstring());
+    setLogLevel(Keelbase::levelDetail);
+    scripted::answerInOrder({});
+}
+
+StatTest::~StatTest()
+{
+    for (const std::string& name : environment)
+        unsetenv(name.c_str());
+    Keelbase::setLogger(nullptr);
+    std::filesystem::remove_all(folder);
+}
+
+void StatTest::setLogLevel(int level)
+{
+    logger = std::make_shared<RecordingLogger>(level);
+    Keelbase::setLogger(logger);
+}
+
+void StatTest::setEnvironment(const std::string& name, const std::string& value)
+{
+    environment.push_back(name);
+    setenv(name.c_str(), value.c_str(), 1);
+}
+
+fs::CConfig& StatTest::common()
+{
+    return fs::commonConfig();
+}
+
+std::filesystem::path StatTest::applicationFile(int applicationId) const
+{
+    return fs::applicationConfigPath(applicationId);
+}
+
+void StatTest::storeCommon(const std::string& text)
+{
+    writeFile(commonFile(), text);
+    common().reload();
+}
+
+void StatTest::storeApplication(int applicationId, const std::string& text)
+{
+    writeFile(applicationFile(applicationId), text);
+}
+
+std::string StatTest::contentOf(const std::filesystem::path& file)
+{
+    std::ostringstream content;
+    content << std::ifstream(file, std::ios::binary).rdbuf();
+    return content.str();
+}

@@ -1,0 +1,109 @@
+#include "ui/common/stat/app_event_stat.h"
+
+#include "support/keelbase/keelbase.h"
+#include "ui/common/config/common_config.h"
+#include "ui/common/stat/http_post_form.h"
+#include "ui/common/stat/service_endpoints.h"
+#include "ui/common/sys/environment.h"
+
+#include <ostream>
+#include <utility>
+
+namespace stats {
+namespace {
+
+// Support's log filters know these messages by category, source and line.
+constexpr const char* logCategory = "AppEventStat";
+constexpr const char* logSource = "ui/common/stat/app_event_stat";
+constexpr int rejectedLine = 65;
+constexpr int transportErrorLine = 68;
+constexpr int deliveredLine = 71;
+
+constexpr int firstRejectingStatus = 400;
+
+bool isRejected(const StatsPostResult& result)
+{
+    return result.transportCode == 0 && result.httpStatus >= firstRejectingStatus;
+}
+
+void postEvent(const std::string& body)
+{
+    const StatsPostResult first = httpPostForm(eventEndpoint, body, 0);
+    if (first.transportCode != 0) {
+        Keelbase::log(
+            Keelbase::levelDetail, logCategory, logSource, transportErrorLine,
+            [&](std::ostream& line) { line << "stats::sendEvent: curl " << first.transportCode; });
+        return;
+    }
+    if (!isRejected(first)) {
+        Keelbase::log(Keelbase::levelDetail, logCategory, logSource, deliveredLine,
+                      [](std::ostream& line) { line << "stats::sendEvent: ok"; });
+        return;
+    }
+    const StatsPostResult second = httpPostForm(eventEndpoint, body, 0);
+    if (!isRejected(second))
+        return;
+    Keelbase::log(
+        Keelbase::levelError, logCategory, logSource, rejectedLine, [&](std::ostream& line) {
+            line << "stats::sendEvent rejected: http " << second.httpStatus << " | " << second.body;
+        });
+}
+
+// One more, and from the largest number to the smallest: a damaged EventNumber may be anything.
+int following(int number)
+{
+    return static_cast<int>(static_cast<unsigned>(number) + 1U);
+}
+
+} // namespace
+
+AppStatHelper& AppStatHelper::instance()
+{
+    static AppStatHelper helper;
+    return helper;
+}
+
+AppStatHelper::AppStatHelper()
+{
+    // A post under way at process exit still reads the proxy and logs. Made before this object,
+    // both outlive it.
+    fs::commonConfig();
+    Keelbase::LoggerHandle logger;
+    Keelbase::createLogger(logger);
+}
+
+void AppStatHelper::init(std::shared_ptr<TemplateParams> newParams, bool newEnabled,
+                         int eventNumber)
+{
+    const std::lock_guard lock(mutex);
+    params = std::move(newParams);
+    eventCounter = eventNumber;
+    enabled = newEnabled;
+    if (sys::environmentSwitch("SET_TEST_STAT_HOST"))
+        testMode = true;
+}
+
+int AppStatHelper::sendEvent(const std::string& eventType, const std::string& src,
+                             const std::string& infoType, const std::string& info, bool sync,
+                             int eventNumber)
+{
+    std::unique_lock lock(mutex);
+    if (!enabled || !params)
+        return 0;
+    if (eventNumber == 0) {
+        eventCounter = following(eventCounter);
+        eventNumber = eventCounter;
+    }
+    params->set("EVENT_NUMBER", std::to_string(eventNumber), true);
+    params->set("TEST", testMode ? "1" : "0", true);
+    std::string body = buildEventBody(*params, {eventType, src, infoType, info});
+    lock.unlock();
+
+    if (sync)
+        postEvent(body);
+    else
+        queue.post([body = std::move(body)] { postEvent(body); });
+    return eventNumber;
+}
+
+} // namespace stats

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ui/common/stat/template_params.h"
+
+#include <string>
+
+namespace stats {
+
+// The four texts that differ from event to event.
+struct EventTexts
+{
+    std::string eventType;
+    std::string src;
+    std::string infoType;
+    std::string info;
+};
+
+// The JSON document of one event: nineteen members, every value a string. The texts count only
+// where `shared` does not hold SRC, EVENT_TYPE, INFO_TYPE or INFO itself. Values are not escaped,
+// so a quote in one yields invalid JSON: the service has always received it so.
+std::string buildEventBody(const TemplateParams& shared, const EventTexts& texts);
+
+} // namespace stats

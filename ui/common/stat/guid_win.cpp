@@ -1,0 +1,50 @@
+#include "ui/common/stat/guid.h"
+
+#include "ui/common/sys/text_convert.h"
+#include "ui/common/sys/win32_error.h"
+
+#include <rpc.h>
+
+namespace stats {
+namespace {
+
+constexpr const char* logCategory = "AppEventStat";
+constexpr const char* logSource = "ui/common/stat/guid_win";
+
+// Owns a text that the RPC runtime has allocated; null: none.
+struct RpcText
+{
+    RPC_WSTR text = nullptr;
+
+    RpcText() = default;
+    ~RpcText()
+    {
+        if (text != nullptr)
+            RpcStringFreeW(&text);
+    }
+    RpcText(const RpcText&) = delete;
+    RpcText& operator=(const RpcText&) = delete;
+};
+
+bool succeeded(RPC_STATUS status, const char* api)
+{
+    if (status != RPC_S_OK)
+        win32::logFailure(logCategory, logSource, __LINE__, api,
+                          static_cast<unsigned long>(status));
+    return status == RPC_S_OK;
+}
+
+} // namespace
+
+std::string createGuid()
+{
+    UUID uuid = {};
+    RpcText text;
+    if (!succeeded(UuidCreate(&uuid), "UuidCreate") ||
+        !succeeded(UuidToStringW(&uuid, &text.text), "UuidToStringW"))
+        return {};
+    // The RPC headers know UTF-16 as unsigned short, or as wchar_t, depending on the compiler.
+    return sys::toUtf8(reinterpret_cast<const wchar_t*>(text.text));
+}
+
+} // namespace stats

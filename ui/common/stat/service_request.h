@@ -1,0 +1,26 @@
+#pragma once
+
+#include "support/netpull/netpull.h"
+#include "ui/common/stat/proxy_settings.h"
+
+#include <algorithm>
+#include <string>
+
+namespace stats {
+
+// What the requests to both services have in common: the address, the proxy, a verified server.
+inline netpull::Request serviceRequest(const std::string& url, const ProxySettings& proxy,
+                                       int timeoutSeconds)
+{
+    netpull::Request request;
+    request.url = url;
+    request.proxy = {proxy.address, proxy.port, proxy.user, proxy.password};
+    request.verifyServer = true;
+    request.httpVersion = 1;
+    request.connectSeconds = 10;
+    request.timeoutSeconds = timeoutSeconds;
+    request.longestSeconds = std::max(15, timeoutSeconds);
+    return request;
+}
+
+} // namespace stats

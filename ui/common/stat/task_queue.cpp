@@ -1,0 +1,47 @@
+#include "ui/common/stat/task_queue.h"
+
+#include <utility>
+
+namespace stats {
+
+TaskQueue::~TaskQueue()
+{
+    open = false;
+    if (worker.joinable()) {
+        accepting = false;
+        worker.join();
+    }
+}
+
+void TaskQueue::post(std::function<void()> task)
+{
+    if (!accepting || !open)
+        return;
+    const std::lock_guard lock(mutex);
+    tasks.push_back(std::move(task));
+    if (workerRunning.exchange(true))
+        return;
+    // The previous worker has left its loop, so this join ends at once.
+    if (worker.joinable())
+        worker.join();
+    worker = std::thread([this] { runTasks(); });
+}
+
+void TaskQueue::runTasks()
+{
+    do {
+        std::function<void()> task;
+        {
+            const std::lock_guard lock(mutex);
+            if (tasks.empty()) {
+                workerRunning = false;
+                return;
+            }
+            task = std::move(tasks.front());
+            tasks.pop_front();
+        }
+        task();
+    } while (accepting);
+}
+
+} // namespace stats

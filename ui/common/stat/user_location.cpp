@@ -1,0 +1,90 @@
+#include "ui/common/stat/user_location.h"
+
+#include "support/keelbase/keelbase.h"
+#include "ui/common/config/common_config.h"
+#include "ui/common/stat/service_endpoints.h"
+#include "ui/common/stat/service_request.h"
+#include "ui/common/sys/environment.h"
+#include "ui/common/sys/result_codes.h"
+
+#include <new>
+#include <ostream>
+
+namespace stats {
+namespace {
+
+// The lookup reports as the main window, whose module it belongs to in support's log filters.
+constexpr const char* logCategory = "MainForm";
+constexpr const char* logSource = "ui/uninstall/src/widget";
+constexpr int debugSkipLine = 152;
+constexpr int returnedErrorLine = 160;
+constexpr int successLine = 164;
+constexpr int exceptionLine = 170;
+
+constexpr const char* locationKey = "Location";
+constexpr int timeoutSeconds = 15;
+
+void log(int level, int line, const char* text, const std::string& detail = {})
+{
+    Keelbase::log(level, logCategory, logSource, line,
+                  [&](std::ostream& message) { message << text << detail; });
+}
+
+// The answer as text: it ends at the first NUL, where the configuration file would end too and
+// lose the keys that follow.
+std::string countryFrom(const sys::DataBuff& answer)
+{
+    return answer.toString().c_str();
+}
+
+} // namespace
+
+int getUserLocation(sys::DataBuff& out, const ProxySettings& proxy)
+{
+    const netpull::Response response =
+        netpull::fetch(serviceRequest(countryEndpoint, proxy, timeoutSeconds));
+    if (response.transportCode != 0)
+        return response.transportCode;
+    if (response.body.empty())
+        return sys::emptyAnswer;
+    if (!out.assignString(response.body))
+        throw std::bad_alloc();
+    return sys::success;
+}
+
+void getOrCreateUserLocation(const ProxySettings& proxy)
+{
+    fs::CConfig& common = fs::commonConfig();
+    if (sys::environmentSwitch("CV_DEBUG_WITHOUT_UPDATE_LOCATION") &&
+        !common.getValue(locationKey, "").empty()) {
+        log(Keelbase::levelInformation, debugSkipLine,
+            "getOrCreateUserLocation | CV_DEBUG_WITHOUT_UPDATE_LOCATION is true");
+        return;
+    }
+    try {
+        sys::DataBuff answer;
+        if (getUserLocation(answer, proxy) != sys::success) {
+            log(Keelbase::levelError, returnedErrorLine,
+                "getOrCreateUserLocation | dlutil_getUserLocation returned error");
+            return;
+        }
+        const std::string country = countryFrom(answer);
+        log(Keelbase::levelInformation, successLine, "getOrCreateUserLocation | ", country);
+        common.setValue(locationKey, country);
+        common.save();
+    } catch (...) {
+        log(Keelbase::levelError, exceptionLine, "Failed to dlutil_getUserLocation()");
+    }
+}
+
+std::string getUserCountry(const ProxySettings& proxy)
+{
+    fs::CConfig& common = fs::commonConfig();
+    const std::string stored = common.getValue(locationKey, "");
+    if (!stored.empty())
+        return stored;
+    getOrCreateUserLocation(proxy);
+    return common.getValue(locationKey, "");
+}
+
+} // namespace stats
