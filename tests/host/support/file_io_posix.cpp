@@ -5,10 +5,8 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
-#include <filesystem>
 #include <memory>
 #include <sys/stat.h>
-#include <system_error>
 
 namespace sys {
 
@@ -20,9 +18,32 @@ struct FileCloser
 };
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
+// Paths are UTF-8 here whatever the locale. A wide character is a whole code point.
+std::string utf8(const std::wstring& text)
+{
+    std::string bytes;
+    const auto append = [&bytes](unsigned lead, unsigned point, int continuationBytes) {
+        bytes += static_cast<char>(lead | (point >> (6 * continuationBytes)));
+        while (continuationBytes-- > 0)
+            bytes += static_cast<char>(0x80U | ((point >> (6 * continuationBytes)) & 0x3FU));
+    };
+    for (const wchar_t character : text) {
+        const auto point = static_cast<unsigned>(character);
+        if (point < 0x80)
+            append(0, point, 0);
+        else if (point < 0x800)
+            append(0xC0, point, 1);
+        else if (point < 0x10000)
+            append(0xE0, point, 2);
+        else
+            append(0xF0, point, 3);
+    }
+    return bytes;
+}
+
 FileHandle openFile(const std::wstring& path, const char* mode)
 {
-    return FileHandle(std::fopen(std::filesystem::path(path).c_str(), mode));
+    return FileHandle(std::fopen(utf8(path).c_str(), mode));
 }
 
 } // namespace
@@ -52,8 +73,8 @@ int writeWholeFile(const std::wstring& path, const std::string& text)
 
 bool fileExists(const std::wstring& path)
 {
-    std::error_code error;
-    return std::filesystem::exists(path, error);
+    struct stat status = {};
+    return stat(utf8(path).c_str(), &status) == 0;
 }
 
 } // namespace sys

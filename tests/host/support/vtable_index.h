@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+
+namespace host {
+
+// The place of a virtual function in its class's virtual table, counted from 0. The C++ ABI of
+// this machine (Itanium) keeps it in the member pointer, as 1 + the byte offset. A virtual
+// destructor takes two places in this ABI, and one with other compilers.
+template <typename MemberFunction>
+std::size_t vtableIndex(MemberFunction function)
+{
+    std::size_t offset = 0;
+    static_assert(sizeof(function) >= sizeof(offset));
+    std::memcpy(&offset, &function, sizeof(offset));
+    return (offset - 1) / sizeof(void*);
+}
+
+} // namespace host
