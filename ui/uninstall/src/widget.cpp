@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QProcess>
 #include <QSettings>
 #include <QTimer>
 
@@ -25,6 +26,10 @@ Widget::Widget(std::vector<std::string> arguments, QWidget* parent)
     logMainForm(__LINE__, [](std::ostream& out) { out << "-->Widget::Widget()"; });
 
     ui->setupUi(this);
+#if QT_CONFIG(dockwidget)
+    // Animation comes with docking; a Qt built without it never animates.
+    setAnimated(false);
+#endif
     setWindowFlags(Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
     setWindowIcon(QIcon(QStringLiteral(":/uninstall_ico_48x48.png")));
 
@@ -46,6 +51,12 @@ Widget::~Widget()
 {
     logMainForm(__LINE__, [](std::ostream& out) { out << "~Widget()"; });
     ui.reset();
+    // A taskkill that is still at work would be killed with its object before it closes anything.
+    const auto helpers = findChildren<QProcess*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QProcess* helper : helpers) {
+        if (helper->state() != QProcess::NotRunning)
+            helper->setParent(nullptr);
+    }
 }
 
 void Widget::fillList()
