@@ -27,15 +27,6 @@ void sendAction(const char* action, const std::string& name)
     stats::AppStatHelper::instance().sendEvent(action, name, "", "", false, 0);
 }
 
-void openStorePage(int uninstalledId)
-{
-    const std::string productId = FvdOpenMsDlg::partnerFor(uninstalledId, notOnExit).productId;
-    uninstall::logMainForm(__LINE__, [&productId](std::ostream& out) {
-        out << "cross-sell store app -> ProductId=" << productId;
-    });
-    QDesktopServices::openUrl(QUrl(QString::fromStdString(uninstall::storeAddress(productId))));
-}
-
 } // namespace
 
 void Widget::openExitSurvey(int appId)
@@ -69,7 +60,7 @@ void Widget::onDialogEvent(int code, const std::string& name)
             showStoreOffer();
             break;
         case uninstall::DialogAction::openStore:
-            openStorePage(currentAppId);
+            openStorePage();
             break;
         }
     }
@@ -81,4 +72,13 @@ void Widget::showStoreOffer()
         this, currentAppId, notOnExit,
         [this](std::int32_t code, const std::string& name) { onDialogEvent(code, name); });
     offer.exec();
+}
+
+void Widget::openStorePage()
+{
+    const std::string productId = FvdOpenMsDlg::partnerFor(currentAppId, notOnExit).productId;
+    uninstall::logMainForm(__LINE__, [&productId](std::ostream& out) {
+        out << "cross-sell store app -> ProductId=" << productId;
+    });
+    QDesktopServices::openUrl(QUrl(QString::fromStdString(uninstall::storeAddress(productId))));
 }
