@@ -57,12 +57,12 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
         if (!size)
             return readOrWriteFailed;
         std::string bytes(*size, '\0');
-        // Another process may have cut the file since: what there is counts.
-        bytes.resize(std::fread(bytes.data(), 1, bytes.size(), stream.get()));
-        if (std::ferror(stream.get()) != 0) {
+        const std::size_t read = std::fread(bytes.data(), 1, bytes.size(), stream.get());
+        if (std::ferror(stream.get()) != 0 || (read == 0 && *size != 0)) {
             win32::logFailure(category, source, __LINE__, "ReadFile", GetLastError());
             return readOrWriteFailed;
         }
+        bytes.resize(read); // another process may have cut the file since
         content.swap(bytes);
         return success;
     } catch (const std::exception&) {

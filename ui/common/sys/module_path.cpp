@@ -1,23 +1,30 @@
 #include "ui/common/sys/module_path.h"
 
+#include "ui/common/sys/module_path_lookup.h"
+
 #include <windows.h>
 
 namespace sys {
 
-std::wstring modulePath()
+std::wstring modulePath(ModuleFileName ask)
 {
     // The system cuts a path that does not fit instead of telling its length, and no path is
     // longer than this.
     constexpr std::size_t longestPath = 32768;
     for (std::size_t size = MAX_PATH; size <= 2 * longestPath; size *= 2) {
         std::wstring path(size, L'\0');
-        const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(size));
+        const DWORD length = ask(nullptr, path.data(), static_cast<DWORD>(size));
         if (length < size) {
             path.resize(length);
             return path;
         }
     }
     return {};
+}
+
+std::wstring modulePath()
+{
+    return modulePath(&GetModuleFileNameW);
 }
 
 std::wstring moduleFolder()

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace windows_tests {
+
+// A folder of its own below the temporary folder, with blanks and letters of several scripts in
+// its name; removed with all it holds at the end of the scope.
+class ScratchFolder
+{
+public:
+    ScratchFolder();
+    ~ScratchFolder();
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    const std::filesystem::path& path() const { return root; }
+    std::filesystem::path operator/(const std::filesystem::path& name) const { return root / name; }
+
+private:
+    std::filesystem::path root;
+};
+
+// A text that no other test, process or run uses.
+std::wstring uniqueName(const std::wstring& start);
+
+// Bytes as they are. Reading a file that is not there throws, so that its test fails.
+std::string readBytes(const std::filesystem::path& file);
+void writeBytes(const std::filesystem::path& file, std::string_view bytes);
+
+} // namespace windows_tests

@@ -1,0 +1,47 @@
+#include "tests/support/recorded_log.h"
+#include "ui/common/sys/win32_error.h"
+
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+TEST(Win32Error, LogsApiNumberAndSystemTextAtTheCallersPlace)
+{
+    const testing_support::RecordedLog log;
+    win32::logFailure("IPC", "ui/common/sys/somewhere", 42, "CreateFileW", ERROR_FILE_NOT_FOUND);
+    ASSERT_EQ(log.records().size(), 1U);
+    const Keelbase::LogRecord record = log.records()[0];
+    EXPECT_EQ(record.level, 7);
+    EXPECT_EQ(record.category, "IPC");
+    EXPECT_EQ(record.sourceFile, "ui/common/sys/somewhere");
+    EXPECT_EQ(record.sourceLine, 42);
+    const std::string start = "CreateFileW failed: 2 (";
+    ASSERT_EQ(record.text.substr(0, start.size()), start);
+    EXPECT_GT(record.text.size(), start.size() + 5);
+    EXPECT_EQ(record.text.back(), ')');
+    EXPECT_EQ(record.text.find_first_of("\r\n"), std::string::npos);
+    EXPECT_NE(record.text[record.text.size() - 2], ' ');
+}
+
+TEST(Win32Error, NumberWithoutSystemTextIsLoggedAllTheSame)
+{
+    const testing_support::RecordedLog log;
+    win32::logFailure("IPC", "source", 1, "Api", 0x2FFFFFFF);
+    ASSERT_EQ(log.records().size(), 1U);
+    EXPECT_EQ(log.records()[0].text, "Api failed: 805306367 (no text for this number)");
+}
+
+TEST(Win32Error, IsSilentBelowDetailLevel)
+{
+    const testing_support::RecordedLog log(Keelbase::levelInformation);
+    win32::logFailure("IPC", "source", 1, "Api", ERROR_FILE_NOT_FOUND);
+    EXPECT_TRUE(log.records().empty());
+}
+
+TEST(Win32Error, LeavesTheErrorNumberForTheCaller)
+{
+    const testing_support::RecordedLog log;
+    SetLastError(ERROR_SUCCESS);
+    win32::logFailure("IPC", "source", 1, "Api", ERROR_PIPE_BUSY);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_PIPE_BUSY));
+}
