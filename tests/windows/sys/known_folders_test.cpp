@@ -86,6 +86,7 @@ struct Fault
 
 HRESULT WINAPI raiseOnLookup(const GUID&, DWORD, HANDLE, wchar_t**)
 {
+    SetLastError(1234);
     throw Fault();
 }
 
@@ -96,6 +97,7 @@ void WINAPI rememberFreed(void* memory)
 
 void WINAPI raiseOnFree(void*)
 {
+    SetLastError(1234);
     throw Fault();
 }
 
@@ -211,14 +213,9 @@ TEST_F(KnownFolders, MissingShellFunctionIsTold)
 TEST_F(KnownFolders, RaisedExceptionIsTold)
 {
     shellAnswer = asProcedure(&raiseOnLookup);
-    SetLastError(1234);
     EXPECT_EQ(look(), E_FAIL);
     EXPECT_EQ(path, L"");
-    const std::string start = "Exception(\"SHGetKnownFolderPath\") | err = ";
-    ASSERT_EQ(narrow.str().substr(0, start.size()), start);
-    const std::string number = narrow.str().substr(start.size());
-    EXPECT_FALSE(number.empty());
-    EXPECT_EQ(number.find_first_not_of("0123456789"), std::string::npos) << number;
+    EXPECT_EQ(narrow.str(), "Exception(\"SHGetKnownFolderPath\") | err = 1234");
 }
 
 TEST_F(KnownFolders, TheShellsOwnFailureIsPassedOn)
@@ -257,6 +254,5 @@ TEST_F(KnownFolders, ExceptionWhileFreeingIsTold)
     freeAnswer = asProcedure(&raiseOnFree);
     EXPECT_EQ(look(), 0);
     EXPECT_EQ(path, L"D:\\Roaming \u8A66");
-    const std::string start = "Exception (\"CoTaskMemFree\") | err = ";
-    EXPECT_EQ(narrow.str().substr(0, start.size()), start);
+    EXPECT_EQ(narrow.str(), "Exception (\"CoTaskMemFree\") | err = 1234");
 }

@@ -22,6 +22,12 @@ constexpr GUID roamingAppDataId = {
 constexpr GUID localAppDataId = {
     0xF1B32785, 0x6FBA, 0x4FCF, {0x9D, 0x55, 0x7B, 0x8E, 0x7F, 0x15, 0x70, 0x91}};
 
+void tell(const char* what)
+{
+    const DWORD error = GetLastError(); // writing changes it
+    std::cerr << what << " | err = " << error << std::flush;
+}
+
 // One function of a library, which stays loaded as long as this object lives.
 template <typename Function>
 class LoadedFunction
@@ -32,13 +38,13 @@ public:
         : library(loading.load(libraryName))
     {
         if (!library) {
-            std::wcerr << L"Couldn't load dll" << libraryName << L" | err = " << GetLastError()
-                       << std::endl;
+            const DWORD error = GetLastError(); // writing changes it
+            std::wcerr << L"Couldn't load dll" << libraryName << L" | err = " << error << std::endl;
             return;
         }
         const FARPROC found = loading.find(library.get(), functionName);
         if (found == nullptr) {
-            std::cerr << "GetProcAddress return null | err = " << GetLastError() << std::flush;
+            tell("GetProcAddress return null");
             return;
         }
         // Through void*, for a cast from one function type to another draws a warning.
@@ -67,7 +73,7 @@ void freePath(wchar_t* memory, const LibraryLoading& loading)
     try {
         free(memory);
     } catch (...) {
-        std::cerr << "Exception (\"CoTaskMemFree\") | err = " << GetLastError() << std::flush;
+        tell("Exception (\"CoTaskMemFree\")");
     }
 }
 
@@ -86,7 +92,7 @@ int knownFolderPath(KnownFolder folder, std::wstring& path, const LibraryLoading
     try {
         result = lookUp(id, DWORD(0), HANDLE(nullptr), &found);
     } catch (...) {
-        std::cerr << "Exception(\"SHGetKnownFolderPath\") | err = " << GetLastError() << std::flush;
+        tell("Exception(\"SHGetKnownFolderPath\")");
     }
     if (SUCCEEDED(result) && found != nullptr)
         path = found;
