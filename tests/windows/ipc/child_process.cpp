@@ -1,0 +1,125 @@
+#include "tests/windows/ipc/child_process.h"
+
+#include <atomic>
+#include <cstdio>
+
+namespace ipctest {
+
+namespace {
+
+std::wstring quoted(const std::wstring& argument)
+{
+    if (!argument.empty() && argument.find_first_of(L" \t\"") == std::wstring::npos)
+        return argument;
+    std::wstring text = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t letter : argument) {
+        if (letter == L'"')
+            text.append(backslashes + 1, L'\\');
+        backslashes = letter == L'\\' ? backslashes + 1 : 0;
+        text += letter;
+    }
+    text.append(backslashes, L'\\');
+    return text + L'"';
+}
+
+win32::KernelHandle jobThatEndsWithItsOwner()
+{
+    win32::KernelHandle job(CreateJobObjectW(nullptr, nullptr));
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof(limits));
+    return job;
+}
+
+} // namespace
+
+DWORD waitTime(milliseconds time)
+{
+    return static_cast<DWORD>(time.count());
+}
+
+ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::wstring>& arguments,
+                           ChildOptions options)
+    : job(jobThatEndsWithItsOwner())
+{
+    std::wstring line;
+#ifdef TESSERA_LAUNCHER
+    if (options.withEnvironment)
+        line = quoted(TESSERA_LAUNCHER) + L' ';
+#endif
+    line += quoted(program);
+    for (const std::wstring& argument : arguments)
+        line += L' ' + quoted(argument);
+
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    win32::FileHandle childEnd;
+    if (options.captureOutput) {
+        HANDLE read = nullptr;
+        HANDLE write = nullptr;
+        CreatePipe(&read, &write, nullptr, 1 << 20);
+        outputEnd.reset(read);
+        childEnd.reset(write);
+        SetHandleInformation(write, HANDLE_FLAG_INHERIT, HANDLE_FLAG_INHERIT);
+        startup.dwFlags = STARTF_USESTDHANDLES;
+        startup.hStdOutput = write;
+        startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+    }
+    PROCESS_INFORMATION information = {};
+    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, options.captureOutput,
+                        CREATE_SUSPENDED, nullptr, nullptr, &startup, &information)) {
+        std::fprintf(stderr, "CreateProcessW(%ls): error %lu\n", line.c_str(), GetLastError());
+        return;
+    }
+    process.reset(information.hProcess);
+    processId = information.dwProcessId;
+    const win32::KernelHandle mainThread(information.hThread);
+    if (!AssignProcessToJobObject(job.get(), process.get())) {
+        std::fprintf(stderr, "AssignProcessToJobObject: error %lu\n", GetLastError());
+        kill();
+    }
+    ResumeThread(mainThread.get());
+}
+
+std::optional<DWORD> ChildProcess::waitForExit(milliseconds deadline) const
+{
+    DWORD code = 0;
+    if (!process || WaitForSingleObject(process.get(), waitTime(deadline)) != WAIT_OBJECT_0 ||
+        !GetExitCodeProcess(process.get(), &code))
+        return std::nullopt;
+    return code;
+}
+
+void ChildProcess::kill()
+{
+    TerminateJobObject(job.get(), 1);
+}
+
+std::string ChildProcess::output()
+{
+    std::string text;
+    char buffer[4096];
+    DWORD read = 0;
+    while (outputEnd && ReadFile(outputEnd.get(), buffer, sizeof(buffer), &read, nullptr) && read)
+        text.append(buffer, read);
+    return text;
+}
+
+std::wstring siblingProgram(const std::wstring& name)
+{
+    wchar_t path[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    std::wstring program = path;
+    program.erase(program.find_last_of(L'\\') + 1);
+    return program + name + L".exe";
+}
+
+std::wstring uniqueName(const std::wstring& stem)
+{
+    static std::atomic<unsigned> number{0};
+    return stem + L"_" + std::to_wstring(GetCurrentProcessId()) + L"_" +
+           std::to_wstring(GetTickCount64()) + L"_" + std::to_wstring(++number);
+}
+
+} // namespace ipctest

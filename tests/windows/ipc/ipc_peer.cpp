@@ -1,0 +1,194 @@
+// The other process of the channel's tests: a copy that serves, sends or only takes the mutex.
+//
+//   ipc_peer serve NAME [client-before-first-wait]
+//       serves until the event NAME_stop; NAME_ready is signalled once the server stands. Exit
+//       code: what createServer returned. Answers are described at ScriptedReceiver.
+//   ipc_peer send TEXT
+//       sends TEXT and prints the answer. Exit code: what connectToServer or sendMessage returned.
+//   ipc_peer claim NAME
+//       takes the mutex, signals NAME_first or NAME_later, and ends on NAME_stop.
+
+#include "tests/windows/ipc/peer_events.h"
+#include "ui/common/sys/interprocess_communication_win.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+#include <psapi.h>
+
+namespace {
+
+using ipctest::NamedEvent;
+
+constexpr int badUsage = 200;
+constexpr DWORD deadline = 60000;    // ms
+constexpr DWORD longestRun = 600000; // ms
+
+// Set for the time of createServer by "client-before-first-wait": every new thread then first runs
+// threadStarted, and the server thread finds a client connected before its own first wait.
+bool connectFromNewThread = false;
+HANDLE earlyClient = INVALID_HANDLE_VALUE;
+
+void NTAPI threadStarted(PVOID, DWORD reason, PVOID)
+{
+    if (reason != DLL_THREAD_ATTACH || !connectFromNewThread)
+        return;
+    connectFromNewThread = false;
+    earlyClient = CreateFileW(L"\\\\.\\pipe\\DF467A07-9FF8-46A9-B701-2D3ADDD9BE3B_Uninstall",
+                              GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+}
+
+// Reply of NtQuerySystemInformation for all open handles of the system, in the form that Windows
+// and Wine share. (Wine's GetProcessHandleCount always gives 0.)
+struct HandleEntry
+{
+    void* object;
+    ULONG_PTR processId;
+    ULONG_PTR handle;
+    ULONG access;
+    USHORT backTrace;
+    USHORT type;
+    ULONG attributes;
+    ULONG reserved;
+};
+struct HandleTable
+{
+    ULONG_PTR count;
+    ULONG_PTR reserved;
+    HandleEntry entries[1];
+};
+
+std::size_t openHandles()
+{
+    constexpr int allHandles = 64;
+    using Query = LONG(NTAPI*)(int, void*, ULONG, ULONG*);
+    const auto query = reinterpret_cast<Query>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQuerySystemInformation")));
+    std::vector<std::uint64_t> memory(1 << 19);
+    if (query(allHandles, memory.data(), static_cast<ULONG>(memory.size() * 8), nullptr) < 0)
+        return 0;
+    const auto* table = reinterpret_cast<const HandleTable*>(memory.data());
+    const HandleEntry* first = table->entries;
+    return static_cast<std::size_t>(
+        std::count_if(first, first + table->count, [](const HandleEntry& entry) {
+            return entry.processId == GetCurrentProcessId();
+        }));
+}
+
+std::string usage()
+{
+    const std::size_t handles = openHandles();
+    PROCESS_MEMORY_COUNTERS memory = {};
+    memory.cb = sizeof(memory);
+    GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof(memory));
+    return std::to_string(handles) + " " + std::to_string(memory.PagefileUsage / 1024);
+}
+
+// Answers a text with itself, except these:
+class ScriptedReceiver : public IMessageFromOtherProcess
+{
+public:
+    explicit ScriptedReceiver(const std::wstring& name) : name(name) {}
+
+    void onMessageFromOtherProcess(unsigned long pid, const std::string& text) override
+    {
+        ++deliveries;
+        if (text == "#pid") {
+            answerText = std::to_string(pid);
+        } else if (text == "#empty") {
+            answerText.clear();
+        } else if (text == "#deliveries") { // so far, with this one
+            answerText = std::to_string(deliveries);
+        } else if (text == "#usage") { // handles, KiB of memory
+            answerText = usage();
+        } else if (text.compare(0, 6, "#size ") == 0) { // that many bytes
+            answerText.assign(std::strtoul(text.c_str() + 6, nullptr, 10), 'x');
+        } else if (text == "#block") { // only after NAME_release
+            NamedEvent(name + L"_entered").set();
+            answerText = NamedEvent(name + L"_release").wait() ? "released" : "not released";
+        } else {
+            answerText = text;
+        }
+    }
+
+private:
+    std::wstring name;
+    unsigned long deliveries = 0;
+};
+
+int serve(const std::wstring& name, bool withEarlyClient)
+{
+    const NamedEvent stop(name + L"_stop");
+    ScriptedReceiver receiver(name);
+    CInterprocessCommunicationWin channel;
+    channel.claimMutex();
+    channel.receiver = &receiver;
+    connectFromNewThread = withEarlyClient;
+    const int result = channel.createServer();
+    if (withEarlyClient && earlyClient == INVALID_HANDLE_VALUE)
+        return badUsage;
+    NamedEvent(name + L"_ready").set();
+    stop.wait(longestRun);
+    channel.close();
+    return result;
+}
+
+int send(const std::string& text)
+{
+    CInterprocessCommunicationWin channel;
+    channel.claimMutex();
+    channel.firstInstance = false;
+    const ULONGLONG end = GetTickCount64() + deadline;
+    int result = 0;
+    while ((result = channel.connectToServer()) == ERROR_PIPE_BUSY && GetTickCount64() < end)
+        WaitNamedPipeW(L"\\\\.\\pipe\\DF467A07-9FF8-46A9-B701-2D3ADDD9BE3B_Uninstall", 1000);
+    if (result == 0)
+        result = channel.sendMessage(text);
+    const std::string answer = channel.getAnswer();
+    std::fwrite(answer.data(), 1, answer.size(), stdout);
+    return result;
+}
+
+int claim(const std::wstring& name)
+{
+    const NamedEvent stop(name + L"_stop");
+    CInterprocessCommunicationWin channel;
+    channel.claimMutex();
+    NamedEvent(name + (channel.firstInstance ? L"_first" : L"_later")).set();
+    stop.wait(longestRun);
+    return 0;
+}
+
+} // namespace
+
+// The loader calls what this section lists at each thread's start, before the thread's own code.
+#ifdef _MSC_VER
+#pragma comment(linker, "/INCLUDE:_tls_used")
+#pragma comment(linker, "/INCLUDE:atThreadStart")
+#pragma section(".CRT$XLF", read)
+extern "C" __declspec(allocate(".CRT$XLF")) const PIMAGE_TLS_CALLBACK atThreadStart =
+    &threadStarted;
+#else
+extern "C" __attribute__((section(".CRT$XLF"), used)) const PIMAGE_TLS_CALLBACK atThreadStart =
+    &threadStarted;
+#endif
+
+int main(int argc, char** argv)
+{
+    const std::string mode = argc > 2 ? argv[1] : "";
+    if (mode == "send")
+        return send(argv[2]);
+    const std::string narrow = argc > 2 ? argv[2] : "";
+    const std::wstring name(narrow.begin(), narrow.end());
+    if (mode == "serve")
+        return serve(name, argc > 3);
+    if (mode == "claim")
+        return claim(name);
+    return badUsage;
+}

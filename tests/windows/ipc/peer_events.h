@@ -1,0 +1,34 @@
+#pragma once
+
+// Named events, with which a test and its child processes tell each other where they are.
+
+#include "ui/common/sys/unique_handle.h"
+
+#include <string>
+
+#include <windows.h>
+
+namespace ipctest {
+
+// Manual-reset; whoever comes first creates it.
+class NamedEvent
+{
+public:
+    explicit NamedEvent(const std::wstring& name)
+        : event(CreateEventW(nullptr, TRUE, FALSE, name.c_str()))
+    {}
+
+    void set() const { SetEvent(event.get()); }
+    // False when it did not come in `deadline` ms.
+    bool wait(DWORD deadline = 60000) const
+    {
+        return WaitForSingleObject(event.get(), deadline) == WAIT_OBJECT_0;
+    }
+    bool isSet() const { return WaitForSingleObject(event.get(), 0) == WAIT_OBJECT_0; }
+    HANDLE handle() const { return event.get(); }
+
+private:
+    win32::KernelHandle event;
+};
+
+} // namespace ipctest
