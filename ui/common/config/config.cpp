@@ -69,10 +69,12 @@ int CConfig::readFile(Existing existing)
 
     const std::lock_guard lock(mutex);
     if (filePath != path)
-        return sys::success; // setFileName() came after this call and emptied the object again
-    if (existing == Existing::discard)
-        values.clear();
-    values.merge(fileValues);
+        return sys::success; // as if setFileName() had emptied the object right after this load
+    if (existing == Existing::keep) {
+        for (auto& [key, value] : values)
+            fileValues.insert_or_assign(key, std::move(value));
+    }
+    values.swap(fileValues);
     changedKeys.clear();
     modified = false;
     return sys::success;
