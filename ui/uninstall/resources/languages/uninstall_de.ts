@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>100&#xa0;% kostenloser Download: YouTube MP3 Music Downloader</translation>
+        <translation>100&#xa0;% Gratis-Download: YouTube MP3 Music Downloader</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -34,7 +34,7 @@
     <message>
         <source>Download 100% Free </source>
         <extracomment>The name of the offered application follows.</extracomment>
-        <translation>100&#xa0;% kostenloser Download: </translation>
+        <translation>100&#xa0;% Gratis-Download: </translation>
     </message>
     <message>
         <source>Fast, simple and reliable</source>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Téléchargement 100&#xa0;% gratuit&#xa0;: YouTube MP3 Music Downloader</translation>
+        <translation>100&#xa0;% gratuit&#xa0;: YouTube MP3 Music Downloader</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -34,7 +34,7 @@
     <message>
         <source>Download 100% Free </source>
         <extracomment>The name of the offered application follows.</extracomment>
-        <translation>Téléchargement 100&#xa0;% gratuit&#xa0;: </translation>
+        <translation>100&#xa0;% gratuit&#xa0;: </translation>
     </message>
     <message>
         <source>Fast, simple and reliable</source>
