@@ -10,12 +10,10 @@ function(tessera_add_host_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()
 
-# tessera_add_windows_test(NAME SOURCES ... [LIBRARIES ...] [QT_TEST] [TIMEOUT seconds]
-#                          [FILTERS name=gtest-filter ...])
+# tessera_add_windows_test(NAME SOURCES ... [LIBRARIES ...] [QT_TEST] [TIMEOUT seconds])
 #   One test executable for Windows; CTest runs it through the cross-compiling emulator.
 #   Each CTest entry has its own Wine prefix, so registry, mutexes and pipes never meet.
 #   With QT_TEST the source brings its own main (QTEST_MAIN); otherwise GoogleTest's is used.
-#   ${name} may read TESSERA_TEST_DATA_DIR from its environment: an own scratch folder.
 function(tessera_add_windows_test name)
     cmake_parse_arguments(ARG "QT_TEST" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
