@@ -78,16 +78,16 @@ int readWholeFile(const std::wstring& path, std::string& content)
 int writeWholeFile(const std::wstring& path, const std::string& text)
 {
     try {
-        std::ofstream stream;
-        stream.exceptions(std::ios::badbit | std::ios::failbit);
-        stream.open(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
+        std::ofstream stream(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
         stream.write(text.data(), static_cast<std::streamsize>(std::strlen(text.c_str())));
         stream.close();
-        return success;
-    } catch (const std::exception&) {
+        if (stream)
+            return success;
         win32::logFailure(category, source, __LINE__, "WriteFile", GetLastError());
-        return readOrWriteFailed;
+    } catch (const std::exception&) {
+        // No memory for the path or the buffer.
     }
+    return readOrWriteFailed;
 }
 
 bool fileExists(const std::wstring& path)

@@ -1,0 +1,123 @@
+// What several processes may do to one settings file at once.
+//
+// The file is not locked between processes. Two promises hold and are checked here:
+// - saves that do not overlap lose nothing, however old the memory of each process is;
+// - saves that do overlap may lose pairs (the last one wins with what it read), but each of them
+//   succeeds, every line that the file holds was written by somebody, and the next save is sound.
+
+#include "tests/windows/config/turns.h"
+#include "tests/windows/support/child_process.h"
+#include "tests/windows/support/scratch_folder.h"
+#include "ui/common/config/config.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <map>
+#include <regex>
+#include <sstream>
+#include <string>
+
+using windows_tests::ChildProcess;
+using windows_tests::helperProgram;
+using windows_tests::ScratchFolder;
+
+namespace {
+
+std::string keyOf(char prefix, int number)
+{
+    char text[16] = {};
+    std::snprintf(text, sizeof(text), "%c%04d", prefix, number);
+    return text;
+}
+
+std::vector<std::string> linesOf(const std::filesystem::path& file)
+{
+    std::istringstream stream(windows_tests::readBytes(file));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+} // namespace
+
+TEST(ConfigProcesses, SavesInTurnLoseNoKey)
+{
+    constexpr int rounds = 300;
+    const ScratchFolder scratch;
+    const std::wstring file = scratch / L"\u8A2D\u5B9A.cfg";
+    windows_tests::writeBytes(file, "kept=from before\n");
+    const std::wstring name = windows_tests::uniqueName(L"turns");
+    const windows_tests::Turns turns(name, true);
+    const ChildProcess writer(helperProgram(L"config_writer"),
+                              {file, L"b", std::to_wstring(rounds), name, L"-"});
+    // Neither process reads the file again on its own: only save() brings the other's keys in.
+    fs::CConfig config;
+    config.setFileName(file);
+    ASSERT_EQ(config.load(), 0);
+    for (int round = 0; round < rounds; ++round) {
+        ASSERT_TRUE(turns.wait()) << round;
+        config.setValue(keyOf('a', round), keyOf('a', round));
+        ASSERT_EQ(config.save(), 0) << round;
+        turns.handOver();
+    }
+    ASSERT_EQ(writer.waitForEnd(), 0U);
+
+    std::string expected;
+    for (const char prefix : {'a', 'b'}) {
+        for (int round = 0; round < rounds; ++round)
+            expected += keyOf(prefix, round) + "=" + keyOf(prefix, round) + "\n";
+    }
+    expected += "kept=from before\n";
+    EXPECT_EQ(windows_tests::readBytes(file), expected);
+}
+
+TEST(ConfigProcesses, LastToSaveWinsForTheSameKey)
+{
+    const ScratchFolder scratch;
+    const std::wstring file = scratch / L"file.cfg";
+    fs::CConfig config;
+    config.setFileName(file);
+    config.setValue("b0000", "parent");
+    const ChildProcess writer(helperProgram(L"config_writer"), {file, L"b", L"1", L"-", L"-"});
+    ASSERT_EQ(writer.waitForEnd(), 0U);
+    EXPECT_EQ(windows_tests::readBytes(file), "b0000=b0000\n");
+    EXPECT_EQ(config.save(), 0);
+    EXPECT_EQ(windows_tests::readBytes(file), "b0000=parent\n");
+}
+
+TEST(ConfigProcesses, OverlappingSavesSucceedAndWriteOnlyWholeLines)
+{
+    // All lines have the same size and the file stays below a page, so that whatever mixture of
+    // two writes the system leaves, a line in it that nobody wrote would be a fault of ours.
+    constexpr int rounds = 120;
+    const ScratchFolder scratch;
+    const std::wstring file = scratch / L"file.cfg";
+    const std::wstring start = windows_tests::uniqueName(L"start");
+    const win32::KernelHandle startEvent(CreateEventW(nullptr, TRUE, FALSE, start.c_str()));
+    const std::wstring count = std::to_wstring(rounds);
+    const ChildProcess first(helperProgram(L"config_writer"), {file, L"a", count, L"-", start});
+    const ChildProcess second(helperProgram(L"config_writer"), {file, L"b", count, L"-", start});
+    SetEvent(startEvent.get());
+    EXPECT_EQ(first.waitForEnd(), 0U);
+    EXPECT_EQ(second.waitForEnd(), 0U);
+
+    const std::regex whole("([ab][0-9]{4})=\\1");
+    const std::vector<std::string> lines = linesOf(file);
+    EXPECT_FALSE(lines.empty());
+    for (const std::string& line : lines)
+        EXPECT_TRUE(std::regex_match(line, whole)) << line;
+
+    fs::CConfig config;
+    config.setFileName(file);
+    ASSERT_EQ(config.load(), 0);
+    config.setValue("a9999", "a9999");
+    ASSERT_EQ(config.save(), 0);
+    fs::CConfig after;
+    after.setFileName(file);
+    ASSERT_EQ(after.load(), 0);
+    EXPECT_EQ(after.getValue("a9999", ""), "a9999");
+    for (const std::string& line : lines)
+        EXPECT_EQ(after.getValue(line.substr(0, 5), ""), line.substr(6));
+}
