@@ -1,0 +1,138 @@
+"""An HTTP or HTTPS service that records its requests and misbehaves on demand."""
+
+import http.client
+import socket
+import ssl
+import threading
+import time
+from dataclasses import dataclass
+from email.message import Message
+from typing import Callable, Dict, List, Optional
+
+from local_server import LocalServer, reset
+
+
+@dataclass
+class Received:
+    """One request as it came over the wire."""
+    method: str
+    target: str
+    headers: Message
+    body: bytes
+    at: float
+
+
+# What happens on the connection once a request has been read. The event is set when the service
+# is to end.
+Behaviour = Callable[[socket.socket, threading.Event], None]
+
+
+def _head(status: int, *fields: str) -> bytes:
+    reason = http.client.responses.get(status, "Unknown")
+    lines = [f"HTTP/1.1 {status} {reason}", "Connection: close", *fields]
+    return ("\r\n".join(lines) + "\r\n\r\n").encode()
+
+
+def answer(status: int, body: bytes = b"", *fields: str) -> Behaviour:
+    def behave(connection: socket.socket, _) -> None:
+        length = [] if status == 204 else [f"Content-Length: {len(body)}"]
+        connection.sendall(_head(status, *length, *fields) + body)
+    return behave
+
+
+def stall(_, stopping: threading.Event) -> None:
+    """Never answers."""
+    stopping.wait()
+
+
+def slow_drip(connection: socket.socket, stopping: threading.Event) -> None:
+    """Begins a long answer at once and sends a byte of it now and then."""
+    connection.sendall(_head(200, "Content-Length: 100000"))
+    while not stopping.wait(0.2):
+        connection.sendall(b"x")
+
+
+def declared_size(size: int) -> Behaviour:
+    """A long answer that says how long it is."""
+    def behave(connection: socket.socket, _) -> None:
+        connection.sendall(_head(200, f"Content-Length: {size}"))
+        _send_much(connection, size)
+    return behave
+
+
+def undeclared_size(size: int) -> Behaviour:
+    """A long answer that only ends with the connection."""
+    def behave(connection: socket.socket, _) -> None:
+        connection.sendall(_head(200))
+        _send_much(connection, size)
+    return behave
+
+
+def _send_much(connection: socket.socket, size: int) -> None:
+    block = b"x" * 65536
+    for _ in range(size // len(block)):
+        connection.sendall(block)
+
+
+def truncated(connection: socket.socket, _) -> None:
+    """Promises more than it sends."""
+    connection.sendall(_head(200, "Content-Length: 100") + b"only this")
+
+
+def reset_before_headers(connection: socket.socket, _) -> None:
+    reset(connection)
+
+
+def reset_after_headers(connection: socket.socket, _) -> None:
+    connection.sendall(_head(200, "Content-Length: 100"))
+    reset(connection)
+
+
+class HttpService(LocalServer):
+    """Answers the n-th request with the n-th behaviour, the last one repeated."""
+
+    def __init__(self, *behaviours: Behaviour, tls: Optional[ssl.SSLContext] = None):
+        super().__init__()
+        self._tls = tls
+        self._behaviours = list(behaviours)
+        self._changed = threading.Condition()
+        self._received: List[Received] = []
+
+    @property
+    def received(self) -> List[Received]:
+        with self._changed:
+            return list(self._received)
+
+    def wait_for(self, count: int, seconds: float = 60.0) -> List[Received]:
+        """Waits until so many requests have come in; raises when they do not."""
+        with self._changed:
+            if not self._changed.wait_for(lambda: len(self._received) >= count, seconds):
+                raise AssertionError(f"{len(self._received)} of {count} requests arrived")
+            return list(self._received)
+
+    def serve(self, connection: socket.socket) -> None:
+        if self._tls is not None:
+            connection = self._tls.wrap_socket(connection, server_side=True)
+        with connection:
+            request = self._read(connection)
+            with self._changed:
+                index = len(self._received)
+                self._received.append(request)
+                self._changed.notify_all()
+            behaviour = self._behaviours[min(index, len(self._behaviours) - 1)]
+            behaviour(connection, self.stopping)
+
+    @staticmethod
+    def _read(connection: socket.socket) -> Received:
+        with connection.makefile("rb") as stream:
+            method, target, _ = stream.readline().decode("ascii").split(" ", 2)
+            headers = http.client.parse_headers(stream)
+            body = stream.read(int(headers.get("Content-Length", "0")))
+        return Received(method, target, headers, body, time.monotonic())
+
+
+def header_names(request: Received) -> Dict[str, str]:
+    """The headers by lower-case name; a repeated one is an error of the sender."""
+    names = [name.lower() for name in request.headers.keys()]
+    assert len(names) == len(set(names)), names
+    return {name.lower(): value for name, value in request.headers.items()}

@@ -1,0 +1,72 @@
+// One request by command line, for the tests that talk to local servers:
+//
+//   netpull_probe METHOD URL [name=value ...]
+//
+// Names are data, dataSize (so many "x"), header, proxy, proxyPort, proxyUser, proxyPassword,
+// timeout, connect, longest and httpVersion.
+// Prints transport code, HTTP status, milliseconds and size of the body, then the body itself.
+
+#include "support/netpull/netpull.h"
+
+#include <chrono>
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+namespace {
+
+bool apply(const std::string& name, const std::string& value, netpull::Request& request)
+{
+    if (name == "data")
+        request.postData = value;
+    else if (name == "dataSize")
+        request.postData.assign(std::stoul(value), 'x');
+    else if (name == "header")
+        request.headers.push_back(value);
+    else if (name == "proxy")
+        request.proxy.address = value;
+    else if (name == "proxyPort")
+        request.proxy.port = std::stoi(value);
+    else if (name == "proxyUser")
+        request.proxy.user = value;
+    else if (name == "proxyPassword")
+        request.proxy.password = value;
+    else if (name == "timeout")
+        request.timeoutSeconds = std::stoi(value);
+    else if (name == "connect")
+        request.connectSeconds = std::stoi(value);
+    else if (name == "longest")
+        request.longestSeconds = std::stoi(value);
+    else if (name == "httpVersion")
+        request.httpVersion = std::stoi(value);
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 3)
+        return 2;
+    netpull::Request request;
+    request.method = std::string(argv[1]) == "POST" ? netpull::Method::post : netpull::Method::get;
+    request.url = argv[2];
+    for (int index = 3; index < argc; ++index) {
+        const std::string argument = argv[index];
+        const std::size_t equals = argument.find('=');
+        if (equals == std::string::npos ||
+            !apply(argument.substr(0, equals), argument.substr(equals + 1), request))
+            return 2;
+    }
+
+    const auto begun = std::chrono::steady_clock::now();
+    const netpull::Response response = netpull::fetch(request);
+    const auto spent = std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now() - begun);
+    std::cout << response.transportCode << ' ' << response.httpStatus << ' ' << spent.count() << ' '
+              << response.body.size() << '\n'
+              << response.body << std::flush;
+    return 0;
+}

@@ -1,0 +1,261 @@
+"""netpull against local servers: what goes over the wire, and what comes of every failure."""
+
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+from dataclasses import dataclass
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "e2e" / "stat"))
+
+from certificates import Authority  # noqa: E402
+from connect_proxy import ConnectProxy  # noqa: E402
+from http_service import (HttpService, answer, declared_size, header_names,  # noqa: E402
+                          reset_after_headers, reset_before_headers, slow_drip, stall, truncated,
+                          undeclared_size)
+from local_server import LocalServer  # noqa: E402
+
+PROBE = os.environ["NETPULL_PROBE"]
+ANSWER_LIMIT = 1024 * 1024
+
+# libcurl's error codes
+COULD_NOT_RESOLVE_HOST = 6
+COULD_NOT_CONNECT = 7
+PARTIAL_FILE = 18
+TIMED_OUT = 28
+BAD_ARGUMENT = 43
+GOT_NOTHING = 52
+RECEIVE_ERROR = 56
+UNTRUSTED = 60
+TOO_LONG = 63
+UNSUPPORTED_PROTOCOL = 1
+
+
+@dataclass
+class Outcome:
+    code: int
+    status: int
+    seconds: float
+    body: bytes
+
+
+def fetch(method: str, url: str, environment=None, **options) -> Outcome:
+    arguments = [f"{name}={value}" for name, value in options.items()]
+    done = subprocess.run([PROBE, method, url, *arguments], check=True, timeout=60,
+                          stdout=subprocess.PIPE, env={**os.environ, **(environment or {})})
+    head, body = done.stdout.split(b"\n", 1)
+    code, status, milliseconds, size = map(int, head.split())
+    assert size == len(body), (size, len(body))
+    return Outcome(code, status, milliseconds / 1000, body)
+
+
+def get(port: int, **options) -> Outcome:
+    return fetch("GET", f"http://127.0.0.1:{port}/where?a=b", **options)
+
+
+class Requests(unittest.TestCase):
+    def test_get_sends_nothing_beyond_what_http_asks_for(self):
+        with HttpService(answer(200, b"text")) as service:
+            outcome = get(service.port)
+        self.assertEqual((outcome.code, outcome.status, outcome.body), (0, 200, b"text"))
+        [request] = service.received
+        self.assertEqual((request.method, request.target, request.body),
+                         ("GET", "/where?a=b", b""))
+        self.assertEqual(set(header_names(request)), {"host", "accept"})
+
+    def test_post_sends_the_form_and_its_one_header(self):
+        with HttpService(answer(200)) as service:
+            outcome = fetch("POST", f"http://127.0.0.1:{service.port}/form", data='data="x"&%7B',
+                            header="Content-Type: text/special")
+        self.assertEqual(outcome.code, 0)
+        [request] = service.received
+        self.assertEqual((request.method, request.body), ("POST", b'data="x"&%7B'))
+        headers = header_names(request)
+        self.assertEqual(set(headers), {"host", "accept", "content-type", "content-length"})
+        self.assertEqual(headers["content-type"], "text/special")
+
+    def test_a_long_post_goes_out_at_once(self):
+        # libcurl asks for "100 Continue" from 1 MiB on, and waits a second for it.
+        with HttpService(answer(200)) as service:
+            url = f"http://127.0.0.1:{service.port}/form"
+            outcome = fetch("POST", url, dataSize=2_000_000)
+        self.assertEqual(outcome.code, 0)
+        [request] = service.received
+        self.assertNotIn("expect", header_names(request))
+        self.assertEqual(request.body, b"x" * 2_000_000)
+
+    def test_an_empty_post_is_a_post(self):
+        with HttpService(answer(204)) as service:
+            outcome = fetch("POST", f"http://127.0.0.1:{service.port}/form")
+        self.assertEqual((outcome.code, outcome.status), (0, 204))
+        self.assertEqual(service.received[0].method, "POST")
+        self.assertEqual(header_names(service.received[0])["content-length"], "0")
+
+    def test_the_environments_proxies_do_not_count(self):
+        with HttpService(answer(200)) as service:
+            dead = "http://127.0.0.1:1"
+            outcome = get(service.port, environment={"http_proxy": dead, "all_proxy": dead})
+        self.assertEqual(outcome.code, 0)
+
+
+class Answers(unittest.TestCase):
+    def check(self, behaviour, code, status, body=b""):
+        with HttpService(behaviour) as service:
+            outcome = get(service.port)
+        self.assertEqual((outcome.code, outcome.status, outcome.body), (code, status, body))
+        self.assertEqual(len(service.received), 1)
+        return outcome
+
+    def test_every_status_is_handed_over_with_its_body(self):
+        for status in (200, 301, 400, 404, 500, 503):
+            with self.subTest(status):
+                self.check(answer(status, b"body"), 0, status, b"body")
+
+    def test_redirects_are_not_followed(self):
+        for status in (301, 302, 303, 307, 308):
+            with self.subTest(status):
+                self.check(answer(status, b"", "Location: /elsewhere"), 0, status)
+
+    def test_the_body_keeps_all_its_bytes(self):
+        body = bytes(range(256)) * 10
+        self.check(answer(200, body), 0, 200, body)
+
+    def test_the_longest_body_is_taken(self):
+        self.check(answer(200, b"y" * ANSWER_LIMIT), 0, 200, b"y" * ANSWER_LIMIT)
+
+    def test_a_declared_long_body_is_refused(self):
+        outcome = self.check(declared_size(50 * 1024 * 1024), TOO_LONG, 200)
+        self.assertLess(outcome.seconds, 5)
+
+    def test_one_byte_too_many_is_refused(self):
+        self.check(answer(200, b"y" * (ANSWER_LIMIT + 1)), TOO_LONG, 200)
+
+    def test_an_undeclared_long_body_is_cut_off(self):
+        with HttpService(undeclared_size(50 * 1024 * 1024)) as service:
+            outcome = get(service.port)
+        self.assertEqual(outcome.code, TOO_LONG)
+        self.assertLessEqual(len(outcome.body), ANSWER_LIMIT)
+        self.assertLess(outcome.seconds, 5)
+
+    def test_a_truncated_body_is_an_error(self):
+        self.check(truncated, PARTIAL_FILE, 200, b"only this")
+
+    def test_a_reset_before_the_headers_is_an_error(self):
+        self.check(reset_before_headers, RECEIVE_ERROR, 0)
+
+    def test_a_reset_after_the_headers_is_an_error(self):
+        self.check(reset_after_headers, RECEIVE_ERROR, 200)
+
+    def test_an_end_without_an_answer_is_an_error(self):
+        self.check(lambda *_: None, GOT_NOTHING, 0)
+
+    def test_an_answer_without_headers_is_an_error(self):
+        self.check(lambda connection, _: connection.sendall(b"hello, world\n"), UNSUPPORTED_PROTOCOL, 0)
+
+
+class Limits(unittest.TestCase):
+    def check_time(self, outcome, seconds):
+        self.assertEqual(outcome.code, TIMED_OUT)
+        self.assertGreaterEqual(outcome.seconds, seconds - 0.1)
+        self.assertLess(outcome.seconds, seconds + 1.5)
+
+    def test_a_silent_server_costs_the_timeout(self):
+        with HttpService(stall) as service:
+            self.check_time(get(service.port, timeout=1), 1)
+
+    def test_a_dripping_server_costs_the_timeout(self):
+        with HttpService(slow_drip) as service:
+            self.check_time(get(service.port, timeout=1), 1)
+
+    def test_the_longest_duration_counts_when_it_is_shorter(self):
+        with HttpService(stall) as service:
+            self.check_time(get(service.port, timeout=9, longest=1), 1)
+
+    def test_a_handshake_that_never_ends_costs_the_connecting_time(self):
+        class Silent(LocalServer):
+            def serve(self, connection):
+                self.stopping.wait()
+        with Silent() as server:
+            outcome = fetch("GET", f"https://127.0.0.1:{server.port}/", timeout=9, connect=1)
+            self.check_time(outcome, 1)
+
+    def test_requests_without_time_are_refused(self):
+        for option in ("timeout", "longest", "connect"):
+            with self.subTest(option):
+                self.assertEqual(get(1, **{option: 0}).code, BAD_ARGUMENT)
+
+    def test_an_unknown_version_of_http_is_refused(self):
+        self.assertEqual(get(1, httpVersion=2).code, BAD_ARGUMENT)
+
+
+class Connections(unittest.TestCase):
+    def test_a_name_that_does_not_resolve(self):
+        self.assertEqual(fetch("GET", "http://no-such-host.invalid/").code,
+                         COULD_NOT_RESOLVE_HOST)
+
+    def test_a_port_where_nobody_listens(self):
+        self.assertEqual(get(1).code, COULD_NOT_CONNECT)
+
+    def test_other_protocols_are_refused(self):
+        for url in ("file:///etc/hostname", "ftp://127.0.0.1/", "gopher://127.0.0.1/"):
+            with self.subTest(url):
+                outcome = fetch("GET", url)
+                self.assertEqual((outcome.code, outcome.body), (UNSUPPORTED_PROTOCOL, b""))
+
+
+class Proxies(unittest.TestCase):
+    URL = "https://service.example/path"
+
+    def through(self, credentials=None, tls=None, **options):
+        """One HTTPS request through a proxy to a server that nobody here trusts."""
+        with tempfile.TemporaryDirectory() as folder, \
+                HttpService(answer(200), tls=self.context(Path(folder))) as service, \
+                ConnectProxy({"service.example:443": service.port}, credentials) as proxy:
+            outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=proxy.port, **options)
+            self.assertEqual(service.received, [], "an untrusted server receives nothing")
+            return outcome, proxy.connects
+
+    @staticmethod
+    def context(folder):
+        return Authority(folder / "authority", "nobody's").server_context(["service.example"])
+
+    def test_the_tunnel_is_asked_for_by_name_without_credentials(self):
+        outcome, connects = self.through()
+        self.assertEqual(outcome.code, UNTRUSTED)
+        self.assertEqual([(c.target, c.authorization) for c in connects],
+                         [("service.example:443", None)])
+
+    def test_credentials_are_sent_with_the_first_request(self):
+        outcome, connects = self.through(("ann", "p:w d"), proxyUser="ann",
+                                         proxyPassword="p:w d")
+        self.assertEqual(outcome.code, UNTRUSTED)
+        self.assertEqual([c.accepted for c in connects], [True])
+
+    def test_a_wrong_password_ends_the_request(self):
+        outcome, connects = self.through(("ann", "right"), proxyUser="ann", proxyPassword="wrong")
+        self.assertEqual((outcome.code, outcome.status), (RECEIVE_ERROR, 0))
+        self.assertEqual([c.accepted for c in connects], [False])
+
+    def test_a_proxy_that_refuses_the_tunnel_ends_the_request(self):
+        with ConnectProxy({}) as proxy:
+            outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=proxy.port)
+        self.assertEqual((outcome.code, outcome.status), (RECEIVE_ERROR, 0))
+
+    def test_the_environments_exceptions_do_not_count(self):
+        with ConnectProxy({}) as proxy:
+            outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=proxy.port,
+                            environment={"no_proxy": "*"})
+            self.assertEqual(len(proxy.connects), 1)
+        self.assertEqual(outcome.code, RECEIVE_ERROR)
+
+    def test_ports_that_cannot_be_are_refused(self):
+        for port in (0, -1, 65536):
+            with self.subTest(port):
+                outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=port)
+                self.assertEqual(outcome.code, BAD_ARGUMENT)
+
+
+if __name__ == "__main__":
+    unittest.main()
