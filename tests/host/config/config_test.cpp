@@ -307,7 +307,7 @@ TEST_F(Config, FailedWriteLeavesTheMergedValuesInMemory)
 TEST_F(Config, SetFileNameEmptiesTheObject)
 {
     write("a=1\n");
-    folder.write("other.cfg", "b=2\n");
+    folder.write("other.cfg", "b=2\r\n");
     CConfig config;
     config.setFileName(path());
     ASSERT_EQ(config.load(), sys::success);
@@ -315,7 +315,7 @@ TEST_F(Config, SetFileNameEmptiesTheObject)
     config.setFileName(folder.path(L"other.cfg"));
     EXPECT_EQ(config.getValue("a", "gone"), "gone");
     EXPECT_EQ(config.save(), sys::success);
-    EXPECT_EQ(folder.read("other.cfg"), "b=2\n");
+    EXPECT_EQ(folder.read("other.cfg"), "b=2\r\n");
 
     config.setFileName(L"");
     EXPECT_EQ(config.load(), sys::noSuchFile);

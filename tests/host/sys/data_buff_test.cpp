@@ -94,6 +94,12 @@ TEST(DataBuff, ResizeToTheSameSizeKeepsTheBlock)
     EXPECT_TRUE(buffer.resize(3));
     EXPECT_EQ(buffer.data(), block);
     EXPECT_EQ(buffer.toString(), "abc");
+
+    // That holds for a block attached without a size, too.
+    void* const unsized = newBlock("abc");
+    buffer.attach(unsized, 0);
+    EXPECT_TRUE(buffer.resize(0));
+    EXPECT_EQ(buffer.data(), unsized);
 }
 
 TEST(DataBuff, ResizeToNothingClears)

@@ -103,6 +103,7 @@ TEST(UninstallCommand, ProgramIsTheFirstPartAsItStands)
     EXPECT_EQ(programOf({}), "");
     EXPECT_EQ(programOf({""}), "");
     EXPECT_EQ(programOf({"", "=b"}), "");
+    EXPECT_EQ(programOf({"C:\\a.exe /x"}), "C:\\a.exe /x");
     EXPECT_EQ(programOf({" \"C:\\a b\\c.exe\" ", "=b"}), " \"C:\\a b\\c.exe\" ");
 }
 
