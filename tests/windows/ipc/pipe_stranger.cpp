@@ -82,7 +82,10 @@ StrangeServer::StrangeServer()
 
 bool StrangeServer::waitForClient()
 {
-    return ConnectNamedPipe(pipe.get(), nullptr) || GetLastError() == ERROR_PIPE_CONNECTED;
+    if (ConnectNamedPipe(pipe.get(), nullptr))
+        return true;
+    // A client was there before; it may even have left again.
+    return GetLastError() == ERROR_PIPE_CONNECTED || GetLastError() == ERROR_NO_DATA;
 }
 
 Bytes StrangeServer::read()

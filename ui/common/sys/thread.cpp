@@ -54,6 +54,9 @@ void CBaseThread<argument>::waitUntilFinished() const
         return;
     const HANDLE ends[] = {finishedEvent.get(), thread.get()};
     WaitForMultipleObjects(2, ends, FALSE, INFINITE);
+    // The body has returned; the thread itself ends in a moment. Until then the system may still
+    // write the outcome of what the thread left pending into its owner's memory.
+    WaitForSingleObject(thread.get(), INFINITE);
 }
 
 template <int argument>

@@ -40,8 +40,9 @@ public:
     // thread still runs, or ERROR_BAD_ENVIRONMENT (10) when no thread could be made.
     int start();
 
-    // Waits, without limit, for the end of the thread's body; returns at once when no thread was
-    // ever started.
+    // Waits, without limit, for the end of the thread's body and then of the thread; returns at
+    // once when no thread was ever started. Afterwards start() is not busy any more, and nothing
+    // that the thread had asked of the system writes into memory.
     void waitUntilFinished() const;
 
 private:

@@ -1,0 +1,261 @@
+// The channel's client end against servers that do not behave like the program.
+
+#include "tests/windows/ipc/channel_client.h"
+#include "tests/windows/ipc/peer_events.h"
+#include "tests/windows/ipc/pipe_stranger.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <functional>
+#include <future>
+#include <thread>
+
+using namespace ipctest;
+
+namespace {
+
+// A stranger's server on a thread of its own; `talk` runs once a client is there.
+class ServerThread
+{
+public:
+    explicit ServerThread(std::function<void(StrangeServer&)> talk)
+        : thread([this, talk = std::move(talk)] {
+              if (server.waitForClient())
+                  talk(server);
+          })
+    {}
+    ~ServerThread()
+    {
+        if (!joined)
+            join();
+    }
+    void join()
+    {
+        // Frees a thread whose client never came.
+        Stranger unblocking(milliseconds(0));
+        thread.join();
+        joined = true;
+    }
+    bool created() const { return server.created(); }
+
+private:
+    StrangeServer server;
+    std::thread thread;
+    bool joined = false;
+};
+
+TEST(ChannelClient, WithoutAServerTheOpenFailsAndSendingGives10)
+{
+    Client client;
+    EXPECT_EQ(client.channel.connectToServer(), ERROR_FILE_NOT_FOUND);
+    EXPECT_FALSE(client.channel.isPipeOpen());
+    EXPECT_EQ(client.channel.sendMessage("text"), 10);
+    // Of two reasons not to send, the missing pipe comes first.
+    EXPECT_EQ(client.channel.sendMessage(std::string(70000, 'x')), 10);
+}
+
+TEST(ChannelClient, BeforeAnyConnectSendingGives10)
+{
+    Client client;
+    EXPECT_EQ(client.channel.sendMessage("text"), 10);
+}
+
+TEST(ChannelClient, FirstInstanceSendsNothingAndGives0)
+{
+    Bytes received = {1};
+    ServerThread server([&received](StrangeServer& pipe) { received = pipe.read(); });
+    ASSERT_TRUE(server.created());
+    {
+        Client client;
+        ASSERT_EQ(client.connect(), 0);
+        client.channel.firstInstance = true;
+        EXPECT_EQ(client.channel.sendMessage("text"), 0);
+        EXPECT_EQ(client.channel.sendMessage(std::string(70000, 'x')), 0);
+    }
+    server.join();
+    EXPECT_EQ(received, Bytes()); // the client hung up without a word
+}
+
+TEST(ChannelClient, RequestIsOneFrameWithTheSendersProcessId)
+{
+    Bytes received;
+    ServerThread server([&received](StrangeServer& pipe) {
+        received = pipe.read();
+        pipe.write(frame(1, "yes"));
+    });
+    EXPECT_EQ(exchange("/app X"), (Exchange{0, "yes"}));
+    server.join();
+    EXPECT_EQ(received, frame(GetCurrentProcessId(), "/app X"));
+}
+
+TEST(ChannelClient, AnswerNeedsTenBytes)
+{
+    for (const std::size_t size :
+         {std::size_t{1}, std::size_t{8}, std::size_t{9}, std::size_t{10}, std::size_t{12}}) {
+        Bytes answer = frame(1, "yes");
+        answer.resize(size);
+        ServerThread server([&answer](StrangeServer& pipe) {
+            pipe.read();
+            pipe.write(answer);
+            pipe.read(); // until the client hangs up
+        });
+        ASSERT_TRUE(server.created());
+        const std::string expected = size > 9 ? std::string("yes").substr(0, size - 9) : "";
+        EXPECT_EQ(exchange("text"), (Exchange{0, expected})) << size;
+        server.join();
+    }
+}
+
+TEST(ChannelClient, AnswersHeaderIsNotLookedAt)
+{
+    ServerThread server([](StrangeServer& pipe) {
+        pipe.read();
+        pipe.write(Bytes{9, 9, 9, 9, 9, 9, 9, 9, 9, 'o', 'k'});
+        pipe.read();
+    });
+    EXPECT_EQ(exchange("text"), (Exchange{0, "ok"}));
+    server.join();
+}
+
+TEST(ChannelClient, FailedTransactionIsTriedSevenTimesWithPauses)
+{
+    ServerThread server([](StrangeServer& pipe) { pipe.hangUp(); });
+    Client client;
+    ASSERT_EQ(client.connect(), 0);
+    const ULONGLONG start = GetTickCount64();
+    EXPECT_NE(client.channel.sendMessage("text"), 0);
+    const ULONGLONG took = GetTickCount64() - start;
+    EXPECT_GE(took, 6u * 300u);
+    EXPECT_LT(took, 20000u);
+}
+
+// The client end inside a channel of this process: the pipe in which `size` bytes wait.
+HANDLE pipeWithWaitingBytes(DWORD size)
+{
+    for (std::uintptr_t value = 4; value < 0x4000; value += 4) {
+        const auto handle = reinterpret_cast<HANDLE>(value);
+        DWORD waiting = 0;
+        DWORD flags = 0;
+        if (GetFileType(handle) == FILE_TYPE_PIPE &&
+            GetNamedPipeInfo(handle, &flags, nullptr, nullptr, nullptr) &&
+            PeekNamedPipe(handle, nullptr, 0, nullptr, &waiting, nullptr) && waiting == size &&
+            (flags & PIPE_SERVER_END) == 0)
+            return handle;
+    }
+    return INVALID_HANDLE_VALUE;
+}
+
+// A message that nobody has asked for makes every transaction fail until it is read.
+class UnaskedMessage : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(server.created());
+        ASSERT_EQ(client.connect(), 0);
+        ASSERT_TRUE(written.wait());
+    }
+
+    const Bytes unasked = frame(1, "too early");
+    const NamedEvent written{uniqueName(L"tessera_ipc_written")};
+    std::atomic<int> requests{0};
+    ServerThread server{[this](StrangeServer& pipe) {
+        pipe.write(unasked);
+        written.set();
+        while (!pipe.read().empty()) {
+            ++requests;
+            pipe.write(frame(1, "in time"));
+        }
+    }};
+    Client client;
+};
+
+TEST_F(UnaskedMessage, IsNotTakenForTheAnswer)
+{
+    EXPECT_EQ(client.channel.sendMessage("text"), ERROR_PIPE_BUSY);
+    EXPECT_EQ(client.channel.getAnswer(), "");
+    client.channel.close();
+    server.join();
+    EXPECT_EQ(requests, 0);
+}
+
+TEST_F(UnaskedMessage, ErrorOfAnEarlierAttemptIsReturnedThoughALaterOneSucceeds)
+{
+    auto sent =
+        std::async(std::launch::async, [this] { return client.channel.sendMessage("text"); });
+    ASSERT_EQ(sent.wait_for(milliseconds(150)), std::future_status::timeout); // in the first pause
+    const HANDLE pipe = pipeWithWaitingBytes(static_cast<DWORD>(unasked.size()));
+    ASSERT_NE(pipe, INVALID_HANDLE_VALUE);
+    Bytes read(100);
+    DWORD size = 0;
+    ASSERT_TRUE(ReadFile(pipe, read.data(), 100, &size, nullptr));
+    EXPECT_EQ(sent.get(), ERROR_PIPE_BUSY);
+    EXPECT_EQ(client.channel.getAnswer(), "in time");
+    client.channel.close();
+    server.join();
+    EXPECT_EQ(requests, 1);
+}
+
+TEST(ChannelClient, StopRequestEndsThePauseAtOnce)
+{
+    const NamedEvent hungUp(uniqueName(L"tessera_ipc_hung_up"));
+    ServerThread server([&hungUp](StrangeServer& pipe) {
+        pipe.read();
+        pipe.hangUp();
+        hungUp.set();
+    });
+    Client client;
+    ASSERT_EQ(client.connect(), 0);
+    client.stopOn(hungUp.handle());
+    const ULONGLONG start = GetTickCount64();
+    EXPECT_NE(client.channel.sendMessage("text"), 0);
+    EXPECT_LT(GetTickCount64() - start, 1500u); // all seven attempts take 2100 ms
+}
+
+TEST(ChannelClient, AfterAStopRequestNothingIsSent)
+{
+    Bytes received = {1};
+    ServerThread server([&received](StrangeServer& pipe) { received = pipe.read(); });
+    {
+        Client client;
+        ASSERT_EQ(client.connect(), 0);
+        client.channel.requestStop();
+        EXPECT_EQ(client.channel.sendMessage("text"), 0);
+    }
+    server.join();
+    EXPECT_EQ(received, Bytes());
+}
+
+TEST(ChannelClient, CloseDropsTheConnectionAndMayBeRepeated)
+{
+    Bytes received = {1};
+    ServerThread server([&received](StrangeServer& pipe) { received = pipe.read(); });
+    Client client;
+    ASSERT_EQ(client.connect(), 0);
+    client.channel.close();
+    EXPECT_FALSE(client.channel.isPipeOpen());
+    server.join();
+    EXPECT_EQ(received, Bytes());
+    client.channel.close();
+    EXPECT_EQ(client.channel.sendMessage("text"), 10);
+}
+
+TEST(ChannelClient, MayConnectAgainAfterClose)
+{
+    Client client;
+    for (const char* text : {"one", "two"}) {
+        ServerThread server([](StrangeServer& pipe) {
+            pipe.write(pipe.read());
+            pipe.read();
+        });
+        ASSERT_TRUE(server.created());
+        ASSERT_EQ(client.connect(), 0);
+        EXPECT_EQ(client.channel.sendMessage(text), 0);
+        EXPECT_EQ(client.channel.getAnswer(), text);
+        client.channel.close();
+        server.join();
+    }
+}
+
+} // namespace

@@ -1,0 +1,211 @@
+// Starting and stopping the channel's server end.
+
+#include "tests/windows/ipc/channel_client.h"
+#include "tests/windows/ipc/peer_events.h"
+#include "tests/windows/ipc/pipe_stranger.h"
+#include "tests/windows/ipc/serving_peer.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <future>
+#include <iterator>
+#include <new>
+
+using namespace ipctest;
+
+namespace {
+
+// Echoes; holds a delivery back while `gate` is given.
+class Receiver : public IMessageFromOtherProcess
+{
+public:
+    void onMessageFromOtherProcess(unsigned long, const std::string& text) override
+    {
+        if (gate) {
+            entered.set();
+            gate->wait();
+        }
+        answerText = text;
+    }
+
+    NamedEvent entered{uniqueName(L"tessera_ipc_entered")};
+    const NamedEvent* gate = nullptr;
+};
+
+struct Server
+{
+    Server()
+    {
+        channel.claimMutex();
+        channel.receiver = &receiver;
+    }
+
+    Receiver receiver;
+    CInterprocessCommunicationWin channel;
+};
+
+// True when `work` ends in time. What hangs for good cannot be joined, so the process ends then.
+bool endsInTime(std::function<void()> work, milliseconds deadline = milliseconds(20000))
+{
+    auto done = std::async(std::launch::async, std::move(work));
+    if (done.wait_for(deadline) == std::future_status::ready)
+        return true;
+    std::fprintf(stderr, "hangs\n");
+    std::fflush(stderr);
+    TerminateProcess(GetCurrentProcess(), 3);
+    return false;
+}
+
+ChildProcess sender(const std::wstring& text)
+{
+    return ChildProcess(siblingProgram(L"ipc_peer"), {L"send", text}, {true, true});
+}
+
+TEST(ChannelServer, WithoutAClaimedMutexThereIsNoThreadToStart)
+{
+    CInterprocessCommunicationWin channel;
+    EXPECT_EQ(channel.createServer(), 87);
+    EXPECT_TRUE(channel.isPipeOpen());
+}
+
+TEST(ChannelServer, SecondStartIsBusyAndServingGoesOn)
+{
+    Server server;
+    ASSERT_EQ(server.channel.createServer(), 0);
+    EXPECT_EQ(server.channel.createServer(), 170);
+    ChildProcess client = sender(L"still there");
+    EXPECT_EQ(client.waitForExit(), 0u);
+    EXPECT_EQ(client.output(), "still there");
+    EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
+}
+
+TEST(ChannelServer, ServesAgainAfterClose)
+{
+    Server server;
+    for (const wchar_t* text : {L"one", L"two"}) {
+        ASSERT_EQ(server.channel.createServer(), 0);
+        ChildProcess client = sender(text);
+        EXPECT_EQ(client.waitForExit(), 0u);
+        EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
+        EXPECT_FALSE(server.channel.isPipeOpen());
+    }
+}
+
+TEST(ChannelServer, FailureToOpenThePipeIsReturned)
+{
+    // A server of another kind has the name: a pipe of bytes instead of messages.
+    const win32::FileHandle other(
+        CreateNamedPipeW(pipePath, PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 100, 100, 0, nullptr));
+    ASSERT_TRUE(other);
+    Server server;
+    const int result = server.channel.createServer();
+    EXPECT_TRUE(result == ERROR_ACCESS_DENIED || result == ERROR_PIPE_BUSY) << result;
+    EXPECT_FALSE(server.channel.isPipeOpen());
+    EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
+}
+
+TEST(ChannelServerClose, IdleTwiceAndThenDestroyed)
+{
+    EXPECT_TRUE(endsInTime([] {
+        Server server;
+        EXPECT_EQ(server.channel.createServer(), 0);
+        server.channel.close();
+        server.channel.close();
+        EXPECT_FALSE(server.channel.isPipeOpen());
+    }));
+    Stranger nobody(milliseconds(0));
+    EXPECT_EQ(nobody.error(), DWORD{ERROR_FILE_NOT_FOUND});
+}
+
+TEST(ChannelServerClose, BeforeAnythingWasOpened)
+{
+    EXPECT_TRUE(endsInTime([] {
+        CInterprocessCommunicationWin channel;
+        channel.close();
+    }));
+}
+
+TEST(ChannelServerClose, WhileASilentClientIsConnected)
+{
+    Server server;
+    ASSERT_EQ(server.channel.createServer(), 0);
+    // An exchange first: afterwards the server is in its waits, not on its way to the first one.
+    ChildProcess client = sender(L"text");
+    ASSERT_EQ(client.waitForExit(), 0u);
+    Stranger silent;
+    ASSERT_TRUE(silent.connected());
+    EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
+    EXPECT_EQ(silent.read(), Bytes());
+    EXPECT_NE(silent.error(), 0u);
+}
+
+TEST(ChannelServerClose, DuringADeliveryWaitsForItsEnd)
+{
+    Server server;
+    const NamedEvent gate(uniqueName(L"tessera_ipc_gate"));
+    server.receiver.gate = &gate;
+    ASSERT_EQ(server.channel.createServer(), 0);
+    ChildProcess client = sender(L"text");
+    ASSERT_TRUE(server.receiver.entered.wait());
+
+    auto closed = std::async(std::launch::async, [&] { server.channel.close(); });
+    EXPECT_EQ(closed.wait_for(milliseconds(300)), std::future_status::timeout);
+    gate.set();
+    EXPECT_TRUE(endsInTime([&] { closed.wait(); }));
+    // The delivery was finished properly: its sender has the answer.
+    EXPECT_EQ(client.waitForExit(), 0u);
+    EXPECT_EQ(client.output(), "text");
+}
+
+TEST(ChannelServerClose, DestructorStopsAServingChannel)
+{
+    EXPECT_TRUE(endsInTime([] {
+        for (int i = 0; i < 50; ++i) {
+            Server server;
+            EXPECT_EQ(server.channel.createServer(), 0);
+        }
+    }));
+}
+
+// The system writes the outcome of a pending wait into the channel's own memory; none may come
+// after the channel's end.
+TEST(ChannelServerClose, NothingIsWrittenIntoTheMemoryOfAnEndedChannel)
+{
+    constexpr int count = 300;
+    struct Place
+    {
+        alignas(CInterprocessCommunicationWin)
+            std::uint8_t bytes[sizeof(CInterprocessCommunicationWin)];
+    };
+    Receiver receiver;
+    std::vector<Place> places(count);
+    ASSERT_TRUE(endsInTime([&] {
+        for (Place& place : places) {
+            auto* channel = new (place.bytes) CInterprocessCommunicationWin;
+            channel->claimMutex();
+            channel->receiver = &receiver;
+            EXPECT_EQ(channel->createServer(), 0);
+            channel->~CInterprocessCommunicationWin();
+            std::memset(place.bytes, 0xab, sizeof(place.bytes));
+        }
+    }));
+    for (const Place& place : places)
+        ASSERT_TRUE(std::all_of(std::begin(place.bytes), std::end(place.bytes),
+                                [](std::uint8_t byte) { return byte == 0xab; }));
+}
+
+TEST(ChannelServerThread, ClientBeforeTheFirstWaitEndsIt)
+{
+    ServingPeer peer({L"client-before-first-wait"});
+    ASSERT_TRUE(peer.ready());
+    // The one pipe instance stays with the early client, and nobody serves it.
+    Client client;
+    EXPECT_EQ(client.connect(milliseconds(2000)), ERROR_PIPE_BUSY);
+    // Closing finds the thread ended, and does not hang.
+    EXPECT_EQ(peer.stop(), 0u);
+}
+
+} // namespace

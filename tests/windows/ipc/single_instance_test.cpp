@@ -1,0 +1,126 @@
+// Who is the first copy: the mutex between real processes. This process never takes the mutex, so
+// that each test starts without one.
+
+#include "tests/windows/ipc/child_process.h"
+#include "tests/windows/ipc/peer_events.h"
+
+#include <gtest/gtest.h>
+
+#include <aclapi.h>
+
+using namespace ipctest;
+
+namespace {
+
+const wchar_t* const mutexName = L"Global\\LUMACRAFT_UNINSTALL";
+
+// A child that holds what it got of the mutex until stop().
+class Claimer
+{
+public:
+    Claimer()
+        : name(uniqueName(L"tessera_ipc_claimer")), first(name + L"_first"),
+          later(name + L"_later"), stopEvent(name + L"_stop"),
+          process(siblingProgram(L"ipc_peer"), {L"claim", name})
+    {
+        const HANDLE any[] = {first.handle(), later.handle(), process.handle()};
+        WaitForMultipleObjects(3, any, FALSE, waitTime(patience));
+    }
+
+    bool isFirst() const { return first.isSet(); }
+    bool isLater() const { return later.isSet(); }
+    bool stop()
+    {
+        stopEvent.set();
+        return process.waitForExit() == 0u;
+    }
+
+private:
+    std::wstring name;
+    NamedEvent first;
+    NamedEvent later;
+    NamedEvent stopEvent;
+    ChildProcess process;
+};
+
+bool mutexExists()
+{
+    const win32::KernelHandle mutex(OpenMutexW(SYNCHRONIZE, FALSE, mutexName));
+    return static_cast<bool>(mutex);
+}
+
+TEST(SingleInstance, FirstCopyMakesTheMutexAndTakesItAway)
+{
+    ASSERT_FALSE(mutexExists());
+    Claimer copy;
+    EXPECT_TRUE(copy.isFirst());
+    EXPECT_TRUE(mutexExists());
+    EXPECT_TRUE(copy.stop());
+    EXPECT_FALSE(mutexExists());
+}
+
+TEST(SingleInstance, LaterCopiesFindIt)
+{
+    Claimer first;
+    ASSERT_TRUE(first.isFirst());
+    Claimer second;
+    Claimer third;
+    EXPECT_TRUE(second.isLater());
+    EXPECT_TRUE(third.isLater());
+}
+
+TEST(SingleInstance, ALaterCopyKeepsTheNameTakenWhenTheFirstEnds)
+{
+    Claimer first;
+    Claimer second;
+    ASSERT_TRUE(second.isLater());
+    ASSERT_TRUE(first.stop());
+    Claimer third;
+    EXPECT_TRUE(third.isLater());
+    EXPECT_TRUE(second.stop());
+    EXPECT_TRUE(third.stop());
+    Claimer fourth;
+    EXPECT_TRUE(fourth.isFirst());
+}
+
+TEST(SingleInstance, MutexOwnedByAThreadIsNotWaitedFor)
+{
+    const win32::KernelHandle owned(CreateMutexW(nullptr, TRUE, mutexName));
+    ASSERT_TRUE(owned);
+    Claimer copy;
+    EXPECT_TRUE(copy.isLater());
+    EXPECT_TRUE(copy.stop());
+}
+
+TEST(SingleInstance, MutexWithoutAccessMeansALaterCopy)
+{
+    DWORD everyone[SECURITY_MAX_SID_SIZE / sizeof(DWORD)] = {};
+    DWORD size = sizeof(everyone);
+    ASSERT_TRUE(CreateWellKnownSid(WinWorldSid, nullptr, everyone, &size));
+    DWORD list[64] = {};
+    auto* nobody = reinterpret_cast<ACL*>(list);
+    ASSERT_TRUE(InitializeAcl(nobody, sizeof(list), ACL_REVISION));
+    ASSERT_TRUE(AddAccessDeniedAce(nobody, ACL_REVISION, MUTEX_ALL_ACCESS, everyone));
+    SECURITY_DESCRIPTOR descriptor = {};
+    InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION);
+    SetSecurityDescriptorDacl(&descriptor, TRUE, nobody, FALSE);
+    SECURITY_ATTRIBUTES attributes = {sizeof(attributes), &descriptor, FALSE};
+    const win32::KernelHandle closed(CreateMutexW(&attributes, FALSE, mutexName));
+    ASSERT_TRUE(closed);
+    const win32::KernelHandle opened(CreateMutexW(nullptr, FALSE, mutexName));
+    ASSERT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
+    Claimer copy;
+    EXPECT_TRUE(copy.isLater());
+    EXPECT_TRUE(copy.stop());
+}
+
+TEST(SingleInstance, AnotherKindOfObjectWithTheNameDoesNotStopTheProgram)
+{
+    const win32::KernelHandle event(CreateEventW(nullptr, TRUE, FALSE, mutexName));
+    ASSERT_TRUE(event);
+    Claimer copy;
+    EXPECT_TRUE(copy.isFirst());
+    EXPECT_TRUE(copy.stop());
+}
+
+} // namespace
