@@ -1,0 +1,107 @@
+#include "support/keelbase/keelbase.h"
+#include "tests/support/recorded_log.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <thread>
+#include <type_traits>
+#include <vector>
+
+using Keelbase::CLogMsgMultibyte;
+using testing_support::RecordedLog;
+
+TEST(Logger, CreateLoggerSucceedsWithoutAPlaceForALog)
+{
+    Keelbase::setLogger(nullptr);
+    Keelbase::LoggerHandle logger;
+    EXPECT_EQ(Keelbase::createLogger(logger), 0);
+    ASSERT_NE(logger, nullptr);
+    EXPECT_LT(logger->level(), Keelbase::levelError);
+    logger->write({6, "category", "source", 1, "goes nowhere"});
+}
+
+TEST(Logger, CreateLoggerYieldsTheProcesssLogger)
+{
+    const RecordedLog log;
+    Keelbase::LoggerHandle first;
+    Keelbase::LoggerHandle second;
+    EXPECT_EQ(Keelbase::createLogger(first), 0);
+    EXPECT_EQ(Keelbase::createLogger(second), 0);
+    EXPECT_EQ(first, log.handle());
+    EXPECT_EQ(second, log.handle());
+}
+
+TEST(Logger, MessageIsHandedOverWhenItsStreamEnds)
+{
+    const RecordedLog log;
+    {
+        CLogMsgMultibyte message(log.handle(), 6, "MainForm", "ui/uninstall/src/widget", 77);
+        message << "count = " << 3 << ", " << std::string("text");
+        EXPECT_TRUE(log.records().empty());
+    }
+    ASSERT_EQ(log.records().size(), 1U);
+    const Keelbase::LogRecord record = log.records()[0];
+    EXPECT_EQ(record.level, 6);
+    EXPECT_EQ(record.category, "MainForm");
+    EXPECT_EQ(record.sourceFile, "ui/uninstall/src/widget");
+    EXPECT_EQ(record.sourceLine, 77);
+    EXPECT_EQ(record.text, "count = 3, text");
+}
+
+TEST(Logger, MessageIsAnOutputStringStream)
+{
+    static_assert(std::is_base_of_v<std::ostringstream, CLogMsgMultibyte>);
+    const RecordedLog log;
+    CLogMsgMultibyte message(log.handle(), 6, "c", "s", 1);
+    message << "text";
+    EXPECT_EQ(message.str(), "text");
+}
+
+TEST(Logger, MessageWithoutALoggerGoesNowhere)
+{
+    CLogMsgMultibyte message(nullptr, 6, "c", "s", 1);
+    message << "text";
+}
+
+TEST(Logger, LogComposesOnlyWhatTheLevelAsksFor)
+{
+    for (const int level : {0, 3, 6, 7}) {
+        const RecordedLog log(level);
+        for (const int messageLevel : {3, 6, 7}) {
+            bool composed = false;
+            Keelbase::log(messageLevel, "c", "s", 1, [&](std::ostream& text) {
+                composed = true;
+                text << "message";
+            });
+            EXPECT_EQ(composed, messageLevel <= level) << messageLevel << " at " << level;
+        }
+        const std::size_t expected = level == 7 ? 3U : level == 6 ? 2U : level == 3 ? 1U : 0U;
+        EXPECT_EQ(log.records().size(), expected);
+    }
+}
+
+TEST(Logger, SettingsNameIsCopied)
+{
+    std::string name = "SomeName";
+    Keelbase::setSettingsName(name.c_str());
+    name = "Other";
+    EXPECT_EQ(Keelbase::settingsName(), "SomeName");
+    Keelbase::setSettingsName("");
+}
+
+TEST(Logger, ManyThreadsMayLogAtOnce)
+{
+    const RecordedLog log;
+    std::vector<std::thread> threads;
+    for (int number = 0; number < 8; ++number) {
+        threads.emplace_back([] {
+            for (int count = 0; count < 200; ++count)
+                Keelbase::log(6, "c", "s", count, [](std::ostream& text) { text << "message"; });
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(log.records().size(), 1600U);
+}

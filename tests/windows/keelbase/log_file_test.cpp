@@ -1,0 +1,239 @@
+#include "tests/windows/support/child_process.h"
+#include "tests/windows/support/scratch_folder.h"
+#include "ui/common/sys/known_folders.h"
+#include "ui/common/sys/unique_handle.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <regex>
+#include <sstream>
+#include <string>
+#include <vector>
+
+using windows_tests::ChildProcess;
+using windows_tests::readBytes;
+using windows_tests::ScopedVariable;
+
+namespace {
+
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+// A settings name that nothing else uses, and its folder below the roaming application data.
+class LogFile : public testing::Test
+{
+protected:
+    LogFile()
+    {
+        std::wstring roaming;
+        sys::knownFolderPath(sys::KnownFolder::roamingAppData, roaming);
+        folder = std::filesystem::path(roaming) / name;
+    }
+    ~LogFile() override { std::filesystem::remove_all(folder); }
+
+    ChildProcess writer(const std::wstring& letter, int count, int size = 0,
+                        const std::wstring& end = L"return", const std::wstring& start = L"-") const
+    {
+        return ChildProcess(
+            windows_tests::helperProgram(L"log_writer"),
+            {name, letter, std::to_wstring(count), std::to_wstring(size), end, start});
+    }
+    std::filesystem::path file() const { return folder / L"logs" / L"log_writer.log"; }
+    std::filesystem::path olderFile(int number) const
+    {
+        return folder / L"logs" / (L"log_writer." + std::to_wstring(number) + L".log");
+    }
+    // Level and text of each message, without filling.
+    std::vector<std::string> messages() const
+    {
+        const std::regex shape("[0-9-]{10} [0-9:.]{12} [0-9]+:[0-9]+ ([0-9]) Writer "
+                               "tests/log_writer:1 \\| ([a-z][0-9]+)");
+        std::vector<std::string> found;
+        for (const std::string& line : linesOf(readBytes(file()))) {
+            const std::string start = line.substr(0, line.find(" .."));
+            std::smatch parts;
+            EXPECT_TRUE(std::regex_match(start, parts, shape)) << start;
+            found.push_back(parts[1].str() + " " + parts[2].str());
+        }
+        return found;
+    }
+
+    const std::wstring name = windows_tests::uniqueName(L"KeelbaseTest");
+    std::filesystem::path folder;
+};
+
+// Lets processes begin at the same time, so that they really meet.
+struct StartSignal
+{
+    void give() const { SetEvent(event.get()); }
+
+    const std::wstring name = windows_tests::uniqueName(L"start");
+    const win32::KernelHandle event{CreateEventW(nullptr, TRUE, FALSE, name.c_str())};
+};
+
+// In a log of two processes each one's messages stand whole and in their order.
+void expectInOrder(const std::vector<std::string>& lines, int messagesEach, std::size_t size)
+{
+    std::map<char, int> next{{'a', 0}, {'b', 0}};
+    for (const std::string& line : lines) {
+        const std::size_t bar = line.find(" | ");
+        ASSERT_NE(bar, std::string::npos) << line;
+        const std::string text = line.substr(bar + 3);
+        ASSERT_EQ(text.size(), size) << line;
+        const auto writer = next.find(text[0]);
+        ASSERT_NE(writer, next.end()) << line;
+        ASSERT_EQ(std::stoi(text.substr(1)), writer->second++) << line;
+    }
+    EXPECT_EQ(next['a'], messagesEach);
+    EXPECT_EQ(next['b'], messagesEach);
+}
+
+} // namespace
+
+TEST_F(LogFile, LiesInTheRoamingLogFolderUnderTheProgramsName)
+{
+    ASSERT_FALSE(std::filesystem::exists(folder));
+    ASSERT_EQ(writer(L"a", 1).waitForEnd(), 0U);
+    const std::regex shape("[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3} "
+                           "[0-9]+:[0-9]+ 3 Writer tests/log_writer:1 \\| a0\n");
+    EXPECT_TRUE(std::regex_match(readBytes(file()), shape)) << readBytes(file());
+}
+
+TEST_F(LogFile, LevelIsSixWithoutTheVariable)
+{
+    ASSERT_EQ(writer(L"a", 6).waitForEnd(), 0U);
+    EXPECT_EQ(messages(), (std::vector<std::string>{"3 a0", "6 a1", "3 a3", "6 a4"}));
+}
+
+TEST_F(LogFile, VariableRaisesTheLevel)
+{
+    const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"7");
+    ASSERT_EQ(writer(L"a", 3).waitForEnd(), 0U);
+    EXPECT_EQ(messages(), (std::vector<std::string>{"3 a0", "6 a1", "7 a2"}));
+}
+
+TEST_F(LogFile, VariableLowersTheLevel)
+{
+    {
+        const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"3");
+        ASSERT_EQ(writer(L"a", 6).waitForEnd(), 0U);
+        EXPECT_EQ(messages(), (std::vector<std::string>{"3 a0", "3 a3"}));
+    }
+    std::filesystem::remove_all(folder);
+    const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"0");
+    ASSERT_EQ(writer(L"a", 6).waitForEnd(), 0U);
+    EXPECT_FALSE(std::filesystem::exists(folder));
+}
+
+TEST_F(LogFile, AnythingElseInTheVariableLeavesTheDefault)
+{
+    for (const wchar_t* const value : {L"seven", L"7x", L" 7", L"-1", L"7.0", L"99999999999"}) {
+        const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", value);
+        ASSERT_EQ(writer(L"a", 3).waitForEnd(), 0U);
+        EXPECT_EQ(messages(), (std::vector<std::string>{"3 a0", "6 a1"}));
+        std::filesystem::remove_all(folder);
+    }
+}
+
+TEST_F(LogFile, CrashLosesNothing)
+{
+    const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"7");
+    ASSERT_EQ(writer(L"a", 100, 0, L"crash").waitForEnd(), 9U);
+    const std::vector<std::string> written = messages();
+    ASSERT_EQ(written.size(), 100U);
+    EXPECT_EQ(written.back(), "3 a99");
+}
+
+TEST_F(LogFile, TwoProcessesShareOneFile)
+{
+    const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"7");
+    const StartSignal start;
+    const ChildProcess first = writer(L"a", 400, 100, L"return", start.name);
+    const ChildProcess second = writer(L"b", 400, 100, L"return", start.name);
+    start.give();
+    ASSERT_EQ(first.waitForEnd(), 0U);
+    ASSERT_EQ(second.waitForEnd(), 0U);
+    expectInOrder(linesOf(readBytes(file())), 400, 100);
+}
+
+TEST_F(LogFile, TwoProcessesRotateOneFile)
+{
+    const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"7");
+    constexpr std::size_t size = 10000;
+    constexpr int messagesEach = 150; // 3 MB in all: three files, none of them dropped
+    const StartSignal start;
+    const ChildProcess first = writer(L"a", messagesEach, size, L"return", start.name);
+    const ChildProcess second = writer(L"b", messagesEach, size, L"return", start.name);
+    start.give();
+    ASSERT_EQ(first.waitForEnd(), 0U);
+    ASSERT_EQ(second.waitForEnd(), 0U);
+
+    EXPECT_FALSE(std::filesystem::exists(olderFile(3)));
+    std::string all;
+    for (const std::filesystem::path& part : {olderFile(2), olderFile(1), file()}) {
+        EXPECT_LE(std::filesystem::file_size(part), 1048576U) << part;
+        all += readBytes(part);
+    }
+    EXPECT_LE(std::filesystem::file_size(olderFile(1)), 1048576U);
+    EXPECT_GT(std::filesystem::file_size(olderFile(1)), 1048576U - 2 * size);
+    expectInOrder(linesOf(all), messagesEach, size);
+}
+
+TEST_F(LogFile, ThreeOlderFilesAreKept)
+{
+    ASSERT_EQ(writer(L"a", 90, 100000).waitForEnd(), 0U); // 6 MB at the levels up to 6
+    for (int number = 1; number <= 3; ++number)
+        EXPECT_TRUE(std::filesystem::exists(olderFile(number))) << number;
+    EXPECT_FALSE(std::filesystem::exists(olderFile(4)));
+    EXPECT_EQ(messages().back(), "6 a88");
+}
+
+TEST_F(LogFile, ProgramRunsWithoutALogFolder)
+{
+    std::filesystem::create_directories(folder);
+    windows_tests::writeBytes(folder / L"logs", "somebody's file");
+    EXPECT_EQ(writer(L"a", 100).waitForEnd(), 0U);
+    EXPECT_EQ(readBytes(folder / L"logs"), "somebody's file");
+}
+
+TEST_F(LogFile, ProgramRunsWithAFolderInPlaceOfTheFile)
+{
+    std::filesystem::create_directories(file());
+    EXPECT_EQ(writer(L"a", 100).waitForEnd(), 0U);
+    EXPECT_TRUE(std::filesystem::is_empty(file()));
+}
+
+TEST_F(LogFile, ProgramRunsWhenTheFileIsLockedByAnother)
+{
+    std::filesystem::create_directories(file().parent_path());
+    windows_tests::writeBytes(file(), "");
+    {
+        const win32::FileHandle lock(
+            CreateFileW(file().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+        ASSERT_TRUE(lock);
+        EXPECT_EQ(writer(L"a", 100).waitForEnd(), 0U);
+    }
+    EXPECT_EQ(readBytes(file()), "");
+}
+
+TEST_F(LogFile, MessagesGoOnWhileAnotherKeepsAnOlderFileOpen)
+{
+    std::filesystem::create_directories(file().parent_path());
+    windows_tests::writeBytes(olderFile(1), "");
+    // Opened as many viewers do: without letting anybody move or remove it.
+    const win32::FileHandle viewer(CreateFileW(olderFile(1).c_str(), GENERIC_READ,
+                                               FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                               OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(viewer);
+    ASSERT_EQ(writer(L"a", 45, 100000).waitForEnd(), 0U); // 3 MB at the levels up to 6
+    EXPECT_LE(std::filesystem::file_size(file()), 1048576U);
+    EXPECT_EQ(messages().back(), "6 a43");
+}

@@ -1,0 +1,149 @@
+#include "support/keelbase/platform.h"
+#include "tests/windows/support/child_process.h"
+#include "tests/windows/support/scratch_folder.h"
+#include "ui/common/sys/unique_handle.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <future>
+#include <thread>
+
+using Keelbase::WriteGate;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+Clock::duration timeToEnter(WriteGate& gate)
+{
+    const Clock::time_point start = Clock::now();
+    gate.enter();
+    gate.leave();
+    return Clock::now() - start;
+}
+
+// Keeps the gate closed, from a thread that stands for another process, until it is told to
+// open it or, with `abandon`, to end without opening it.
+class Holder
+{
+public:
+    explicit Holder(const std::filesystem::path& file, bool abandon = false)
+        : thread([this, file, abandon] {
+              // Outlives the thread when it is abandoned: a closed gate would be an opened one.
+              gate = std::make_unique<WriteGate>(file);
+              gate->enter();
+              entered.set_value();
+              release.get_future().wait_for(std::chrono::seconds(60));
+              if (!abandon)
+                  gate->leave();
+          })
+    {
+        entered.get_future().wait_for(std::chrono::seconds(60));
+    }
+    ~Holder() { letGo(); }
+    void letGo()
+    {
+        if (!thread.joinable())
+            return;
+        release.set_value();
+        thread.join();
+    }
+
+private:
+    std::unique_ptr<WriteGate> gate;
+    std::promise<void> entered;
+    std::promise<void> release;
+    std::thread thread;
+};
+
+// Whether somebody is inside the gate: a thread that stands for another process has to wait.
+bool isHeld(const std::filesystem::path& file)
+{
+    bool waited = false;
+    std::thread([&] {
+        WriteGate gate(file);
+        waited = timeToEnter(gate) >= std::chrono::milliseconds(400);
+    }).join();
+    return waited;
+}
+
+class WriteGates : public testing::Test
+{
+protected:
+    const std::filesystem::path file = L"C:\\logs\\" + windows_tests::uniqueName(L"Gate") + L".log";
+};
+
+} // namespace
+
+TEST_F(WriteGates, FreeGateIsEnteredAndLeft)
+{
+    WriteGate gate(file);
+    for (int round = 0; round < 2; ++round) {
+        gate.enter();
+        EXPECT_TRUE(isHeld(file));
+        gate.leave();
+    }
+    WriteGate other(file);
+    other.enter();
+    EXPECT_TRUE(isHeld(file));
+    other.leave();
+}
+
+TEST_F(WriteGates, HeldGateIsWaitedForButNotForEver)
+{
+    const Holder holder(file);
+    WriteGate gate(file);
+    const Clock::duration wait = timeToEnter(gate);
+    EXPECT_GE(wait, std::chrono::milliseconds(400));
+    EXPECT_LT(wait, std::chrono::seconds(20));
+}
+
+TEST_F(WriteGates, AfterOneWaitInVainItIsOnlyTried)
+{
+    Holder holder(file);
+    WriteGate gate(file);
+    timeToEnter(gate);
+    const Clock::time_point start = Clock::now();
+    for (int round = 0; round < 100; ++round)
+        timeToEnter(gate);
+    EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
+    // Once it proves free it is waited for again.
+    holder.letGo();
+    timeToEnter(gate);
+    const Holder next(file);
+    EXPECT_GE(timeToEnter(gate), std::chrono::milliseconds(400));
+}
+
+TEST_F(WriteGates, LeavingAGateThatWasNotEnteredOpensItForNobody)
+{
+    const Holder holder(file);
+    WriteGate gate(file);
+    gate.enter();
+    gate.leave();
+    EXPECT_TRUE(isHeld(file));
+}
+
+TEST_F(WriteGates, GateOfAProcessThatDiedInsideIsEntered)
+{
+    Holder holder(file, true);
+    holder.letGo();
+    WriteGate gate(file);
+    gate.enter();
+    EXPECT_TRUE(isHeld(file));
+    gate.leave();
+}
+
+TEST_F(WriteGates, DifferentFilesHaveDifferentGatesAndLetterCaseDoesNotCount)
+{
+    const Holder holder(file);
+    std::wstring upper = file.native();
+    CharUpperBuffW(upper.data(), static_cast<DWORD>(upper.size()));
+    EXPECT_TRUE(isHeld(upper));
+
+    const std::filesystem::path otherFile = file.native() + L"2";
+    WriteGate other(otherFile);
+    other.enter();
+    EXPECT_TRUE(isHeld(otherFile));
+    other.leave();
+}
