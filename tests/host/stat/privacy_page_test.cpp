@@ -33,7 +33,7 @@ Members membersOf(const std::string& text, const std::regex& pattern)
 
 Members membersOfPage()
 {
-    return membersOf(privacyPage(), std::regex(R"(\n\| `([a-z_]+)` \| `?([A-Z_]*)`? \|)"));
+    return membersOf(privacyPage(), std::regex(R"(\n\| `([a-z_]+)` \| `?([A-Z_]*)`? ?\|)"));
 }
 
 // With every parameter's name as its value, the body shows which member takes which.
