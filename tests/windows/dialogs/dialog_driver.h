@@ -1,0 +1,114 @@
+#pragma once
+
+// Works through modal dialogs while the program waits inside their exec().
+
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QStringList>
+#include <QTimer>
+#include <QtTest>
+
+#include <deque>
+#include <functional>
+
+class DialogDriver : public QObject
+{
+public:
+    using Step = std::function<void(QDialog& dialog)>;
+
+    DialogDriver() { arm(); }
+
+    // The next modal dialog must be of this class; `step` is made on it once it is on the screen.
+    void expect(const char* className, Step step) { steps.push_back({className, std::move(step)}); }
+
+    // Empty when every expected dialog came, in order, and no other.
+    QString problem() const
+    {
+        if (!failure.isEmpty() || steps.empty())
+            return failure;
+        return QStringLiteral("never seen: ") + QLatin1String(steps.front().className);
+    }
+
+private:
+    struct Expected
+    {
+        const char* className;
+        Step step;
+    };
+
+    static constexpr int intervalMs = 10;
+    static constexpr int deadlineMs = 30'000;
+
+    // A new timer for each look: one that is still in its own handler, below a dialog that the
+    // handler opened, would not fire.
+    void arm()
+    {
+        QTimer::singleShot(intervalMs, this, [this] { look(); });
+    }
+
+    void look()
+    {
+        arm();
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || dialog == current) {
+            // The dialog of the last step may still be open: it is being closed, or has opened
+            // the next one, which then counts as another.
+            if (dialog == nullptr)
+                current = nullptr;
+            else if (sinceStep.hasExpired(deadlineMs))
+                giveUp(*dialog, QStringLiteral("does not close"));
+            return;
+        }
+        current = dialog;
+        sinceStep.start();
+        if (steps.empty() || !dialog->inherits(steps.front().className)) {
+            giveUp(*dialog, QStringLiteral("not expected"));
+            return;
+        }
+        const Step step = std::move(steps.front().step);
+        steps.pop_front();
+        if (!QTest::qWaitForWindowActive(dialog, deadlineMs)) {
+            giveUp(*dialog, QStringLiteral("never active"));
+            return;
+        }
+        step(*dialog);
+    }
+
+    void giveUp(QDialog& dialog, const QString& why)
+    {
+        if (failure.isEmpty())
+            failure = QLatin1String(dialog.metaObject()->className()) + QLatin1Char(' ') + why;
+        dialog.reject();
+        dialog.hide();
+    }
+
+    std::deque<Expected> steps;
+    QDialog* current = nullptr;
+    QElapsedTimer sinceStep;
+    QString failure;
+};
+
+// Gestures for the steps.
+inline DialogDriver::Step clickButton(const char* objectName)
+{
+    return [objectName](QDialog& dialog) {
+        auto* button = dialog.findChild<QWidget*>(QLatin1String(objectName));
+        QVERIFY(button != nullptr);
+        QTest::mouseClick(button, Qt::LeftButton);
+    };
+}
+
+inline DialogDriver::Step pressKey(Qt::Key key)
+{
+    return [key](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), key); };
+}
+
+// As the program itself would.
+inline DialogDriver::Step closeByTitleBar()
+{
+    return [](QDialog& dialog) { dialog.close(); };
+}
+
+// What Windows sends for Alt+F4 and for the title bar's button.
+DialogDriver::Step sendSystemClose();
