@@ -1,0 +1,102 @@
+"""The base of the end-to-end tests."""
+
+import os
+import shutil
+import subprocess
+import unittest
+from pathlib import Path
+from typing import Dict, Iterable, List, Optional
+
+from harness import layout, screen
+from harness.prefix import Prefix
+from harness.suite import COMPANY_BRAND, PRODUCT_BRAND, RunningApplication, RunningProgram, Suite
+from applications import Application
+
+__all__ = ["COMPANY_BRAND", "PRODUCT_BRAND", "SuiteTestCase"]
+
+
+class SuiteTestCase(unittest.TestCase):
+    """Each test has its own computer (Wine prefix) below the build tree. It is removed after a
+    test that passed, and kept, with a picture of the screen, after one that failed."""
+
+    maxDiff = None
+
+    def run(self, result=None):
+        result = result or self.defaultTestResult()
+        problems = len(result.failures) + len(result.errors)
+        name = self.id().rpartition(".")[0].rpartition(".")[2] + "." + self._testMethodName
+        self.scratch: Path = layout.BUILD / "e2e" / f"{name}-{os.getpid()}"
+        self.prefix = Prefix(self.scratch / "prefix")
+        super().run(result)
+        if len(result.failures) + len(result.errors) == problems:
+            shutil.rmtree(self.scratch, ignore_errors=True)
+        else:
+            print(f"\nkept: {self.scratch}", flush=True)
+        return result
+
+    def setUp(self):
+        self.prefix.create()
+        self.addCleanup(self.prefix.end)
+        self.addCleanup(self._picture_of_the_end)
+
+    def _picture_of_the_end(self):
+        screen.save_screen(self.scratch / "screen.png")
+
+    # Steps that most tests begin with
+
+    def install(self, chosen: Iterable[Application], brand: str = PRODUCT_BRAND) -> Suite:
+        """The applications, and the program in the suite's folder."""
+        suite = Suite(self.prefix, brand)
+        suite.install(chosen)
+        suite.place_program()
+        return suite
+
+    def start_application(self, suite: Suite, application: Application) -> RunningApplication:
+        started = suite.start_application(application)
+        self.addCleanup(started.stop)
+        return started
+
+    def start_program(self, suite: Suite, *arguments: str, rows: Optional[int] = None,
+                      environment: Optional[Dict[str, str]] = None) -> RunningProgram:
+        """The program with its window, which shows so many rows."""
+        program = suite.start_program(*arguments, environment=environment)
+        self.addCleanup(self._stop, program.process)
+        if rows is not None:
+            program.main_window.wait_for_rows(rows)
+        return program
+
+    @staticmethod
+    def _stop(process: subprocess.Popen):
+        process.kill()
+        process.wait()
+
+    # Checks
+
+    def assert_arguments(self, suite: Suite, expected: Dict[Application, List[str]]):
+        """Exactly these uninstallers ran, each once, with exactly these arguments, and all have
+        ended by now."""
+        for application in expected:
+            suite.records.wait_for_end(application.id_string)
+        found = {id_string: [run.arguments for run in suite.records.runs(id_string)]
+                 for id_string in suite.records.recorded()}
+        self.assertEqual(found, {application.id_string: [arguments]
+                                 for application, arguments in expected.items()})
+
+    def assert_log(self, suite: Suite, expected: List[str]):
+        """The program's messages of the main form, all of them, in order."""
+        messages = [message for message in suite.log() if message.category == "MainForm"]
+        self.assertEqual([message.text for message in messages], expected)
+        self.assertEqual({(message.level, message.source) for message in messages},
+                         {(6, "ui/uninstall/src/widget")})
+
+    def assert_removed(self, suite: Suite, application: Application, with_settings: bool):
+        """Nothing is left of its program; its settings are, unless they were to go too."""
+        self.assertFalse(suite.folder(application).exists(), application.folder)
+        self.assertEqual(suite.settings_folder(application).exists(), not with_settings)
+
+    def assert_untouched(self, suite: Suite, application: Application):
+        self.assertTrue((suite.folder(application) / application.process_name).exists())
+        self.assertTrue((suite.folder(application) / "Uninst.exe").exists())
+        self.assertTrue(suite.settings_folder(application).exists())
+        self.assertEqual(suite.records.runs(application.id_string), [])
+        self.assertIn(application.display_name, suite.registered())

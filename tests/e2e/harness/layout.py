@@ -1,0 +1,17 @@
+"""Where the tree keeps what the harness needs."""
+
+import os
+import sys
+from pathlib import Path
+
+REPOSITORY = Path(__file__).resolve().parents[3]
+BUILD = Path(os.environ.get("TESSERA_BUILD_DIR", REPOSITORY / "build" / "windows"))
+
+PROGRAM = BUILD / "Uninstall.exe"
+INSTALLERS = BUILD / "sample_suite"
+ARGUMENT_RECORDER = INSTALLERS / "argument_recorder.exe"
+WINE_RUN = REPOSITORY / "tools" / "wine-run"
+WINE_TOOLS = BUILD / "tools"
+
+# The table of the sample applications belongs to the suite's own folder.
+sys.path.insert(0, str(REPOSITORY / "tools" / "sample_suite"))

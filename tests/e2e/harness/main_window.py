@@ -1,0 +1,132 @@
+"""The program's main window, used as a person does: looked at and clicked."""
+
+from typing import List, NamedTuple
+
+from harness.screen import Picture, Window
+from harness.waiting import wait_until
+
+# Fixed by the form: the window has one size, and the controls' places follow from it.
+_WIDTH, _HEIGHT = 379, 305
+_UNINSTALL = (317, 276)
+_SELECT = (210, 276)
+_REST = (60, 276)  # nothing is there
+_LIST_LEFT, _LIST_TOP, _LIST_BOTTOM = 14, 13, 203
+_BELOW_LIST = 210
+_DELETE_BOTTOM = 245
+_BOX_COLUMNS = 30  # check boxes begin left of this
+
+# A check box is a frame of 13 points whose corners are rounded, with a dark tick inside.
+_FRAME_LIMIT = 0xC8
+_TICK_LIMIT = 0x60
+_BOX_SIZE = 13
+_STRAIGHT_SIDE = range(8, _BOX_SIZE + 1)
+
+
+class CheckBox(NamedTuple):
+    x: int       # its middle
+    y: int
+    checked: bool
+
+
+def _vertical_lines(picture: Picture, x: int, top: int, bottom: int) -> List[int]:
+    """Where in the column a line as long as a check box's side begins."""
+    starts = []
+    y = top
+    while y < bottom:
+        length = 0
+        while y + length < bottom and picture.dark(x, y + length, _FRAME_LIMIT):
+            length += 1
+        if length in _STRAIGHT_SIDE:
+            starts.append(y)
+        y += length + 1
+    return starts
+
+
+def find_check_boxes(picture: Picture, left: int, top: int, bottom: int) -> List[CheckBox]:
+    """The whole check boxes of the first column of them, from the top down."""
+    for x in range(left, _BOX_COLUMNS):
+        right = x + _BOX_SIZE - 1
+        boxes = []
+        for y in set(_vertical_lines(picture, x, top, bottom)) & set(
+                _vertical_lines(picture, right, top, bottom)):
+            inside = [(column, row) for column in range(x + 2, right - 1)
+                      for row in range(y, y + _BOX_SIZE - 4)]
+            checked = any(picture.dark(*point, _TICK_LIMIT) for point in inside)
+            boxes.append(CheckBox(x + _BOX_SIZE // 2, y + _BOX_SIZE // 2 - 2, checked))
+        if boxes:
+            return sorted(boxes, key=lambda box: box.y)
+    return []
+
+
+class MainWindow:
+    """Rows are counted from 0; only those that the list shows whole can be used."""
+
+    def __init__(self, window: Window):
+        self.window = window
+
+    def _picture(self) -> Picture:
+        picture = self.window.picture()
+        assert (picture.width, picture.height) == (_WIDTH, _HEIGHT), picture
+        return picture
+
+    def _rows(self) -> List[CheckBox]:
+        return find_check_boxes(self._picture(), _LIST_LEFT, _LIST_TOP, _LIST_BOTTOM)
+
+    def _delete_box(self) -> CheckBox:
+        def found() -> List[CheckBox]:
+            return find_check_boxes(self._picture(), 0, _BELOW_LIST, _DELETE_BOTTOM)
+        return wait_until(found, "the box 'Delete settings and history' is not shown")[0]
+
+    def checked_rows(self) -> List[bool]:
+        return [row.checked for row in self._rows()]
+
+    def deletes_settings(self) -> bool:
+        return self._delete_box().checked
+
+    def wait_for_rows(self, count: int) -> None:
+        wait_until(lambda: len(self._rows()) == count, f"the list does not show {count} rows")
+
+    def wait_for_checked_rows(self, expected: List[bool]) -> None:
+        def reached() -> bool:
+            return self.checked_rows() == expected
+        wait_until(reached, f"the rows' boxes did not become {expected}")
+
+    def toggle_row(self, row: int) -> None:
+        """Clicks the row's check box and waits until it has changed."""
+        box = wait_until(lambda: self._rows()[row:row + 1], f"row {row} is not shown")[0]
+        self.window.click(box.x, box.y)
+        self.window.move_mouse(*_REST)
+        wait_until(lambda: self._rows()[row].checked != box.checked,
+                   f"row {row} did not change its state")
+
+    def select_row(self, row: int) -> None:
+        """Clicks the row's text, so that the keyboard acts on it."""
+        box = self._rows()[row]
+        self.window.click(box.x + 60, box.y)
+        self.window.move_mouse(*_REST)
+
+    def toggle_delete_settings(self) -> None:
+        box = self._delete_box()
+        self.window.click(box.x, box.y)
+        self.window.move_mouse(*_REST)
+        wait_until(lambda: self._delete_box().checked != box.checked,
+                   "'Delete settings and history' did not change its state")
+
+    def press_select_button(self) -> None:
+        """"Select all" or "Select none", whichever it is."""
+        self.window.click(*_SELECT)
+        self.window.move_mouse(*_REST)
+
+    def select_all(self) -> None:
+        """Presses "Select all" and waits until everything, the delete box too, is checked."""
+        rows = len(self._rows())
+        self.press_select_button()
+        self.wait_for_checked_rows([True] * rows)
+        wait_until(self.deletes_settings, "'Delete settings and history' was not checked")
+
+    def press_uninstall(self) -> None:
+        self.window.click(*_UNINSTALL)
+        self.window.move_mouse(*_REST)
+
+    def close(self) -> None:
+        self.window.press("alt+F4")

@@ -1,0 +1,102 @@
+"""A Wine prefix: one simulated computer with one user."""
+
+import getpass
+import os
+import shutil
+import subprocess
+import uuid
+from pathlib import Path, PureWindowsPath
+from typing import Dict, Optional, Sequence, Union
+
+from harness import layout, registry
+
+# No single Windows program that the harness runs to its end takes longer.
+RUN_DEADLINE = 120.0
+
+
+class Prefix:
+    """Owns the folder: `create` makes it, `destroy` ends its processes and removes it."""
+
+    def __init__(self, folder: Path):
+        self.folder = folder
+
+    def create(self) -> None:
+        self.folder.mkdir(parents=True)
+        self._wine_run("--prepare")
+
+    def end(self) -> None:
+        """Ends every Windows process of the prefix and writes its registry to disk."""
+        self._wine_run("--end")
+
+    def destroy(self) -> None:
+        if self.folder.exists():
+            self.end()
+            shutil.rmtree(self.folder)
+
+    def _wine_run(self, option: str) -> None:
+        subprocess.run([layout.WINE_RUN, option], env=self.environment(), check=True,
+                       timeout=RUN_DEADLINE, stdin=subprocess.DEVNULL)
+
+    def environment(self, extra: Optional[Dict[str, str]] = None) -> Dict[str, str]:
+        return {**os.environ, "WINEPREFIX": str(self.folder), "WINE_RUN_AT_END": "leave",
+                "WINE_RUN_TOOLS": str(layout.WINE_TOOLS), **(extra or {})}
+
+    # Paths
+
+    @property
+    def drive(self) -> Path:
+        return self.folder / "drive_c"
+
+    def unix_path(self, windows_path: Union[str, PureWindowsPath]) -> Path:
+        path = PureWindowsPath(windows_path)
+        assert path.drive.upper() == "C:", path
+        return self.drive.joinpath(*path.parts[1:])
+
+    @property
+    def roaming(self) -> PureWindowsPath:
+        """The user's roaming application data."""
+        return PureWindowsPath("C:/users", getpass.getuser(), "AppData", "Roaming")
+
+    @property
+    def settings(self) -> PureWindowsPath:
+        """The suite's settings folder, the same for both brands."""
+        return self.roaming / "Lumacraft"
+
+    @property
+    def logs(self) -> PureWindowsPath:
+        return self.settings / "logs"
+
+    # Programs
+
+    def start(self, program: Union[str, Path], *arguments: str,
+              environment: Optional[Dict[str, str]] = None, **options) -> subprocess.Popen:
+        """Starts a Windows program; `options` are those of Popen."""
+        options.setdefault("stdin", subprocess.DEVNULL)
+        return subprocess.Popen([layout.WINE_RUN, str(program), *arguments],
+                                env=self.environment(environment), **options)
+
+    def run(self, program: Union[str, Path], *arguments: str) -> None:
+        """Runs a Windows program to its end; raises when it reports a failure."""
+        subprocess.run([layout.WINE_RUN, str(program), *arguments], env=self.environment(),
+                       check=True, timeout=RUN_DEADLINE, stdin=subprocess.DEVNULL,
+                       stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+
+    # Registry
+
+    def read_registry(self, key: str) -> registry.Tree:
+        """The key and all below it, as {path: {value name: data}}; empty when it is missing."""
+        name = f"export-{uuid.uuid4().hex}.reg"
+        self.run("regedit", "/E", f"C:\\{name}", key)
+        exported = self.drive / name
+        if not exported.exists():
+            return registry.Tree()
+        text = exported.read_bytes().decode("utf-16")
+        exported.unlink()
+        return registry.parse(text)
+
+    def write_registry(self, values: Sequence[registry.Value]) -> None:
+        name = f"import-{uuid.uuid4().hex}.reg"
+        imported = self.drive / name
+        imported.write_bytes(registry.serialise(values).encode("utf-16"))
+        self.run("regedit", "/S", f"C:\\{name}")
+        imported.unlink()

@@ -1,0 +1,76 @@
+"""What the sample uninstallers wrote about themselves (tools/sample_suite/records.nsh)."""
+
+from dataclasses import dataclass
+from pathlib import Path
+from typing import List, Optional
+
+from harness import command_line
+from harness.prefix import Prefix
+from harness.waiting import PATIENCE, wait_until
+
+FOLDER = "C:\\records"
+# Windows counts hundreds of nanoseconds from 1601, Unix seconds from 1970.
+_TICKS_PER_SECOND = 10_000_000
+_UNIX_EPOCH_TICKS = 116_444_736_000_000_000
+
+
+def _unix_time(ticks: str) -> float:
+    return (int(ticks) - _UNIX_EPOCH_TICKS) / _TICKS_PER_SECOND
+
+
+@dataclass
+class Run:
+    """One run of an uninstaller; times are Unix times, `ended` is None while it runs."""
+    begun: float
+    arguments: Optional[List[str]] = None
+    ended: Optional[float] = None
+    exit_code: Optional[int] = None
+
+
+class Records:
+    """The records of one prefix."""
+
+    def __init__(self, prefix: Prefix):
+        self.folder: Path = prefix.unix_path(FOLDER)
+
+    def recorded(self) -> List[str]:
+        """The id strings of the applications whose uninstaller has run at all."""
+        return sorted(path.stem for path in self.folder.glob("*.txt"))
+
+    def runs(self, id_string: str) -> List[Run]:
+        """Every run so far, oldest first. A line that is only half written is not read."""
+        path = self.folder / f"{id_string}.txt"
+        if not path.exists():
+            return []
+        content = path.read_bytes()
+        text = content[:len(content) // 2 * 2].decode("utf-16-le")
+        found: List[Run] = []
+        for line in text.split("\r\n")[:-1]:
+            kind, *fields = line.split("\t")
+            if kind == "begin":
+                found.append(Run(_unix_time(fields[0])))
+            elif kind == "line":
+                found[-1].arguments = command_line.split(line.split("\t", 1)[1])
+            elif kind == "end":
+                found[-1].ended = _unix_time(fields[0])
+                found[-1].exit_code = int(fields[1])
+        return found
+
+    def wait_for_begin(self, id_string: str, seconds: float = PATIENCE) -> Run:
+        """Waits until the first run has told its arguments."""
+        def begun() -> Optional[Run]:
+            runs = self.runs(id_string)
+            return runs[0] if runs and runs[0].arguments is not None else None
+        return wait_until(begun, f"the uninstaller of {id_string} has not begun", seconds)
+
+    def wait_for_end(self, id_string: str, seconds: float = PATIENCE) -> Run:
+        """Waits until the first run is over."""
+        def ended() -> Optional[Run]:
+            runs = self.runs(id_string)
+            return runs[0] if runs and runs[0].ended is not None else None
+        return wait_until(ended, f"the uninstaller of {id_string} has not ended", seconds)
+
+    def release(self, id_string: str) -> None:
+        """Lets an uninstaller that holds go on."""
+        self.folder.mkdir(exist_ok=True)
+        (self.folder / f"{id_string}.release").touch()

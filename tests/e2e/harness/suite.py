@@ -1,0 +1,174 @@
+"""The sample suite on one computer: its installers, its running applications, and the program."""
+
+import shutil
+import subprocess
+from pathlib import Path, PureWindowsPath
+from typing import Dict, Iterable, List, Optional
+
+from harness import layout, log_file, screen
+from harness.main_window import MainWindow
+from harness.prefix import Prefix
+from harness.records import Records
+from harness.registry import Tree
+from harness.waiting import PATIENCE, Timeout, wait_until
+
+import applications  # pylint: disable=wrong-import-order  # found through layout
+from applications import Application
+
+COMPANY_BRAND = "Corvane"
+PRODUCT_BRAND = "Lumacraft"
+LIST_NAMES = {COMPANY_BRAND: "UninstallPaths", PRODUCT_BRAND: "UninstPaths"}
+SUITE_KEY = "HKEY_CURRENT_USER\\Software\\Corvane"
+PROGRAM_FILES = PureWindowsPath("C:/Program Files")
+
+MAIN_TITLE = "Uninstall"
+SURVEY_TITLE = "Uninstall .+"
+WARNING_TITLE = "Uninstallation"
+
+# What a suite in use has in its settings; the place is known, so no survey asks a server for it.
+COMMON_SETTINGS = "EventStatEnabled=0\nLanguage=en\nLocation=US\n"
+
+
+class Suite:
+    """`brand` is what the applications were installed as. Everything ends with the prefix."""
+
+    def __init__(self, prefix: Prefix, brand: str = PRODUCT_BRAND):
+        self.prefix = prefix
+        self.brand = brand
+        self.records = Records(prefix)
+        self.program_folder = PROGRAM_FILES / brand / applications.SUITE.folder
+
+    # Installing
+
+    def install(self, chosen: Iterable[Application]) -> None:
+        for application in chosen:
+            self.prefix.run(layout.INSTALLERS / f"{application.id_string}_setup.exe", "/S",
+                            f"/BRAND={self.brand}")
+        self.write_common_settings(COMMON_SETTINGS.encode())
+
+    def place_program(self, folder: Optional[PureWindowsPath] = None) -> None:
+        """Puts the program into the suite's folder, or into another one, from then on its own."""
+        self.program_folder = folder or self.program_folder
+        target = self.prefix.unix_path(self.program_folder)
+        target.mkdir(parents=True, exist_ok=True)
+        shutil.copy(layout.PROGRAM, target / "Uninstall.exe")
+
+    def write_common_settings(self, content: bytes) -> None:
+        file = self.prefix.unix_path(self.prefix.settings / "common.cfg")
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_bytes(content)
+
+    def damage(self, application: Application) -> None:
+        """Removes the program folder by hand; what is registered stays."""
+        shutil.rmtree(self.folder(application))
+
+    # Where things are
+
+    def windows_folder(self, application: Application) -> PureWindowsPath:
+        return PROGRAM_FILES / self.brand / application.folder
+
+    def folder(self, application: Application) -> Path:
+        return self.prefix.unix_path(self.windows_folder(application))
+
+    def uninstaller(self, application: Application) -> str:
+        return str(self.windows_folder(application) / "Uninst.exe")
+
+    def settings_folder(self, application: Application) -> Path:
+        return self.prefix.unix_path(self.prefix.settings / application.id_string)
+
+    def log_switch(self, application: Application) -> str:
+        return f"/log={self.prefix.logs}\\{application.id_string}_uninstall.log"
+
+    def uninstall_log(self, application: Application) -> Path:
+        return self.prefix.unix_path(
+            self.prefix.logs / f"{application.id_string}_uninstall.log")
+
+    def registry(self) -> Tree:
+        return self.prefix.read_registry(SUITE_KEY)
+
+    def registered(self) -> List[str]:
+        """The display names in the brand's uninstall list, sorted."""
+        return sorted(self.registry()[f"{SUITE_KEY}\\{LIST_NAMES[self.brand]}"])
+
+    def log(self) -> List[log_file.Message]:
+        return log_file.read(self.prefix.unix_path(self.prefix.logs / "Uninstall.log"))
+
+    # Processes
+
+    def start_application(self, application: Application) -> "RunningApplication":
+        return RunningApplication(self, application)
+
+    def start_program(self, *arguments: str,
+                      environment: Optional[Dict[str, str]] = None) -> "RunningProgram":
+        return RunningProgram(self, arguments, environment)
+
+
+class RunningApplication:
+    """An application of the suite while the person uses it."""
+
+    def __init__(self, suite: Suite, application: Application):
+        self.application = application
+        self.process = suite.prefix.start(suite.folder(application) / application.process_name,
+                                          stdout=subprocess.PIPE, text=True)
+        # The line comes once the application holds its mutex; an early end reads as no line.
+        line = self.process.stdout.readline().strip()
+        if line != "ready":
+            raise AssertionError(f"{application.process_name} said {line!r}")
+
+    @property
+    def running(self) -> bool:
+        return self.process.poll() is None
+
+    def wait_until_ended(self) -> None:
+        wait_until(lambda: not self.running, f"{self.application.process_name} still runs")
+
+    def stop(self) -> None:
+        """Closes it from here; also what must be called when it has ended by itself."""
+        self.process.terminate()
+        self.process.wait(PATIENCE)
+        self.process.stdout.close()
+
+
+class RunningProgram:
+    """One run of Uninstall.exe with its window."""
+
+    def __init__(self, suite: Suite, arguments: Iterable[str],
+                 environment: Optional[Dict[str, str]]):
+        program = suite.prefix.unix_path(suite.program_folder) / "Uninstall.exe"
+        self.process = suite.prefix.start(program, *arguments, environment=environment)
+        self.main_window = MainWindow(
+            screen.wait_for_window(MAIN_TITLE, alive=[self.process]))
+
+    @property
+    def running(self) -> bool:
+        return self.process.poll() is None
+
+    def wait_for_warning(self) -> screen.Window:
+        return screen.wait_for_window(WARNING_TITLE, alive=[self.process])
+
+    def attend(self, answers: Dict[str, str]) -> List[str]:
+        """Answers windows until the program has ended. `answers` gives the key to press for a
+        window by its title (a regular expression); returns the titles answered, in order."""
+        answered: List[str] = []
+
+        def ended() -> bool:
+            for title, key in answers.items():
+                for window in screen.find_windows(title):
+                    answered.append(window.title)
+                    window.press(key)
+                    wait_until(lambda: not window.exists(),  # pylint: disable=cell-var-from-loop
+                               f"'{answered[-1]}' did not close on {key}")
+            return not self.running
+        wait_until(ended, "the program did not end")
+        return answered
+
+    def press_escape_on_surveys(self) -> List[str]:
+        """Sees the run to its end; declines to say why the applications go."""
+        return self.attend({SURVEY_TITLE: "Escape"})
+
+    def exit_code(self) -> int:
+        """Waits for the end."""
+        try:
+            return self.process.wait(PATIENCE)
+        except subprocess.TimeoutExpired as error:
+            raise Timeout("the program did not end") from error

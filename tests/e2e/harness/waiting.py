@@ -1,0 +1,27 @@
+"""Waiting for events, always with a deadline."""
+
+import time
+from typing import Callable, TypeVar
+
+Result = TypeVar("Result")
+
+# Long enough for a heavily loaded machine; only a failing test ever waits that long.
+PATIENCE = 60.0
+# Between two looks at a condition that nothing announces.
+INTERVAL = 0.02
+
+
+class Timeout(AssertionError):
+    """Something that had to happen did not happen in time."""
+
+
+def wait_until(condition: Callable[[], Result], what: str, seconds: float = PATIENCE) -> Result:
+    """Returns the first true result of `condition`; raises Timeout after `seconds`."""
+    deadline = time.monotonic() + seconds
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > deadline:
+            raise Timeout(f"after {seconds:.0f} s: {what}")
+        time.sleep(INTERVAL)

@@ -1,0 +1,139 @@
+"""Runs with every row checked."""
+
+import applications
+from harness.case import SuiteTestCase
+from harness.suite import SUITE_KEY
+from applications import (AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, HOLDING, PARTNER, RUNNING,
+                          SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
+
+# As many rows as the list shows without scrolling.
+VISIBLE_ROWS = 9
+
+
+class FullRun(SuiteTestCase):
+
+    def assert_ran_in_order(self, suite, order):
+        started = [message.text for message in suite.log()
+                   if message.text.startswith("DoUninsstall: ")]
+        self.assertEqual(started, [f"DoUninsstall: {suite.uninstaller(application)}"
+                                   for application in order])
+        modes = {message.text for message in suite.log()
+                 if message.text.startswith("--> DoUninsstall")}
+        self.assertEqual(modes, {"--> DoUninsstall: full"})
+
+    def test_removes_everything_and_the_suite_last(self):
+        suite = self.install(applications.ALL)
+        suite.damage(DAMAGED)
+        program = self.start_program(suite, rows=VISIBLE_ROWS)
+        program.main_window.select_all()
+        program.main_window.toggle_delete_settings()
+        program.main_window.press_uninstall()
+        surveys = program.press_escape_on_surveys()
+        self.assertEqual(program.exit_code(), 0)
+        suite.records.release(HOLDING.id_string)
+
+        self.assertEqual(surveys, ["Uninstall Tessera Clip Saver",
+                                   "Uninstall Tessera Track Saver"])
+        without_log = ["/SILENT", "/SUPPRESSMSGBOXES", "/DISABLEREDIRECT"]
+        self.assert_arguments(suite, {
+            AWKWARD_FOLDER: without_log,
+            CLIP_SAVER: without_log,
+            FAILING: without_log,
+            RUNNING: without_log,
+            HOLDING: without_log,
+            SLIDESHOW: without_log,
+            TRACK_SAVER: without_log,
+            PARTNER: without_log,
+            SECOND_RUNNING: [suite.log_switch(SECOND_RUNNING), *without_log],
+            UNKNOWN: [suite.log_switch(UNKNOWN), *without_log],
+            SUITE: [suite.log_switch(SUITE), "/SILENT", "/SUPPRESSMSGBOXES", "/LASTAPP"],
+        })
+        self.assert_ran_in_order(suite, [
+            AWKWARD_FOLDER, CLIP_SAVER, FAILING, RUNNING, DAMAGED, HOLDING, SLIDESHOW, TRACK_SAVER,
+            PARTNER, SECOND_RUNNING, UNKNOWN, SUITE])
+        for application in (AWKWARD_FOLDER, CLIP_SAVER, RUNNING, SLIDESHOW, TRACK_SAVER, PARTNER,
+                            SECOND_RUNNING, UNKNOWN, SUITE):
+            self.assert_removed(suite, application, with_settings=False)
+        logs = {application for application in applications.ALL
+                if suite.uninstall_log(application).exists()}
+        self.assertEqual(logs, {SECOND_RUNNING, UNKNOWN, SUITE})
+        # What could not be removed is still registered.
+        self.assertEqual(suite.registered(), ["Codec Doctor", "Light Table"])
+        self.assertEqual(suite.registry()[SUITE_KEY]["UninstallMode"], 1)
+
+    def test_with_delete_settings_and_history_no_logs_and_no_settings_remain(self):
+        suite = self.install([AWKWARD_FOLDER, SUITE, PARTNER, UNKNOWN])
+        program = self.start_program(suite, rows=4)
+        program.main_window.select_all()
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        with_redirect_off = ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/DISABLEREDIRECT"]
+        self.assert_arguments(suite, {
+            AWKWARD_FOLDER: with_redirect_off,
+            PARTNER: with_redirect_off,
+            UNKNOWN: with_redirect_off,
+            SUITE: ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/LASTAPP"],
+        })
+        self.assert_ran_in_order(suite, [AWKWARD_FOLDER, PARTNER, UNKNOWN, SUITE])
+        for application in (AWKWARD_FOLDER, SUITE, PARTNER, UNKNOWN):
+            self.assert_removed(suite, application, with_settings=True)
+            self.assertFalse(suite.uninstall_log(application).exists())
+        self.assertEqual(suite.registered(), [])
+        self.assertEqual(suite.registry()[SUITE_KEY]["UninstallMode"], 1)
+
+    def test_checking_the_suite_row_alone_is_a_full_run_of_all(self):
+        suite = self.install([SUITE, PARTNER])
+        program = self.start_program(suite, rows=2)
+        program.main_window.toggle_row(0)
+        program.main_window.wait_for_checked_rows([True, True])
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assert_arguments(suite, {
+            PARTNER: [suite.log_switch(PARTNER), "/SILENT", "/SUPPRESSMSGBOXES",
+                      "/DISABLEREDIRECT"],
+            SUITE: [suite.log_switch(SUITE), "/SILENT", "/SUPPRESSMSGBOXES", "/LASTAPP"],
+        })
+        self.assert_log(suite, [
+            "-->Widget::Widget()",
+            "Try to fill list widget (runtime brand: Lumacraft)",
+            "--> uninstallButtonClicked",
+            "--> DoUninsstall: full",
+            f"DoUninsstall: {suite.uninstaller(PARTNER)}",
+            "--> DoUninsstall: full",
+            f"DoUninsstall: {suite.uninstaller(SUITE)}",
+            "~Widget()",
+        ])
+        # The suite's uninstaller could remove the program, because that had ended.
+        self.assertFalse((suite.prefix.unix_path(suite.program_folder) / "Uninstall.exe").exists())
+
+    def test_of_the_suite_alone_does_not_announce_a_full_run(self):
+        suite = self.install([SUITE])
+        program = self.start_program(suite, rows=1)
+        program.main_window.toggle_row(0)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assert_arguments(suite, {
+            SUITE: [suite.log_switch(SUITE), "/SILENT", "/SUPPRESSMSGBOXES", "/LASTAPP"]})
+        self.assert_removed(suite, SUITE, with_settings=False)
+        self.assertNotIn("UninstallMode", suite.registry()[SUITE_KEY])
+
+    def test_without_a_suite_row_ends_well_after_the_last_application(self):
+        suite = self.install([PARTNER, UNKNOWN])
+        program = self.start_program(suite, rows=2)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assert_arguments(suite, {
+            PARTNER: [suite.log_switch(PARTNER), "/SILENT", "/SUPPRESSMSGBOXES",
+                      "/DISABLEREDIRECT"],
+            UNKNOWN: [suite.log_switch(UNKNOWN), "/SILENT", "/SUPPRESSMSGBOXES", "/LASTAPP"],
+        })
+        # The last step finds no uninstaller of the suite to start.
+        self.assertEqual([message.text for message in suite.log()][-2:],
+                         ["--> DoUninsstall: full", "~Widget()"])
+        self.assertEqual(suite.registry()[SUITE_KEY]["UninstallMode"], 1)

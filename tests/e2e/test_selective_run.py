@@ -1,0 +1,151 @@
+"""Runs that leave at least one application where it is."""
+
+from harness.case import SuiteTestCase
+from harness.suite import SUITE_KEY
+from applications import (AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, FAILURE_CODE, HOLDING,
+                          PARTNER, SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
+
+START_OF_LOG = ["-->Widget::Widget()", "Try to fill list widget (runtime brand: Lumacraft)"]
+
+
+def removal(suite, application):
+    """The log of one uninstaller's start."""
+    return ["--> DoUninsstall: selective", f"DoUninsstall: {suite.uninstaller(application)}"]
+
+
+class SelectiveRun(SuiteTestCase):
+
+    def test_removes_exactly_the_checked_applications(self):
+        suite = self.install([AWKWARD_FOLDER, SLIDESHOW, PARTNER, SECOND_RUNNING, UNKNOWN])
+        program = self.start_program(suite, rows=5)
+        for row in (0, 1, 4):
+            program.main_window.toggle_row(row)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        chosen = [AWKWARD_FOLDER, SLIDESHOW, UNKNOWN]
+        self.assert_arguments(suite, {
+            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
+            for application in chosen})
+        for application in chosen:
+            self.assert_removed(suite, application, with_settings=False)
+            self.assertTrue(suite.uninstall_log(application).exists())
+        for application in (PARTNER, SECOND_RUNNING):
+            self.assert_untouched(suite, application)
+        self.assertEqual(suite.registered(), ["Vidalo Downloader", "Wave Tuner"])
+        self.assertNotIn("UninstallMode", suite.registry()[SUITE_KEY])
+        self.assert_log(suite, START_OF_LOG + ["--> uninstallButtonClicked"] +
+                        [line for application in chosen for line in removal(suite, application)] +
+                        ["~Widget()"])
+
+    def test_delete_settings_and_history_adds_its_switch_and_keeps_the_log_switch(self):
+        suite = self.install([PARTNER, SECOND_RUNNING, UNKNOWN])
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(2)
+        program.main_window.toggle_delete_settings()
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assert_arguments(suite, {
+            application: [suite.log_switch(application), "/SILENT", "/FULL", "/SUPPRESSMSGBOXES"]
+            for application in (PARTNER, UNKNOWN)})
+        self.assert_removed(suite, PARTNER, with_settings=True)
+        self.assert_removed(suite, UNKNOWN, with_settings=True)
+        self.assert_untouched(suite, SECOND_RUNNING)
+        self.assertNotIn("UninstallMode", suite.registry()[SUITE_KEY])
+
+    def test_asks_once_for_each_of_the_two_surveyed_applications_before_it_goes(self):
+        suite = self.install([CLIP_SAVER, TRACK_SAVER, PARTNER])
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        surveys = program.press_escape_on_surveys()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assertEqual(surveys, ["Uninstall Tessera Clip Saver",
+                                   "Uninstall Tessera Track Saver"])
+        self.assert_arguments(suite, {
+            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
+            for application in (CLIP_SAVER, TRACK_SAVER)})
+        self.assert_removed(suite, CLIP_SAVER, with_settings=False)
+        self.assert_removed(suite, TRACK_SAVER, with_settings=False)
+        self.assert_untouched(suite, PARTNER)
+
+    def test_goes_on_after_an_uninstaller_that_is_missing(self):
+        suite = self.install([DAMAGED, PARTNER, UNKNOWN])
+        suite.damage(DAMAGED)
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assert_arguments(suite, {
+            PARTNER: [suite.log_switch(PARTNER), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        self.assertEqual(suite.registered(), ["Light Table", "Zebra Player"])
+        self.assert_log(suite, START_OF_LOG + ["--> uninstallButtonClicked"] +
+                        removal(suite, DAMAGED) + removal(suite, PARTNER) + ["~Widget()"])
+
+    def test_goes_on_after_an_uninstaller_that_fails(self):
+        suite = self.install([FAILING, PARTNER, UNKNOWN])
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assert_arguments(suite, {
+            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
+            for application in (FAILING, PARTNER)})
+        self.assertEqual(suite.records.runs(FAILING.id_string)[0].exit_code, FAILURE_CODE)
+        self.assertTrue((suite.folder(FAILING) / FAILING.process_name).exists())
+        self.assert_removed(suite, PARTNER, with_settings=False)
+        self.assertEqual(suite.registered(), ["Codec Doctor", "Zebra Player"])
+
+    def test_waits_two_seconds_for_an_uninstaller_and_leaves_it_running(self):
+        suite = self.install([HOLDING, PARTNER, UNKNOWN])
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        # The program has ended, and the slow uninstaller has not.
+        held = suite.records.wait_for_begin(HOLDING.id_string)
+        self.assertIsNone(held.ended)
+        self.assertTrue((suite.folder(HOLDING) / HOLDING.process_name).exists())
+        times = {message.text: message.time for message in suite.log()}
+        waited = (times[f"DoUninsstall: {suite.uninstaller(PARTNER)}"] -
+                  times[f"DoUninsstall: {suite.uninstaller(HOLDING)}"]).total_seconds()
+        self.assertGreaterEqual(waited, 1.99)
+        self.assertLess(waited, 10.0)
+
+        suite.records.release(HOLDING.id_string)
+        self.assert_arguments(suite, {
+            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
+            for application in (HOLDING, PARTNER)})
+        self.assertEqual(suite.records.runs(HOLDING.id_string)[0].exit_code, 0)
+        self.assertFalse((suite.folder(HOLDING) / HOLDING.process_name).exists())
+        self.assertEqual(suite.registered(), ["Zebra Player"])
+
+    def test_keeps_the_suite_when_another_row_was_unchecked_after_its_own(self):
+        suite = self.install([AWKWARD_FOLDER, SUITE, PARTNER])
+        program = self.start_program(suite, rows=3)
+        window = program.main_window
+        window.toggle_row(1)
+        window.wait_for_checked_rows([True, True, True])
+        # A click on a row has the suite's row check all of them again; the keyboard does not.
+        window.select_row(2)
+        window.window.press("space")
+        window.wait_for_checked_rows([True, True, False])
+        window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assert_arguments(suite, {
+            AWKWARD_FOLDER: [suite.log_switch(AWKWARD_FOLDER), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        self.assert_untouched(suite, SUITE)
+        self.assert_untouched(suite, PARTNER)
+        self.assert_log(suite, START_OF_LOG + ["--> uninstallButtonClicked"] +
+                        removal(suite, AWKWARD_FOLDER) + ["~Widget()"])

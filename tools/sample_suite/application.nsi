@@ -1,0 +1,226 @@
+; One application of the sample suite: a 64-bit installer, and the uninstaller that it writes.
+;
+; Compile-time values (build.py passes them):
+;   ID_STRING       the name under which the suite registers the application
+;   DISPLAY_NAME    the name in the uninstall list
+;   FOLDER_NAME     the folder below the brand's folder
+;   VERSION         goes to the application's own .cfg
+;   PROGRAM         the executable installed as <ID_STRING>.exe
+;   OUTPUT          the installer to make
+;   KEEPER          when defined: the program installed as Uninst.exe, which runs the NSIS
+;                   uninstaller (Uninst_core.exe) and stays until that has ended
+;   REMOVAL         "works", "fails" (ends with code 5 and removes nothing) or "holds" (goes on
+;                   only when C:\records\<ID_STRING>.release exists, or after a minute)
+;
+; The installer's own switches: /S (no windows), /BRAND=Corvane or /BRAND=Lumacraft, which decides
+; the list that the application registers in and the folder it goes to, and /ROOT=<folder>, which
+; replaces the folder that holds the brand's folder.
+
+Unicode true
+Target amd64-unicode
+SetCompressor zlib
+RequestExecutionLevel user
+ManifestSupportedOS all
+
+Name "${DISPLAY_NAME}"
+OutFile "${OUTPUT}"
+BrandingText "Tessera sample suite"
+ShowInstDetails nevershow
+ShowUninstDetails nevershow
+AutoCloseWindow true
+
+!include LogicLib.nsh
+!include FileFunc.nsh
+!include "records.nsh"
+
+!define SUITE_KEY "Software\Corvane"
+!define SETTINGS_FOLDER "$APPDATA\Lumacraft"
+
+Var brand
+Var listName
+Var logFile
+Var deletesSettings
+Var isLast
+Var asksNothing
+Var exitCode
+
+Page instfiles
+UninstPage instfiles
+
+!macro chooseList
+  ${If} $brand == "Corvane"
+    StrCpy $listName "UninstallPaths"
+  ${Else}
+    StrCpy $listName "UninstPaths"
+  ${EndIf}
+!macroend
+
+; ---------------------------------------------------------------- installer
+
+Function .onInit
+  SetShellVarContext current
+  ${GetParameters} $R0
+  ClearErrors
+  ${GetOptions} $R0 "/BRAND=" $brand
+  ${If} ${Errors}
+    StrCpy $brand "Lumacraft"
+  ${EndIf}
+  ClearErrors
+  ${GetOptions} $R0 "/ROOT=" $R1
+  ${If} ${Errors}
+    StrCpy $R1 "$PROGRAMFILES64"
+  ${EndIf}
+  StrCpy $INSTDIR "$R1\$brand\${FOLDER_NAME}"
+  !insertmacro chooseList
+FunctionEnd
+
+Section
+  SetOutPath "$INSTDIR"
+  File "/oname=${ID_STRING}.exe" "${PROGRAM}"
+  FileOpen $0 "$INSTDIR\readme.txt" w
+  FileWriteUTF16LE /BOM $0 "${DISPLAY_NAME} ${VERSION}$\r$\n"
+  FileClose $0
+  SetOutPath "$INSTDIR\presets"
+  FileOpen $0 "$INSTDIR\presets\standard.preset" w
+  FileWrite $0 "quality=high$\r$\n"
+  FileClose $0
+  SetOutPath "$INSTDIR"
+!ifdef KEEPER
+  File "/oname=Uninst.exe" "${KEEPER}"
+  WriteUninstaller "$INSTDIR\Uninst_core.exe"
+!else
+  WriteUninstaller "$INSTDIR\Uninst.exe"
+!endif
+
+  ; What the application itself would leave behind after some use.
+  CreateDirectory "${SETTINGS_FOLDER}\${ID_STRING}"
+  FileOpen $0 "${SETTINGS_FOLDER}\${ID_STRING}\${ID_STRING}.cfg" w
+  FileWrite $0 "InstType=full$\nVersion=${VERSION}$\n"
+  FileClose $0
+  FileOpen $0 "${SETTINGS_FOLDER}\${ID_STRING}\history.txt" w
+  FileWrite $0 "C:\Media\last.mp4$\r$\n"
+  FileClose $0
+  CreateDirectory "${SETTINGS_FOLDER}\logs"
+
+  WriteRegStr HKCU "${SUITE_KEY}\$listName" "${DISPLAY_NAME}" \
+    "$INSTDIR\Uninst.exe /log=${SETTINGS_FOLDER}\logs\${ID_STRING}_uninstall.log"
+  WriteRegStr HKCU "${SUITE_KEY}\AppPaths" "${ID_STRING}" "$INSTDIR"
+  ; The uninstaller finds its brand again here.
+  FileOpen $0 "$INSTDIR\brand.txt" w
+  FileWrite $0 "$brand"
+  FileClose $0
+SectionEnd
+
+; -------------------------------------------------------------- uninstaller
+
+Function un.onInit
+  SetShellVarContext current
+!ifndef KEEPER
+  ${un.recordCommandLine} "${ID_STRING}"
+!endif
+  StrCpy $logFile ""
+  StrCpy $deletesSettings 0
+  StrCpy $isLast 0
+  StrCpy $asksNothing 0
+  StrCpy $exitCode 0
+  ; Windows' own splitting, so that a switch whose path holds spaces stays one argument.
+  StrCpy $0 $CMDLINE
+  System::Call 'shell32::CommandLineToArgvW(w r0, *i .r1) p .r2'
+  ${If} $1 > 1
+    IntOp $1 $1 - 1
+    ${ForEach} $3 1 $1 + 1
+      IntOp $4 $3 * 8
+      IntPtrOp $5 $2 + $4
+      System::Call '*$5(p .r6)'
+      System::Call '*$6(&w${NSIS_MAX_STRLEN} .r7)'
+      StrCpy $8 $7 5
+      ${If} $8 == "/log="
+        StrCpy $logFile $7 "" 5
+      ${ElseIf} $7 == "/SILENT"
+        SetSilent silent
+      ${ElseIf} $7 == "/FULL"
+        StrCpy $deletesSettings 1
+      ${ElseIf} $7 == "/LASTAPP"
+        StrCpy $isLast 1
+      ${ElseIf} $7 == "/SUPPRESSMSGBOXES"
+        StrCpy $asksNothing 1
+      ${EndIf}
+    ${Next}
+  ${EndIf}
+  System::Call 'kernel32::LocalFree(p r2)'
+
+  ${If} $asksNothing == 0
+    MessageBox MB_YESNO|MB_ICONQUESTION "Remove ${DISPLAY_NAME}?" IDYES goOn
+    Abort
+  goOn:
+  ${EndIf}
+FunctionEnd
+
+; un.log TEXT: one line in the file that the /log switch names; nothing without the switch.
+!macro log text
+  ${If} $logFile != ""
+    FileOpen $0 "$logFile" a
+    ${IfNot} ${Errors}
+      FileSeek $0 0 END
+      FileWriteUTF16LE $0 "${text}$\r$\n"
+      FileClose $0
+    ${EndIf}
+    ClearErrors
+  ${EndIf}
+!macroend
+!define un.log "!insertmacro log"
+
+Section un.Remove
+  ${un.log} "Uninstall of ${DISPLAY_NAME} begun"
+
+!if ${REMOVAL} == "fails"
+  StrCpy $exitCode 5
+  ${un.log} "The program folder is in use; nothing was removed"
+!else
+!if ${REMOVAL} == "holds"
+  ${ForEach} $1 1 1200 + 1
+    ${If} ${FileExists} "${RECORDS_FOLDER}\${ID_STRING}.release"
+      ${ExitFor}
+    ${EndIf}
+    Sleep 50
+  ${Next}
+!endif
+  StrCpy $brand ""
+  FileOpen $0 "$INSTDIR\brand.txt" r
+  FileRead $0 $brand
+  FileClose $0
+  !insertmacro chooseList
+
+  Delete "$INSTDIR\${ID_STRING}.exe"
+  Delete "$INSTDIR\readme.txt"
+  Delete "$INSTDIR\brand.txt"
+  Delete "$INSTDIR\presets\standard.preset"
+  RMDir "$INSTDIR\presets"
+!ifndef KEEPER
+  Delete "$INSTDIR\Uninst.exe"
+!endif
+  ; The suite's own folder holds the program that started us; it goes as soon as that has ended.
+  ${If} $isLast == 1
+    ${ForEach} $1 1 200 + 1
+      Delete "$INSTDIR\Uninstall.exe"
+      ${IfNot} ${FileExists} "$INSTDIR\Uninstall.exe"
+        ${ExitFor}
+      ${EndIf}
+      Sleep 50
+    ${Next}
+  ${EndIf}
+  RMDir "$INSTDIR"
+
+  DeleteRegValue HKCU "${SUITE_KEY}\$listName" "${DISPLAY_NAME}"
+  DeleteRegValue HKCU "${SUITE_KEY}\AppPaths" "${ID_STRING}"
+  ${If} $deletesSettings == 1
+    RMDir /r "${SETTINGS_FOLDER}\${ID_STRING}"
+  ${EndIf}
+  ${un.log} "Uninstall of ${DISPLAY_NAME} finished"
+!endif
+
+!ifndef KEEPER
+  ${un.recordEnd} "${ID_STRING}" $exitCode
+!endif
+  SetErrorLevel $exitCode
+SectionEnd
