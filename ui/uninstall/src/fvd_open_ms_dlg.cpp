@@ -23,15 +23,6 @@ void setLetterSpacing(QWidget* widget, qreal percent)
     widget->setFont(font);
 }
 
-// The dialog is white whatever the user's colours are, so texts without a colour of their own
-// must not take the user's, which may be white as well.
-void setDarkText(QWidget* widget)
-{
-    QPalette palette = widget->palette();
-    palette.setColor(QPalette::WindowText, QColor(0x17, 0x1B, 0x23));
-    widget->setPalette(palette);
-}
-
 // A label takes the file it is given, so the sharper picture has to be chosen here.
 QPixmap bulletPicture(const char* name, const QWidget& widget)
 {
@@ -78,8 +69,6 @@ void FvdOpenMsDlg::setUpFonts()
     setLetterSpacing(ui->caption, captionLetterSpacing);
     setLetterSpacing(ui->bottomInfo, textLetterSpacing);
     setLetterSpacing(ui->mainBtn, textLetterSpacing);
-    for (QLabel* label : {ui->info1Label, ui->info2Label, ui->info3Label, ui->info4Label})
-        setDarkText(label);
 }
 
 void FvdOpenMsDlg::setUpPictures()

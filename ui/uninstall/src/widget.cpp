@@ -51,11 +51,11 @@ Widget::~Widget()
 {
     logMainForm(__LINE__, [](std::ostream& out) { out << "~Widget()"; });
     ui.reset();
-    // A taskkill that is still at work would be killed with its object before it closes anything.
-    const auto helpers = findChildren<QProcess*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QProcess* helper : helpers) {
-        if (helper->state() != QProcess::NotRunning)
-            helper->setParent(nullptr);
+    // Uninstallers and taskkill go on without the window; destroying their objects would kill them.
+    const auto programs = findChildren<QProcess*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QProcess* program : programs) {
+        if (program->state() != QProcess::NotRunning)
+            program->setParent(nullptr);
     }
 }
 

@@ -141,15 +141,7 @@ void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& co
         return;
     logMainForm(__LINE__, [&program](std::ostream& out) { out << "DoUninsstall: " << program; });
 
-    // Has no owner on purpose: an uninstaller that takes longer than the wait goes on by itself,
-    // while deleting its QProcess would kill it. The object ends with its program.
-    auto* uninstaller = new QProcess;
-    connect(uninstaller, &QProcess::stateChanged, uninstaller,
-            [uninstaller](QProcess::ProcessState now) {
-                if (now == QProcess::NotRunning)
-                    uninstaller->deleteLater();
-            });
-
+    auto* uninstaller = new QProcess(this);
     const uninstall::RunOptions options{remaining, full, ui->cbDeleteSettings->isChecked()};
     if (uninstall::writesUninstallMode(options)) {
         QSettings suite(uninstall::suiteKey(), QSettings::NativeFormat);
