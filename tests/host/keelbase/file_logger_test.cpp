@@ -2,13 +2,12 @@
 
 #include "tests/host/support/temp_folder.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <filesystem>
 #include <memory>
-#include <regex>
-#include <set>
 #include <sstream>
 #include <string>
 #include <thread>
@@ -55,11 +54,9 @@ protected:
 TEST_F(LogFile, LineHasTimeProcessThreadAndMessage)
 {
     write(*logger(), "-->Widget::Widget()");
-    const std::regex shape(
-        "[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3} [0-9]+:[0-9]+ "
-        "6 Category source/file:12 \\| -->Widget::Widget\\(\\)\n");
-    EXPECT_TRUE(std::regex_match(folder.read("logs/Program.log"), shape))
-        << folder.read("logs/Program.log");
+    EXPECT_THAT(folder.read("logs/Program.log"),
+                testing::MatchesRegex("....-..-.. ..:..:..[.]... [0-9]+:[0-9]+ 6 Category "
+                                      "source/file:12 [|] -->Widget::Widget[(][)]\n"));
 }
 
 TEST_F(LogFile, MessageIsInTheFileBeforeTheLoggerEnds)

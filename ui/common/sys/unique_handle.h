@@ -24,8 +24,7 @@ public:
     UniqueHandle(UniqueHandle&& other) noexcept : value(other.release()) {}
     UniqueHandle& operator=(UniqueHandle&& other) noexcept
     {
-        if (this != &other)
-            reset(other.release());
+        reset(other.release());
         return *this;
     }
     ~UniqueHandle() { reset(); }
