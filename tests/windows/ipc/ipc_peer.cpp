@@ -9,6 +9,7 @@
 //       takes the mutex, signals NAME_first or NAME_later, and ends on NAME_stop.
 
 #include "tests/windows/ipc/peer_events.h"
+#include "tests/windows/ipc/pipe_stranger.h"
 #include "ui/common/sys/interprocess_communication_win.h"
 
 #include <algorithm>
@@ -40,8 +41,8 @@ void NTAPI threadStarted(PVOID, DWORD reason, PVOID)
     if (reason != DLL_THREAD_ATTACH || !connectFromNewThread)
         return;
     connectFromNewThread = false;
-    earlyClient = CreateFileW(L"\\\\.\\pipe\\DF467A07-9FF8-46A9-B701-2D3ADDD9BE3B_Uninstall",
-                              GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    earlyClient = CreateFileW(ipctest::pipePath, GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                              OPEN_EXISTING, 0, nullptr);
 }
 
 // Reply of NtQuerySystemInformation for all open handles of the system, in the form that Windows
@@ -130,9 +131,13 @@ int serve(const std::wstring& name, bool withEarlyClient)
     channel.claimMutex();
     channel.receiver = &receiver;
     connectFromNewThread = withEarlyClient;
-    const int result = channel.createServer();
+    int result = channel.createServer();
     if (withEarlyClient && earlyClient == INVALID_HANDLE_VALUE)
         return badUsage;
+    while (!withEarlyClient && result == 0 && !ipctest::serverTakesClients()) {
+        channel.close();
+        result = channel.createServer();
+    }
     NamedEvent(name + L"_ready").set();
     stop.wait(longestRun);
     channel.close();
@@ -147,7 +152,7 @@ int send(const std::string& text)
     const ULONGLONG end = GetTickCount64() + deadline;
     int result = 0;
     while ((result = channel.connectToServer()) == ERROR_PIPE_BUSY && GetTickCount64() < end)
-        WaitNamedPipeW(L"\\\\.\\pipe\\DF467A07-9FF8-46A9-B701-2D3ADDD9BE3B_Uninstall", 1000);
+        WaitNamedPipeW(ipctest::pipePath, 1000);
     if (result == 0)
         result = channel.sendMessage(text);
     const std::string answer = channel.getAnswer();

@@ -74,6 +74,18 @@ Bytes Stranger::transact(const Bytes& message)
     return answer;
 }
 
+bool serverTakesClients()
+{
+    {
+        Stranger probe;
+        if (!probe.connected())
+            return false;
+        probe.transact({1});
+    }
+    constexpr DWORD soon = 2000; // ms; an ended thread leaves the pipe busy for good
+    return WaitNamedPipeW(pipePath, soon) != FALSE;
+}
+
 StrangeServer::StrangeServer()
     : pipe(CreateNamedPipeW(pipePath, PIPE_ACCESS_DUPLEX,
                             PIPE_TYPE_MESSAGE | PIPE_READMODE_MESSAGE | PIPE_WAIT, 1, 100000,

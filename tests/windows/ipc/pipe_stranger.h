@@ -43,6 +43,11 @@ private:
     DWORD lastError = 0;
 };
 
+// True when the server thread takes clients: it hangs up on a request that is too short to be
+// delivered, and then listens again. A client that comes before the thread's first wait ends the
+// thread, so tests that are about something else make sure with this one first.
+bool serverTakesClients();
+
 // A server of one pipe instance, without the program's class.
 class StrangeServer
 {

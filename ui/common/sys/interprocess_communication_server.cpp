@@ -64,9 +64,11 @@ void CInterprocessCommunicationWin::run(int)
             const DWORD error = GetLastError();
             if (error != ERROR_IO_PENDING) {
                 // Also a client that was there before this call (ERROR_PIPE_CONNECTED), which only
-                // happens to a pipe that was opened a moment ago: serving ends, and later copies
-                // hand over to nobody and still end.
+                // happens to a pipe that was opened a moment ago: serving ends for this run, and
+                // later copies find the pipe busy and end all the same. That first client must
+                // not wait for an answer for as long as this process lives, so it is let go.
                 logFailure(__LINE__, "ConnectNamedPipe", error);
+                DisconnectNamedPipe(pipe.get());
                 return;
             }
         }

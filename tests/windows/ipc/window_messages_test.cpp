@@ -1,0 +1,463 @@
+// What the main window's base class does with messages, in both roles.
+
+#include "tests/windows/ipc/child_process.h"
+#include "tests/windows/ipc/peer_events.h"
+#include "tests/windows/ipc/pipe_stranger.h"
+#include "tests/windows/ipc/serving_peer.h"
+#include "tests/windows/widget/captured_log.h"
+#include "ui/common/sys/interprocess_communication_app.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <future>
+#include <memory>
+
+using namespace ipctest;
+
+namespace {
+
+constexpr int patienceMs = 30000;
+
+// Remembers what reaches the hook.
+class Window : public CInterprocessCommunicationApp
+{
+public:
+    explicit Window(std::vector<std::string> arguments = {}, QWidget* parent = nullptr,
+                    bool check = true)
+        : CInterprocessCommunicationApp(std::move(arguments), parent, check, 0)
+    {}
+
+    std::string answer() const { return answerText; }
+    void receive(const QString& message)
+    {
+        QVERIFY(QMetaObject::invokeMethod(this, "onMessageReceived", Qt::DirectConnection,
+                                          Q_ARG(unsigned long, 77), Q_ARG(QString, message)));
+    }
+
+    QStringList hooked;
+    QString reply;
+    std::unique_ptr<NamedEvent> deliveryBegins;
+
+protected:
+    QString handleMessage(const QString& text) override
+    {
+        hooked << text;
+        return reply;
+    }
+    void onMessageFromOtherProcess(unsigned long pid, const std::string& text) override
+    {
+        if (deliveryBegins)
+            deliveryBegins->set();
+        CInterprocessCommunicationApp::onMessageFromOtherProcess(pid, text);
+    }
+};
+
+// Sends a text from another process, or rather thread, as a stranger does; the answer's text.
+std::future<std::string> sendFromThread(std::string text)
+{
+    return std::async(std::launch::async, [text = std::move(text)]() -> std::string {
+        Stranger client;
+        const Bytes answer = client.transact(frame(5, text));
+        return answer.size() > 9 ? std::string(answer.begin() + 9, answer.end()) : std::string();
+    });
+}
+
+// Runs the event loop until the answer is there.
+std::string answerTo(const std::string& text)
+{
+    auto answer = sendFromThread(text);
+    QElapsedTimer timer;
+    timer.start();
+    while (answer.wait_for(milliseconds(5)) != std::future_status::ready &&
+           timer.elapsed() < patienceMs)
+        QCoreApplication::processEvents();
+    return answer.get();
+}
+
+std::unique_ptr<Window> servingWindow()
+{
+    auto window = std::make_unique<Window>();
+    while (!serverTakesClients()) {
+        window.reset(); // or it would be the first copy to the next one
+        window = std::make_unique<Window>();
+    }
+    return window;
+}
+
+// A child process that has the mutex, with or without serving the pipe.
+class OtherCopy
+{
+public:
+    OtherCopy()
+        : name(uniqueName(L"tessera_ipc_copy")), first(name + L"_first"), later(name + L"_later"),
+          stop(name + L"_stop"), process(siblingProgram(L"ipc_peer"), {L"claim", name})
+    {
+        const HANDLE any[] = {first.handle(), later.handle(), process.handle()};
+        WaitForMultipleObjects(3, any, FALSE, waitTime(patience));
+    }
+    ~OtherCopy()
+    {
+        stop.set();
+        process.waitForExit();
+    }
+
+private:
+    std::wstring name;
+    NamedEvent first;
+    NamedEvent later;
+    NamedEvent stop;
+    ChildProcess process;
+};
+
+QString deliveriesOf(ServingPeer&)
+{
+    Stranger client;
+    const Bytes answer = client.transact(frame(1, "#deliveries"));
+    return QString::fromLatin1(reinterpret_cast<const char*>(answer.data()) + 9,
+                               static_cast<int>(answer.size()) - 9);
+}
+
+bool minimised(const QWidget& window)
+{
+    return window.windowState().testFlag(Qt::WindowMinimized);
+}
+
+} // namespace
+
+// The tests of this class begin with the later copy: once this process has been one, it keeps the
+// mutex, and the first copy's tests do not mind.
+class WindowMessagesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void metaObjectHasTheSignalAndThenTheSlot();
+    void castsByNameReachBothBases();
+
+    void withoutTheCheckNothingIsServedOrSent();
+    void firstCopyServesAndIsNotAnotherInstance();
+    void answerIsWhatTheHookMakesOfTheMessage();
+    void everyByteReachesTheHookAsLatin1();
+    void deliveryIsHandledOnTheMainThreadBeforeItsAnswer();
+    void receivedMessageIsLogged();
+
+    void showRestoresAMinimisedWindow();
+    void showKeepsTheMaximisedBit();
+    void showLeavesAWindowThatIsNotMinimisedInItsState();
+    void showWithMinimizedMinimisesAndAnswersNothing_data();
+    void showWithMinimizedMinimisesAndAnswersNothing();
+    void minimizedAloneIsForTheHook();
+    void handleIsAnsweredInDecimal_data();
+    void handleIsAnsweredInDecimal();
+    void targetWindowIsTheOneActedOn();
+    void wordsAreCaseSensitive();
+    void eachMessageForgetsTheAnswerBeforeIt();
+
+    void endWithADeliveryUnderWayDoesNotHang();
+
+    void laterCopySendsItsArgumentsAndIsAnotherInstance();
+    void laterCopyWithoutArgumentsSendsShow();
+    void laterCopyDoesNotServe();
+    void laterCopyWithoutAServerIsAnotherInstanceAllTheSame();
+    void laterCopyAnsweredReviveBecomesTheFirst();
+    void laterCopyWithoutTheCheckOpensItsWindow();
+};
+
+void WindowMessagesTest::metaObjectHasTheSignalAndThenTheSlot()
+{
+    const QMetaObject& meta = CInterprocessCommunicationApp::staticMetaObject;
+    const int first = meta.methodOffset();
+    QCOMPARE(meta.methodCount() - first, 2);
+    QCOMPARE(meta.method(first).methodSignature(),
+             QByteArray("messageFromOtherProcessReceived(ulong,QString)"));
+    QCOMPARE(meta.method(first).methodType(), QMetaMethod::Signal);
+    QCOMPARE(meta.method(first + 1).methodSignature(),
+             QByteArray("onMessageReceived(ulong,QString)"));
+    QCOMPARE(meta.method(first + 1).methodType(), QMetaMethod::Slot);
+}
+
+void WindowMessagesTest::castsByNameReachBothBases()
+{
+    Window window({}, nullptr, false);
+    QCOMPARE(window.qt_metacast("CInterprocessCommunicationApp"),
+             static_cast<void*>(static_cast<CInterprocessCommunicationApp*>(&window)));
+    QCOMPARE(window.qt_metacast("IMessageFromOtherProcess"),
+             static_cast<void*>(static_cast<IMessageFromOtherProcess*>(&window)));
+}
+
+void WindowMessagesTest::withoutTheCheckNothingIsServedOrSent()
+{
+    Window window({"/app", "X"}, nullptr, false);
+    QVERIFY(!window.isAnotherInstanceRunning());
+    QCOMPARE(window.startArguments(), (std::vector<std::string>{"/app", "X"}));
+    Stranger client(milliseconds(0));
+    QCOMPARE(client.error(), DWORD{ERROR_FILE_NOT_FOUND});
+}
+
+void WindowMessagesTest::firstCopyServesAndIsNotAnotherInstance()
+{
+    Window window({"/app", "X"});
+    QVERIFY(!window.isAnotherInstanceRunning());
+    QCOMPARE(window.startArguments(), (std::vector<std::string>{"/app", "X"}));
+    Stranger client(milliseconds(0));
+    QVERIFY(client.connected());
+}
+
+void WindowMessagesTest::answerIsWhatTheHookMakesOfTheMessage()
+{
+    Window window({}, nullptr, false);
+    window.reply = QString::fromUtf8("\xc3\xa9\xe2\x82\xac");
+    window.receive(QStringLiteral("a/showb/gethwn"));
+    QCOMPARE(window.hooked, QStringList{QStringLiteral("ab/gethwn")});
+    QCOMPARE(window.answer(), std::string("\xc3\xa9\xe2\x82\xac"));
+}
+
+void WindowMessagesTest::everyByteReachesTheHookAsLatin1()
+{
+    const auto window = servingWindow();
+    window->reply = QStringLiteral("done");
+    std::string text;
+    QString expected;
+    for (int byte = 0; byte < 256; ++byte) {
+        text += static_cast<char>(byte);
+        expected += QChar(byte);
+    }
+    QCOMPARE(answerTo(text), std::string("done"));
+    QCOMPARE(window->hooked, QStringList{expected});
+}
+
+void WindowMessagesTest::deliveryIsHandledOnTheMainThreadBeforeItsAnswer()
+{
+    const auto window = servingWindow();
+    window->reply = QStringLiteral("late");
+    QSignalSpy spy(window.get(), &CInterprocessCommunicationApp::messageFromOtherProcessReceived);
+    auto answer = sendFromThread("text");
+    QCOMPARE(answer.wait_for(milliseconds(300)), std::future_status::timeout);
+    QVERIFY(window->hooked.isEmpty()); // nothing before the event loop runs
+    QTRY_COMPARE_WITH_TIMEOUT(window->hooked.size(), 1, patienceMs);
+    QCOMPARE(answer.get(), std::string("late"));
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(spy.at(0).at(0).value<unsigned long>(), 5ul);
+}
+
+void WindowMessagesTest::receivedMessageIsLogged()
+{
+    CapturedLog log;
+    Window window({}, nullptr, false);
+    window.receive(QString::fromLatin1("/app \xe9"));
+    QCOMPARE(log.records().size(), std::size_t{1});
+    const Keelbase::LogRecord record = log.records().front();
+    QCOMPARE(record.level, 6);
+    QCOMPARE(record.category, std::string("IPC"));
+    QCOMPARE(record.sourceFile, std::string("ui/common/sys/interprocess_communication_app"));
+    QCOMPARE(record.text, std::string("onMessageReceived | Message from other process was "
+                                      "received. PID: 77. MSG: /app \xc3\xa9"));
+}
+
+void WindowMessagesTest::showRestoresAMinimisedWindow()
+{
+    Window window({}, nullptr, false);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.showMinimized();
+    QTRY_VERIFY_WITH_TIMEOUT(minimised(window), patienceMs);
+    window.receive(QStringLiteral("/show"));
+    QTRY_VERIFY_WITH_TIMEOUT(!minimised(window), patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!IsIconic(reinterpret_cast<HWND>(window.winId())), patienceMs);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QCOMPARE(window.answer(), std::string());
+}
+
+void WindowMessagesTest::showKeepsTheMaximisedBit()
+{
+    Window window({}, nullptr, false);
+    window.setWindowState(Qt::WindowMinimized | Qt::WindowMaximized);
+    window.receive(QStringLiteral("/show"));
+    QCOMPARE(window.windowState(), Qt::WindowStates(Qt::WindowMaximized));
+}
+
+void WindowMessagesTest::showLeavesAWindowThatIsNotMinimisedInItsState()
+{
+    Window window({}, nullptr, false);
+    window.setWindowState(Qt::WindowMaximized);
+    window.receive(QStringLiteral("/show"));
+    QCOMPARE(window.windowState(), Qt::WindowStates(Qt::WindowMaximized));
+}
+
+void WindowMessagesTest::showWithMinimizedMinimisesAndAnswersNothing_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::newRow("in order") << "/show/minimized";
+    QTest::newRow("reversed") << "/minimized/show";
+    QTest::newRow("apart") << "/minimized and /show";
+    QTest::newRow("with the handle") << "/show /minimized /gethwnd";
+}
+
+void WindowMessagesTest::showWithMinimizedMinimisesAndAnswersNothing()
+{
+    QFETCH(QString, message);
+    Window window({}, nullptr, false);
+    window.reply = QStringLiteral("never");
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.receive(message);
+    QTRY_VERIFY_WITH_TIMEOUT(minimised(window), patienceMs);
+    QCOMPARE(window.answer(), std::string());
+    QVERIFY(window.hooked.isEmpty());
+}
+
+void WindowMessagesTest::minimizedAloneIsForTheHook()
+{
+    Window window({}, nullptr, false);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.receive(QStringLiteral("please /minimized"));
+    QVERIFY(!minimised(window));
+    QCOMPARE(window.hooked, QStringList{QStringLiteral("please ")});
+}
+
+void WindowMessagesTest::handleIsAnsweredInDecimal_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("staysMinimised");
+    QTest::newRow("alone") << "/gethwnd" << true;
+    QTest::newRow("with show") << "/gethwnd /show" << false;
+    QTest::newRow("with minimized") << "/gethwnd /minimized" << true;
+}
+
+void WindowMessagesTest::handleIsAnsweredInDecimal()
+{
+    QFETCH(QString, message);
+    QFETCH(bool, staysMinimised);
+    Window window({}, nullptr, false);
+    window.reply = QStringLiteral("never");
+    window.setWindowState(Qt::WindowMinimized);
+    window.receive(message);
+    QCOMPARE(window.answer(), std::to_string(static_cast<int>(window.winId())));
+    QVERIFY(
+        IsWindow(reinterpret_cast<HWND>(static_cast<std::intptr_t>(std::stoi(window.answer())))));
+    QVERIFY(window.hooked.isEmpty());
+    QCOMPARE(minimised(window), staysMinimised);
+}
+
+void WindowMessagesTest::targetWindowIsTheOneActedOn()
+{
+    QWidget target;
+    target.setWindowState(Qt::WindowMinimized);
+    Window window({}, &target, false);
+    window.setWindowState(Qt::WindowMinimized);
+    window.receive(QStringLiteral("/show /gethwnd"));
+    QVERIFY(!minimised(target));
+    QVERIFY(minimised(window));
+    QCOMPARE(window.answer(), std::to_string(static_cast<int>(target.winId())));
+}
+
+void WindowMessagesTest::wordsAreCaseSensitive()
+{
+    Window window({}, nullptr, false);
+    window.setWindowState(Qt::WindowMinimized);
+    window.receive(QStringLiteral("/SHOW /GETHWND"));
+    QVERIFY(minimised(window));
+    QCOMPARE(window.hooked, QStringList{QStringLiteral("/SHOW /GETHWND")});
+}
+
+void WindowMessagesTest::eachMessageForgetsTheAnswerBeforeIt()
+{
+    Window window({}, nullptr, false);
+    window.receive(QStringLiteral("/gethwnd"));
+    QVERIFY(!window.answer().empty());
+    window.receive(QStringLiteral("text"));
+    QCOMPARE(window.answer(), std::string());
+    window.receive(QStringLiteral("/gethwnd"));
+    window.receive(QStringLiteral("/show/minimized"));
+    QCOMPARE(window.answer(), std::string());
+}
+
+void WindowMessagesTest::endWithADeliveryUnderWayDoesNotHang()
+{
+    for (int i = 0; i < 20; ++i) {
+        auto window = servingWindow();
+        const std::wstring name = uniqueName(L"tessera_ipc_delivery");
+        window->deliveryBegins = std::make_unique<NamedEvent>(name);
+        const NamedEvent begun(name);
+        auto answer = sendFromThread("text");
+        QVERIFY(begun.wait());
+        // This thread's event loop does not run; the delivery cannot be handled any more.
+        auto ended = std::async(std::launch::async, [&answer] {
+            return answer.wait_for(milliseconds(patienceMs)) == std::future_status::ready;
+        });
+        window.reset();
+        QVERIFY(ended.get());
+    }
+}
+
+void WindowMessagesTest::laterCopySendsItsArgumentsAndIsAnotherInstance()
+{
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    Window window({"/app", "Some Id"});
+    QVERIFY(window.isAnotherInstanceRunning());
+    QCOMPARE(deliveriesOf(peer), QStringLiteral("2"));
+    // What arrived last is what a request too short for delivery is answered with.
+    Window again({"a", "b c"});
+    Stranger client;
+    QCOMPARE(client.transact({1}), frame(peer.pid(), "a b c"));
+}
+
+void WindowMessagesTest::laterCopyWithoutArgumentsSendsShow()
+{
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    Window window;
+    QVERIFY(window.isAnotherInstanceRunning());
+    Stranger client;
+    QCOMPARE(client.transact({1}), frame(peer.pid(), "/show"));
+}
+
+void WindowMessagesTest::laterCopyDoesNotServe()
+{
+    std::unique_ptr<Window> window;
+    {
+        ServingPeer peer;
+        QVERIFY(peer.ready());
+        window = std::make_unique<Window>();
+        QCOMPARE(peer.stop().value_or(1), DWORD{0});
+    }
+    QVERIFY(window->isAnotherInstanceRunning());
+    Stranger client(milliseconds(0));
+    QCOMPARE(client.error(), DWORD{ERROR_FILE_NOT_FOUND});
+}
+
+void WindowMessagesTest::laterCopyWithoutAServerIsAnotherInstanceAllTheSame()
+{
+    OtherCopy other;
+    QElapsedTimer timer;
+    timer.start();
+    Window window;
+    QVERIFY(window.isAnotherInstanceRunning());
+    QVERIFY(timer.elapsed() < 2000); // no attempts without a pipe
+}
+
+void WindowMessagesTest::laterCopyAnsweredReviveBecomesTheFirst()
+{
+    ServingPeer peer; // answers with what it gets
+    QVERIFY(peer.ready());
+    Window window({"please", "revive"});
+    QVERIFY(!window.isAnotherInstanceRunning());
+    QCOMPARE(peer.stop().value_or(1), DWORD{0});
+    window.reply = QStringLiteral("took over");
+    QCOMPARE(answerTo("text"), std::string("took over"));
+}
+
+void WindowMessagesTest::laterCopyWithoutTheCheckOpensItsWindow()
+{
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    Window window({}, nullptr, false);
+    QVERIFY(!window.isAnotherInstanceRunning());
+    QCOMPARE(deliveriesOf(peer), QStringLiteral("1")); // that question itself
+}
+
+QTEST_MAIN(WindowMessagesTest)
+#include "window_messages_test.moc"
