@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <utility>
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
@@ -29,9 +30,13 @@ Bytes changed(Bytes bytes, std::mt19937& random)
     case 1:
         bytes.resize(below(bytes.size() + 1));
         break;
-    case 2:
-        bytes.insert(bytes.end(), bytes.begin(), bytes.begin() + bytes.size() / 2);
+    case 2: {
+        Bytes doubled = bytes;
+        doubled.resize(bytes.size() / 2);
+        doubled.insert(doubled.end(), bytes.begin(), bytes.end());
+        bytes = std::move(doubled);
         break;
+    }
     default:
         break;
     }
