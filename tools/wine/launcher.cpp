@@ -1,10 +1,11 @@
-// Starts a Windows program under Wine with pipe_shim.dll loaded into it, and ends with its exit
-// code. What Wine lacks is thus supplied by the test environment, and the program stays as it is.
+// Starts a Windows program under Wine with pipe_shim.dll and certificate_shim.dll loaded into it,
+// and ends with its exit code. What Wine lacks is thus supplied by the test environment, and the
+// program stays as it is.
 //
 //   launcher.exe PROGRAM ARGS...
 //
 // The rest of the command line reaches the program byte for byte. Children that the program starts
-// are ordinary processes without the DLL.
+// are ordinary processes without the DLLs.
 //
 // Exit codes of its own: 126 the program could not be prepared, 127 it could not be started. A
 // program's code above 255 becomes 255, because the Unix side sees 8 bits and would take 256 for
@@ -52,13 +53,13 @@ std::wstring withoutFirstWord(const wchar_t* line)
     return line;
 }
 
-std::wstring shimPath()
+std::wstring besideLauncher(const wchar_t* name)
 {
     std::wstring path(32'768, L'\0');
     const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     path.resize(length);
     path.erase(path.find_last_of(L'\\') + 1);
-    return path + L"pipe_shim.dll";
+    return path + name;
 }
 
 // A thread in the program whose start routine is LoadLibraryW itself: kernel32 has one address in
@@ -83,7 +84,8 @@ bool loadInto(HANDLE process, const std::wstring& library)
                           GetExitCodeThread(thread.get(), &loaded) != FALSE;
     VirtualFreeEx(process, remote, 0, MEM_RELEASE);
     if (!finished || loaded == 0) {
-        std::fprintf(stderr, "launcher: pipe_shim.dll could not be loaded into the program\n");
+        std::fprintf(stderr, "launcher: %ls could not be loaded into the program\n",
+                     library.c_str());
         return false;
     }
     return true;
@@ -146,7 +148,8 @@ int main()
     const Handle mainThread(started.hThread);
     const Handle job = jobThatEndsWithUs();
     if (!job || !AssignProcessToJobObject(job.get(), process.get()) ||
-        !loadInto(process.get(), shimPath())) {
+        !loadInto(process.get(), besideLauncher(L"pipe_shim.dll")) ||
+        !loadInto(process.get(), besideLauncher(L"certificate_shim.dll"))) {
         TerminateProcess(process.get(), cannotPrepare);
         return static_cast<int>(cannotPrepare);
     }

@@ -115,6 +115,8 @@ class HttpService(LocalServer):
             connection = self._tls.wrap_socket(connection, server_side=True)
         with connection:
             request = self._read(connection)
+            if request is None:
+                return
             with self._changed:
                 index = len(self._received)
                 self._received.append(request)
@@ -123,9 +125,13 @@ class HttpService(LocalServer):
             behaviour(connection, self.stopping)
 
     @staticmethod
-    def _read(connection: socket.socket) -> Received:
+    def _read(connection: socket.socket) -> Optional[Received]:
+        """The request, or nothing from a client that did not like the server's certificate."""
         with connection.makefile("rb") as stream:
-            method, target, _ = stream.readline().decode("ascii").split(" ", 2)
+            first_line = stream.readline().decode("ascii")
+            if not first_line:
+                return None
+            method, target, _ = first_line.split(" ", 2)
             headers = http.client.parse_headers(stream)
             body = stream.read(int(headers.get("Content-Length", "0")))
         return Received(method, target, headers, body, time.monotonic())

@@ -1,6 +1,7 @@
 #include "tests/host/stat/stat_fixture.h"
 
 #include "ui/common/config/common_config.h"
+#include "ui/common/stat/exclusive_save.h"
 #include "ui/common/stat/guid.h"
 
 #include <cstdlib>
@@ -40,6 +41,11 @@ std::wstring applicationConfigPath(int applicationId)
 } // namespace fs
 
 namespace stats {
+
+int saveExclusively(fs::CConfig& common)
+{
+    return common.save();
+}
 
 std::string createGuid()
 {

@@ -1,5 +1,6 @@
 #include "ui/common/stat/install_identity.h"
 
+#include "ui/common/stat/exclusive_save.h"
 #include "ui/common/stat/guid.h"
 #include "ui/common/sys/environment.h"
 
@@ -20,7 +21,7 @@ std::string getOrCreateClientGuid(fs::CConfig& common)
         return guid;
     guid = createGuid();
     common.setValue(clientGuidKey, guid);
-    common.save();
+    saveExclusively(common);
     return guid;
 }
 

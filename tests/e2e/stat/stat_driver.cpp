@@ -1,0 +1,86 @@
+// The statistics of the program without its windows, steered by lines on standard input and
+// reporting on standard output. Each command is answered by one line.
+//
+//   start ID           the start-up sequence for the application; answer: milliseconds
+//   send NAME          one "click" event, posted in the background; answer: number microseconds
+//   post NAME          the same, posted before the answer
+//   country            answer: the country for the statistics
+//   reread             reads common.cfg again; answer: ClientGuid Location
+//
+// At the end of the input the process ends as the program does, with static destruction.
+
+#include "support/keelbase/keelbase.h"
+#include "ui/common/config/common_config.h"
+#include "ui/common/stat/app_event_stat.h"
+#include "ui/common/stat/stat_startup.h"
+#include "ui/common/stat/user_location.h"
+
+#include <chrono>
+#include <functional>
+#include <iostream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+template <typename Unit>
+long long spent(Clock::time_point begun)
+{
+    return std::chrono::duration_cast<Unit>(Clock::now() - begun).count();
+}
+
+void start(int applicationId)
+{
+    const auto begun = Clock::now();
+    stats::startStatistics(applicationId, false, [](const std::function<void()>& call) { call(); });
+    std::cout << spent<std::chrono::milliseconds>(begun);
+}
+
+void send(const std::string& name, bool sync)
+{
+    const auto begun = Clock::now();
+    const int number = stats::AppStatHelper::instance().sendEvent("click", name, "", "", sync, 0);
+    const long long microseconds = spent<std::chrono::microseconds>(begun);
+    std::cout << number << ' ' << microseconds;
+}
+
+void reread()
+{
+    fs::CConfig& common = fs::commonConfig();
+    common.reload();
+    std::cout << common.getValue("ClientGuid", "-") << ' ' << common.getValue("Location", "-");
+}
+
+bool obey(const std::string& command, const std::string& argument)
+{
+    if (command == "start")
+        start(std::stoi(argument));
+    else if (command == "send" || command == "post")
+        send(argument, command == "post");
+    else if (command == "country")
+        std::cout << stats::getUserCountry(stats::readProxySettings());
+    else if (command == "reread")
+        reread();
+    else
+        return false;
+    std::cout << std::endl;
+    return true;
+}
+
+} // namespace
+
+int main()
+{
+    Keelbase::setSettingsName("Lumacraft");
+    for (std::string line; std::getline(std::cin, line);) {
+        std::istringstream words(line);
+        std::string command;
+        std::string argument;
+        words >> command >> argument;
+        if (!obey(command, argument))
+            return 2;
+    }
+    return 0;
+}

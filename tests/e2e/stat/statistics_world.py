@@ -1,0 +1,180 @@
+"""One Windows user's settings, the suite's two services and a proxy between them."""
+
+import os
+import queue
+import subprocess
+import sys
+import tempfile
+import threading
+import unittest
+import uuid
+from dataclasses import dataclass
+from pathlib import Path
+from typing import Dict, List, Optional, Tuple
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
+
+from certificates import Authority  # noqa: E402
+from connect_proxy import ConnectProxy  # noqa: E402
+from harness import layout  # noqa: E402
+from harness.prefix import Prefix  # noqa: E402
+from http_service import HttpService  # noqa: E402
+
+STATISTICS_HOST = os.environ.get("TESSERA_STATS_HOST", "stats.tessera.example")
+GEO_HOST = os.environ.get("TESSERA_GEO_HOST", "geo.tessera.example")
+ANSWER_DEADLINE = 60.0
+
+DRIVER = layout.WINE_TOOLS / "stat_driver.exe"
+TRUST_ROOT = layout.WINE_TOOLS / "trust_root.exe"
+
+
+@dataclass(frozen=True)
+class LogLine:
+    level: int
+    category: str
+    place: str
+    text: str
+
+
+class Driver:
+    """A running stat_driver. As a context manager it ends the process as a user would."""
+
+    def __init__(self, prefix: Prefix, environment: Optional[Dict[str, str]] = None):
+        settings = {"KEELBASE_LOG_LEVEL": "7", **(environment or {})}
+        self._process = prefix.start(DRIVER, environment=settings, stdin=subprocess.PIPE,
+                                     stdout=subprocess.PIPE, text=True, bufsize=1)
+        self._answers: "queue.Queue[str]" = queue.Queue()
+        self._reader = threading.Thread(target=self._read, daemon=True)
+        self._reader.start()
+
+    def _read(self) -> None:
+        for line in self._process.stdout:
+            self._answers.put(line.rstrip("\n").rstrip("\r"))
+
+    def __enter__(self) -> "Driver":
+        return self
+
+    def __exit__(self, *_) -> None:
+        if self._process.poll() is None:
+            self.end()
+        self._reader.join()
+        self._process.stdout.close()
+
+    def tell(self, command: str) -> None:
+        self._process.stdin.write(command + "\n")
+        self._process.stdin.flush()
+
+    def hear(self) -> str:
+        return self._answers.get(timeout=ANSWER_DEADLINE)
+
+    def ask(self, command: str) -> str:
+        self.tell(command)
+        return self.hear()
+
+    def start(self, application: int = 60) -> int:
+        """Milliseconds of the start-up sequence."""
+        return int(self.ask(f"start {application}"))
+
+    def post(self, name: str) -> Tuple[int, float]:
+        """One event, posted before this returns: its number and its seconds."""
+        return self._event("post", name)
+
+    def send(self, name: str) -> Tuple[int, float]:
+        """One event, posted in the background: its number and the seconds of the call."""
+        return self._event("send", name)
+
+    def _event(self, command: str, name: str) -> Tuple[int, float]:
+        number, microseconds = self.ask(f"{command} {name}").split()
+        return int(number), int(microseconds) / 1e6
+
+    def end(self) -> None:
+        """Lets the process end, with everything that it still has to do."""
+        self._process.stdin.close()
+        code = self._process.wait(ANSWER_DEADLINE)
+        if code != 0:
+            raise AssertionError(f"stat_driver ended with {code}")
+
+
+class StatisticsCase(unittest.TestCase):
+    """One prefix for the class, trusting an authority of its own; fresh settings for each test."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls._folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(cls._folder.cleanup)
+        base = Path(cls._folder.name)
+        cls.authority = Authority(base / "authority", "Throw-away test authority")
+        cls.server_tls = cls.authority.server_context([STATISTICS_HOST, GEO_HOST])
+        cls.prefix = Prefix(base / f"prefix-{uuid.uuid4().hex}")
+        cls.addClassCleanup(cls.prefix.destroy)
+        cls.prefix.create()
+        cls.prefix.run(TRUST_ROOT, str(cls.authority.der))
+
+    def setUp(self):
+        self.settings = self.prefix.unix_path(self.prefix.settings)
+        self.settings.mkdir(parents=True, exist_ok=True)
+        self.log_file.unlink(missing_ok=True)
+
+    @property
+    def log_file(self) -> Path:
+        return self.settings / "logs" / "stat_driver.log"
+
+    def log(self) -> List[LogLine]:
+        """The log so far, without the lines of other levels than the documented ones."""
+        if not self.log_file.exists():
+            return []
+        lines = []
+        for line in self.log_file.read_text("utf-8").splitlines():
+            head, text = line.split(" | ", 1)
+            _, _, _, level, category, place = head.split()
+            lines.append(LogLine(int(level), category, place, text))
+        return lines
+
+    # Settings
+
+    def store_common(self, **values: object) -> None:
+        self._store(self.settings / "common.cfg", values)
+
+    def store_application(self, id_string: str, **values: object) -> None:
+        self._store(self.settings / id_string / f"{id_string}.cfg", values)
+
+    @staticmethod
+    def _store(file: Path, values: Dict[str, object]) -> None:
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_bytes("".join(f"{key}={values[key]}\n" for key in sorted(values)).encode())
+
+    def stored_common(self) -> Dict[str, str]:
+        text = (self.settings / "common.cfg").read_bytes().decode()
+        self.assertTrue(text.endswith("\n"), text)
+        pairs = [line.split("=", 1) for line in text[:-1].split("\n")]
+        self.assertEqual(len(pairs), len(dict(pairs)), "a repeated key")
+        return dict(pairs)
+
+    # Services
+
+    def service(self, *behaviours, tls=None) -> HttpService:
+        service = HttpService(*behaviours, tls=tls or self.server_tls)
+        self.enterContext(service)
+        return service
+
+    def proxy(self, statistics: Optional[HttpService] = None, geo: Optional[HttpService] = None,
+              credentials: Optional[Tuple[str, str]] = None) -> ConnectProxy:
+        routes = {}
+        if statistics is not None:
+            routes[f"{STATISTICS_HOST}:443"] = statistics.port
+        if geo is not None:
+            routes[f"{GEO_HOST}:443"] = geo.port
+        proxy = ConnectProxy(routes, credentials)
+        self.enterContext(proxy)
+        return proxy
+
+    @staticmethod
+    def proxy_values(proxy: ConnectProxy, user: str = "", password: str = "") -> Dict[str, object]:
+        """What common.cfg says about the proxy."""
+        return {"ProxyType": 1, "ProxyAddress": "127.0.0.1", "ProxyPort": proxy.port,
+                "ProxyUser": user, "ProxyPw": password}
+
+    def driver(self, environment: Optional[Dict[str, str]] = None) -> Driver:
+        driver = Driver(self.prefix, environment)
+        self.enterContext(driver)
+        return driver
