@@ -19,8 +19,9 @@ std::unique_ptr<CConfig> makeCommonConfig()
 
 CConfig& commonConfig()
 {
-    static const std::unique_ptr<CConfig> config = makeCommonConfig();
-    return *config;
+    // Never destroyed: other static objects may still read settings while they end.
+    static CConfig& config = *makeCommonConfig().release();
+    return config;
 }
 
 std::wstring applicationConfigPath(int appId)
