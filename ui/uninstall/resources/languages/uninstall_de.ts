@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>Select all</source>
-        <translation>Alle auswählen</translation>
+        <translation>Alle wählen</translation>
     </message>
     <message>
         <source>Uninstall</source>
@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>Keine auswählen</translation>
+        <translation>Keine wählen</translation>
     </message>
     <message>
         <source>Uninstallation</source>

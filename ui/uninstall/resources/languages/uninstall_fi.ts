@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>Tyhjennä valinta</translation>
+        <translation>Ei mitään</translation>
     </message>
     <message>
         <source>Uninstallation</source>

@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>Select all</source>
-        <translation>Tout sélectionner</translation>
+        <translation>Tout cocher</translation>
     </message>
     <message>
         <source>Uninstall</source>
@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>Tout désélectionner</translation>
+        <translation>Tout décocher</translation>
     </message>
     <message>
         <source>Uninstallation</source>

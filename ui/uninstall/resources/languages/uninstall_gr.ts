@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>Select all</source>
-        <translation>Επιλογή όλων</translation>
+        <translation>Όλες</translation>
     </message>
     <message>
         <source>Uninstall</source>
@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>Καμία επιλογή</translation>
+        <translation>Καμία</translation>
     </message>
     <message>
         <source>Uninstallation</source>

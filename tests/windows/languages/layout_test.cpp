@@ -1,0 +1,160 @@
+// Every window in every language: no text is cut, and none grows a window beyond its form. The
+// scale is Qt's, from the environment; the test is registered once for each, and told which one
+// it must have.
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QtTest>
+
+#include "tests/windows/languages/fit_check.h"
+#include "tests/windows/languages/localised_windows.h"
+
+namespace {
+
+constexpr int settleMs = 2000;
+
+} // namespace
+
+class LayoutTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyTextFits_data();
+    void everyTextFits();
+    void textsStandOutWhateverTheUsersColours_data();
+    void textsStandOutWhateverTheUsersColours();
+    void cutTextIsNoticed();
+    void faintTextIsNoticed();
+};
+
+void LayoutTest::initTestCase()
+{
+    // Texts in points grow by scale and resolution together.
+    const double percent = QApplication::primaryScreen()->devicePixelRatio() *
+                           QApplication::primaryScreen()->logicalDotsPerInch() / 96 * 100;
+    QCOMPARE(qRound(percent), qEnvironmentVariable("TESSERA_TEXT_PERCENT", "100").toInt());
+
+    // Segoe UI's 52 letters are 28.75 ems wide. With a narrower stand-in a text could fit here and
+    // be cut on Windows.
+    QFont font(QStringLiteral("Segoe UI"));
+    font.setPixelSize(100);
+    const qreal width = QFontMetricsF(font).horizontalAdvance(
+        QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"));
+    QVERIFY2(width >= 2875, qPrintable(QString::number(width)));
+}
+
+void LayoutTest::everyTextFits_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString& language : allLanguages())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void LayoutTest::everyTextFits()
+{
+    QFETCH(QString, language);
+    const QHash<QString, QSize> formSizes{{QStringLiteral("main"), {379, 305}},
+                                          {QStringLiteral("main_all"), {379, 305}},
+                                          {QStringLiteral("survey"), {488, 236}},
+                                          {QStringLiteral("offer_video"), {558, 352}},
+                                          {QStringLiteral("offer_music"), {558, 352}}};
+    QStringList seen;
+    QStringList faults;
+    QVERIFY(visitWindows(language, [&](const QString& name, QWidget& window) {
+        seen.append(name);
+        // The window manager may still be negotiating the size of a window just shown.
+        QStringList cut;
+        (void)QTest::qWaitFor([&] { return (cut = cutTexts(window)).isEmpty(); }, settleMs);
+        for (const QString& fault : cut)
+            faults.append(name + QLatin1Char(' ') + fault);
+        if (window.size() != formSizes.value(name, window.size()))
+            faults.append(name + QStringLiteral(" has grown"));
+    }));
+    QCOMPARE(seen.size(), 6);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void LayoutTest::textsStandOutWhateverTheUsersColours_data()
+{
+    QTest::addColumn<QColor>("text");
+    QTest::addColumn<QColor>("background");
+    QTest::newRow("dark on light") << QColor(Qt::black) << QColor(Qt::white);
+    QTest::newRow("light on dark") << QColor(Qt::white) << QColor(Qt::black);
+    QTest::newRow("yellow on black") << QColor(Qt::yellow) << QColor(Qt::black);
+}
+
+void LayoutTest::textsStandOutWhateverTheUsersColours()
+{
+    QFETCH(QColor, text);
+    QFETCH(QColor, background);
+    const QPalette before = QApplication::palette();
+    QPalette palette(text, background, background.lighter(), background.darker(), background, text,
+                     background);
+    palette.setColor(QPalette::Window, background);
+    palette.setColor(QPalette::ButtonText, text);
+    QApplication::setPalette(palette);
+    QStringList faults;
+    const bool shown =
+        visitWindows(QStringLiteral("en"), [&](const QString& name, QWidget& window) {
+            // The system's own box follows the system's theme, which a palette does not change.
+            if (name == QStringLiteral("warning"))
+                return;
+            for (const QString& fault : faintTexts(window))
+                faults.append(name + QLatin1Char(' ') + fault);
+        });
+    QApplication::setPalette(before);
+    QVERIFY(shown);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void LayoutTest::cutTextIsNoticed()
+{
+    QWidget window;
+    window.resize(300, 200);
+    QLabel label(QStringLiteral("A text that is longer than its label"), &window);
+    label.setGeometry(10, 10, 60, 20);
+    QPushButton button(QStringLiteral("A text that is longer than its button"), &window);
+    button.setGeometry(10, 50, 60, 30);
+    QLabel outside(QStringLiteral("x"), &window);
+    outside.setGeometry(295, 100, 20, 20);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QStringList faults = cutTexts(window);
+    QVERIFY(!faults.filter(QStringLiteral("its label")).isEmpty());
+    QVERIFY(!faults.filter(QStringLiteral("its button")).isEmpty());
+    QVERIFY(!faults.filter(QStringLiteral("reaches out")).isEmpty());
+
+    label.setGeometry(10, 10, 280, 20);
+    button.setGeometry(10, 50, 280, 30);
+    outside.setGeometry(270, 100, 20, 20);
+    QCOMPARE(cutTexts(window), QStringList());
+}
+
+void LayoutTest::faintTextIsNoticed()
+{
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("QWidget { background-color: white; }"));
+    window.resize(300, 100);
+    QLabel label(QStringLiteral("WWWWWWWWWWWWWWWWWWWW"), &window);
+    label.setGeometry(0, 10, 280, 30);
+    label.setStyleSheet(QStringLiteral("color: #d0d0d0;"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(faintTexts(window).size(), 1);
+    label.setStyleSheet(QStringLiteral("color: black;"));
+    QCOMPARE(faintTexts(window), QStringList());
+}
+
+int main(int argc, char** argv)
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication application(argc, argv);
+    LayoutTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "layout_test.moc"
