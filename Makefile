@@ -3,10 +3,10 @@
 
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo test lint format clean
+.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test lint format clean
 
 help: ## list the targets
-	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-8s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
+	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-11s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
 
 setup: setup-packages ## install what is missing; build Qt and libcurl for Windows once
 	@+$(MAKE) --no-print-directory -j3 setup-qt setup-curl setup-wine
@@ -32,6 +32,9 @@ run: build ## use the program on a sample suite: in a window, or as "make demo" 
 
 demo: build ## drive the program through a full run; transcript, screenshots in build/demo/
 	@tools/demo/demo
+
+screenshots: build ## picture every window in every language: contact sheets in build/screenshots/
+	@tools/screenshots/contact_sheets.sh
 
 test: setup ## build and run every test, host and Windows
 	@tools/run_tests.sh
