@@ -7,6 +7,9 @@
 //       sends TEXT and prints the answer. Exit code: what connectToServer or sendMessage returned.
 //   ipc_peer claim NAME
 //       takes the mutex, signals NAME_first or NAME_later, and ends on NAME_stop.
+//
+// With TESSERA_IPC_UNINSTALLER=NAME in its environment it is an application's uninstaller that
+// takes its time, whatever its arguments: signals NAME_removing and ends on NAME_removed.
 
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
@@ -170,6 +173,14 @@ int claim(const std::wstring& name)
     return 0;
 }
 
+int removeSlowly(const std::wstring& name)
+{
+    const NamedEvent removed(name + L"_removed");
+    NamedEvent(name + L"_removing").set();
+    removed.wait();
+    return 0;
+}
+
 } // namespace
 
 // The loader calls what this section lists at each thread's start, before the thread's own code.
@@ -186,6 +197,9 @@ extern "C" __attribute__((section(".CRT$XLF"), used)) const PIMAGE_TLS_CALLBACK 
 
 int main(int argc, char** argv)
 {
+    wchar_t uninstaller[200] = {};
+    if (GetEnvironmentVariableW(L"TESSERA_IPC_UNINSTALLER", uninstaller, 200) > 0)
+        return removeSlowly(uninstaller);
     const std::string mode = argc > 2 ? argv[1] : "";
     if (mode == "send")
         return send(argv[2]);

@@ -3,6 +3,7 @@
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/pipe_stranger.h"
 #include "tests/windows/ipc/serving_peer.h"
+#include "tests/windows/ipc/stress.h"
 
 #include <gtest/gtest.h>
 
@@ -12,13 +13,6 @@
 using namespace ipctest;
 
 namespace {
-
-// TESSERA_STRESS=1 asks for the long variants.
-int rounds(int usual, int stress)
-{
-    const char* value = std::getenv("TESSERA_STRESS");
-    return value && std::string(value) == "1" ? stress : usual;
-}
 
 Bytes randomBytes(std::size_t size, std::mt19937& random)
 {
@@ -138,7 +132,7 @@ TEST_F(StrangerAtThePipe, OnlyTheFirstOfTwoMessagesIsDelivered)
 
 TEST_F(StrangerAtThePipe, ManyInRandomOrderLeaveTheServerServing)
 {
-    const int count = rounds(200, 1000);
+    const int count = stressed(200, 1000);
     for (int i = 0; i < count; ++i) {
         const auto behaviour =
             static_cast<Behaviour>(random() % static_cast<unsigned>(Behaviour::count));

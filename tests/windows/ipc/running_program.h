@@ -1,0 +1,63 @@
+#pragma once
+
+// The real program, started as a user would start it, and what can be seen of it from outside.
+
+#include "tests/windows/ipc/child_process.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace ipctest {
+
+// Waits for a condition that gives no event to wait for. False after a minute without it.
+bool becomesTrue(const std::function<bool()>& condition);
+
+// Visible top-level windows with the program's title, of all processes.
+std::vector<HWND> programWindows();
+
+// The top-level window of process `pid` that is enabled while its others are not: an open modal
+// box. Null when there is none.
+HWND modalBoxOf(DWORD pid);
+
+// All log lines that copies of the program have written since clearLogs().
+std::string programLogs();
+void clearLogs();
+
+// A first copy, which shows its window.
+class RunningProgram
+{
+public:
+    explicit RunningProgram(const std::vector<std::wstring>& arguments = {});
+
+    bool ready() const { return mainWindow != nullptr; }
+    HWND window() const { return mainWindow; }
+    DWORD pid() const { return process.pid(); }
+    bool running() const { return !process.waitForExit(milliseconds(0)); }
+    std::optional<DWORD> waitForExit() const { return process.waitForExit(); }
+
+    // A press of the left button at a point of the window, in its client coordinates.
+    void click(int x, int y) const;
+    void clickSelectAll() const { click(210, 279); }
+    void clickUninstall() const { click(317, 279); }
+    // Closes the window; the exit code.
+    std::optional<DWORD> close() const;
+
+private:
+    ChildProcess process;
+    HWND mainWindow = nullptr;
+};
+
+struct SecondStart
+{
+    std::optional<DWORD> exitCode; // nothing when it did not end in time
+    bool showedAWindow = false;
+};
+
+// Starts the program while `first` runs and waits for its end.
+SecondStart startSecond(const RunningProgram& first, const std::vector<std::wstring>& arguments);
+
+// The program's path.
+std::wstring programPath();
+
+} // namespace ipctest
