@@ -3,7 +3,7 @@
 
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test lint format clean
+.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test stress lint format clean
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-11s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -38,6 +38,9 @@ screenshots: build ## picture every window in every language: contact sheets in 
 
 test: setup ## build and run every test, host and Windows
 	@tools/run_tests.sh
+
+stress: build ## run the long variants of the tests (minutes)
+	@ctest --preset windows-cross --no-tests=error -L stress
 
 lint: ## check formatting, shell scripts and spelling
 	@tools/setup/packages.sh lint

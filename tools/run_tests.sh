@@ -49,7 +49,7 @@ runPreset() {
     echo "== $preset: test"
     report="$PWD/$folder/test_report.xml"
     rm -f "$report"
-    ctest --preset "$preset" --no-tests=error -j "$jobs" --output-junit "$report"
+    ctest --preset "$preset" --no-tests=error -LE stress -j "$jobs" --output-junit "$report"
     local status=$?
     all=$(attribute "$report" tests 2>/dev/null)
     bad=$(attribute "$report" failures 2>/dev/null)

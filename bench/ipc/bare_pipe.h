@@ -1,0 +1,34 @@
+#pragma once
+
+// The least that one exchange over the program's pipe takes: the platform's calls and nothing
+// else, with the same names, modes and sizes.
+
+#include "ui/common/sys/unique_handle.h"
+
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+namespace ipcbench {
+
+// Echoes each frame, one client at a time, until `stop` is signalled.
+void serveBare(HANDLE stop, HANDLE ready);
+
+class BareClient
+{
+public:
+    BareClient();
+    // False when the server is busy with the exchange before.
+    bool connect();
+    // The size of the answer, 0 when there is none.
+    DWORD exchange(std::vector<unsigned char>& request);
+    void close() { pipe.reset(); }
+
+private:
+    std::wstring path;
+    std::vector<unsigned char> answer;
+    win32::FileHandle pipe;
+};
+
+} // namespace ipcbench
