@@ -1,10 +1,9 @@
 """Runs with every row checked."""
 
-import applications
 from harness.case import SuiteTestCase
 from harness.suite import SUITE_KEY
-from applications import (AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, HOLDING, PARTNER, RUNNING,
-                          SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
+from applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, HOLDING, PARTNER,
+                          RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
 
 # As many rows as the list shows without scrolling.
 VISIBLE_ROWS = 9
@@ -22,7 +21,7 @@ class FullRun(SuiteTestCase):
         self.assertEqual(modes, {"--> DoUninsstall: full"})
 
     def test_removes_everything_and_the_suite_last(self):
-        suite = self.install(applications.ALL)
+        suite = self.install(ALL)
         suite.damage(DAMAGED)
         program = self.start_program(suite, rows=VISIBLE_ROWS)
         program.main_window.select_all()
@@ -54,7 +53,7 @@ class FullRun(SuiteTestCase):
         for application in (AWKWARD_FOLDER, CLIP_SAVER, RUNNING, SLIDESHOW, TRACK_SAVER, PARTNER,
                             SECOND_RUNNING, UNKNOWN, SUITE):
             self.assert_removed(suite, application, with_settings=False)
-        logs = {application for application in applications.ALL
+        logs = {application for application in ALL
                 if suite.uninstall_log(application).exists()}
         self.assertEqual(logs, {SECOND_RUNNING, UNKNOWN, SUITE})
         # What could not be removed is still registered.

@@ -130,22 +130,32 @@ class SelectiveRun(SuiteTestCase):
         self.assertFalse((suite.folder(HOLDING) / HOLDING.process_name).exists())
         self.assertEqual(suite.registered(), ["Zebra Player"])
 
-    def test_keeps_the_suite_when_another_row_was_unchecked_after_its_own(self):
+    def test_keeps_the_suite_when_only_its_own_row_is_unchecked_again(self):
         suite = self.install([AWKWARD_FOLDER, SUITE, PARTNER])
         program = self.start_program(suite, rows=3)
-        window = program.main_window
-        window.toggle_row(1)
-        window.wait_for_checked_rows([True, True, True])
-        # A click on a row has the suite's row check all of them again; the keyboard does not.
-        window.select_row(2)
-        window.window.press("space")
-        window.wait_for_checked_rows([True, True, False])
-        window.press_uninstall()
+        for row in (1, 1):
+            program.main_window.toggle_row(row)
+        program.main_window.wait_for_checked_rows([True, False, True])
+        program.main_window.press_uninstall()
         self.assertEqual(program.exit_code(), 0)
 
+        chosen = [AWKWARD_FOLDER, PARTNER]
         self.assert_arguments(suite, {
-            AWKWARD_FOLDER: [suite.log_switch(AWKWARD_FOLDER), "/SILENT", "/SUPPRESSMSGBOXES"]})
+            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
+            for application in chosen})
         self.assert_untouched(suite, SUITE)
-        self.assert_untouched(suite, PARTNER)
         self.assert_log(suite, START_OF_LOG + ["--> uninstallButtonClicked"] +
-                        removal(suite, AWKWARD_FOLDER) + ["~Widget()"])
+                        [line for application in chosen for line in removal(suite, application)] +
+                        ["~Widget()"])
+
+    def test_with_nothing_but_the_suites_row_checked_removes_nothing(self):
+        suite = self.install([AWKWARD_FOLDER, SUITE, PARTNER])
+        # Pre-selection alone does not extend to the other rows.
+        program = self.start_program(suite, "/app", "Tessera", rows=3)
+        program.main_window.wait_for_checked_rows([False, True, False])
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        for application in (AWKWARD_FOLDER, SUITE, PARTNER):
+            self.assert_untouched(suite, application)
+        self.assert_log(suite, START_OF_LOG + ["--> uninstallButtonClicked", "~Widget()"])

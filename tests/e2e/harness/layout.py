@@ -1,7 +1,6 @@
 """Where the tree keeps what the harness needs."""
 
 import os
-import sys
 from pathlib import Path
 
 REPOSITORY = Path(__file__).resolve().parents[3]
@@ -12,6 +11,4 @@ INSTALLERS = BUILD / "sample_suite"
 ARGUMENT_RECORDER = INSTALLERS / "argument_recorder.exe"
 WINE_RUN = REPOSITORY / "tools" / "wine-run"
 WINE_TOOLS = BUILD / "tools"
-
-# The table of the sample applications belongs to the suite's own folder.
-sys.path.insert(0, str(REPOSITORY / "tools" / "sample_suite"))
+SAMPLE_SUITE = REPOSITORY / "tools" / "sample_suite"

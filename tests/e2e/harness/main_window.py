@@ -77,6 +77,17 @@ class MainWindow:
             return find_check_boxes(self._picture(), 0, _BELOW_LIST, _DELETE_BOTTOM)
         return wait_until(found, "the box 'Delete settings and history' is not shown")[0]
 
+    def settled_picture(self) -> Picture:
+        """The window once two looks at it show the same; the mouse is out of the way."""
+        self.window.move_mouse(*_REST)
+        seen = [self._picture()]
+
+        def same() -> bool:
+            seen.append(self._picture())
+            return seen[-1] == seen[-2]
+        wait_until(same, "the window's picture did not settle")
+        return seen[-1]
+
     def checked_rows(self) -> List[bool]:
         return [row.checked for row in self._rows()]
 
@@ -98,12 +109,6 @@ class MainWindow:
         self.window.move_mouse(*_REST)
         wait_until(lambda: self._rows()[row].checked != box.checked,
                    f"row {row} did not change its state")
-
-    def select_row(self, row: int) -> None:
-        """Clicks the row's text, so that the keyboard acts on it."""
-        box = self._rows()[row]
-        self.window.click(box.x + 60, box.y)
-        self.window.move_mouse(*_REST)
 
     def toggle_delete_settings(self) -> None:
         box = self._delete_box()

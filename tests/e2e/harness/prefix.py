@@ -15,10 +15,14 @@ RUN_DEADLINE = 120.0
 
 
 class Prefix:
-    """Owns the folder: `create` makes it, `destroy` ends its processes and removes it."""
+    """Owns the folder: `create` makes it, `destroy` ends its processes and removes it.
+
+    What its programs print goes to a file beside the folder, never to a pipe: Wine's own service
+    processes inherit it, and a reader would wait until they end."""
 
     def __init__(self, folder: Path):
         self.folder = folder
+        self.output = folder.with_suffix(".txt")
 
     def create(self) -> None:
         self.folder.mkdir(parents=True)
@@ -71,15 +75,21 @@ class Prefix:
     def start(self, program: Union[str, Path], *arguments: str,
               environment: Optional[Dict[str, str]] = None, **options) -> subprocess.Popen:
         """Starts a Windows program; `options` are those of Popen."""
-        options.setdefault("stdin", subprocess.DEVNULL)
-        return subprocess.Popen([layout.WINE_RUN, str(program), *arguments],
-                                env=self.environment(environment), **options)
+        with self.output.open("ab") as output:
+            return subprocess.Popen([layout.WINE_RUN, str(program), *arguments],
+                                    env=self.environment(environment),
+                                    **{"stdin": subprocess.DEVNULL, "stdout": output,
+                                       "stderr": output, **options})
 
     def run(self, program: Union[str, Path], *arguments: str) -> None:
         """Runs a Windows program to its end; raises when it reports a failure."""
-        subprocess.run([layout.WINE_RUN, str(program), *arguments], env=self.environment(),
-                       check=True, timeout=RUN_DEADLINE, stdin=subprocess.DEVNULL,
-                       stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        process = self.start(program, *arguments)
+        try:
+            code = process.wait(RUN_DEADLINE)
+        finally:
+            process.kill()
+        if code != 0:
+            raise subprocess.CalledProcessError(code, process.args)
 
     # Registry
 

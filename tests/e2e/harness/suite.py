@@ -12,8 +12,7 @@ from harness.records import Records
 from harness.registry import Tree
 from harness.waiting import PATIENCE, Timeout, wait_until
 
-import applications  # pylint: disable=wrong-import-order  # found through layout
-from applications import Application
+from applications import SUITE, Application
 
 COMPANY_BRAND = "Corvane"
 PRODUCT_BRAND = "Lumacraft"
@@ -36,7 +35,7 @@ class Suite:
         self.prefix = prefix
         self.brand = brand
         self.records = Records(prefix)
-        self.program_folder = PROGRAM_FILES / brand / applications.SUITE.folder
+        self.program_folder = PROGRAM_FILES / brand / SUITE.folder
 
     # Installing
 
@@ -156,7 +155,7 @@ class RunningProgram:
                 for window in screen.find_windows(title):
                     answered.append(window.title)
                     window.press(key)
-                    wait_until(lambda: not window.exists(),  # pylint: disable=cell-var-from-loop
+                    wait_until(lambda: not window.exists(),
                                f"'{answered[-1]}' did not close on {key}")
             return not self.running
         wait_until(ended, "the program did not end")

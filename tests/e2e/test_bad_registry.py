@@ -1,0 +1,145 @@
+"""Uninstall lists that no installer of the suite would write."""
+
+import shutil
+
+from harness import layout
+from harness.case import SuiteTestCase
+from harness.registry import (REG_BINARY, REG_DWORD, REG_EXPAND_SZ, REG_MULTI_SZ, Value,
+                              text_bytes)
+from harness.suite import SUITE_KEY, Suite
+from applications import PARTNER, RUNNING
+
+LIST_KEY = f"{SUITE_KEY}\\UninstPaths"
+PROBES = "C:\\probe dir"
+SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
+
+# As long as a command may be that Windows still starts, with the other switches added.
+LONG = 30_000
+LONGEST_VALUE_NAME = 16_383
+
+
+class BadRegistry(SuiteTestCase):
+    """The commands name copies of a program that records what it is given."""
+
+    def setUp(self):
+        super().setUp()
+        self.suite = Suite(self.prefix)
+        self.suite.install([])
+        self.suite.place_program()
+
+    def place_probe(self, name):
+        """Its Windows path."""
+        folder = self.prefix.unix_path(PROBES)
+        folder.mkdir(exist_ok=True)
+        shutil.copy(layout.ARGUMENT_RECORDER, folder / f"{name}.exe")
+        return f"{PROBES}\\{name}.exe"
+
+    def assert_probes(self, expected):
+        """Which probes ran, once each, and with which arguments."""
+        for name in expected:
+            self.suite.records.wait_for_end(name)
+        self.assertEqual({name: [run.arguments for run in self.suite.records.runs(name)]
+                          for name in self.suite.records.recorded()},
+                         {name: [arguments] for name, arguments in expected.items()})
+
+    def remove_rows(self, checked, rows):
+        program = self.start_program(self.suite, rows=rows)
+        for row in checked:
+            program.main_window.toggle_row(row)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+    def test_commands_of_other_shapes_run_as_far_as_they_name_a_program(self):
+        no_switch = self.place_probe("no_switch")
+        no_folder = self.place_probe("no_folder")
+        quoted = self.place_probe("quoted")
+        quotes_later = self.place_probe("quotes_later")
+        two_switches = self.place_probe("two_switches")
+        other_case = self.place_probe("other_case")
+        long = self.place_probe("long")
+        long_log = "=C:\\logs\\Long_uninstall" + "x" * LONG
+        commands = [
+            no_switch,
+            f"{no_folder} /log=C:\\old_uninstall.log",
+            f'"{quoted}" /log=C:\\logs\\Quoted_uninstall.log',
+            f'{quotes_later} /log="C:\\my logs\\Quotes_uninstall.log"',
+            f"{two_switches} /log=C:\\first /log=C:\\logs\\Two_uninstall.log",
+            f"{other_case} /LOG=C:\\logs\\Case_uninstall.log",
+            f"{long} /log{long_log}",
+            "/log=C:\\logs\\Nothing_uninstall.log",
+        ]
+        self.prefix.write_registry([Value(LIST_KEY, f"{number} command", command)
+                                    for number, command in enumerate(commands)] +
+                                   [Value(LIST_KEY, "stays", no_switch)])
+        self.remove_rows(range(len(commands)), rows=len(commands) + 1)
+        self.assert_probes({
+            "no_switch": [f"/log{no_switch}", *SELECTIVE],
+            "no_folder": ["/log=C:\\old_uninstall.log", *SELECTIVE],
+            "quoted": ["/log=C:\\logs\\Quoted_uninstall.log", *SELECTIVE],
+            "quotes_later": ['/log="C:\\my logs\\Quotes_uninstall.log"', *SELECTIVE],
+            "two_switches": ["/log=C:\\logs\\Two_uninstall.log", *SELECTIVE],
+            "long": [f"/log{long_log}", *SELECTIVE],
+        })
+
+    def test_a_program_name_of_any_length_is_only_not_found(self):
+        probe = self.place_probe("after")
+        self.prefix.write_registry([
+            Value(LIST_KEY, "1 long program", "C:\\" + "p" * LONG),
+            Value(LIST_KEY, "2 long path", "C:\\" + "p\\" * (LONG // 2) + "x.exe /log=C:\\logs\\L"),
+            Value(LIST_KEY, "3 good", f"{probe} /log=C:\\logs\\After_uninstall.log"),
+            Value(LIST_KEY, "4 empty", ""),
+            Value(LIST_KEY, "5 blank", " "),
+            Value(LIST_KEY, "6 stays", probe)])
+        self.remove_rows(range(5), rows=6)
+        self.assert_probes({"after": ["/log=C:\\logs\\After_uninstall.log", *SELECTIVE]})
+
+    def test_values_that_are_not_text_run_nothing(self):
+        command = self.place_probe("command") + " /log=C:\\logs\\Command_uninstall.log"
+        last = self.place_probe("last") + " /log=C:\\logs\\Last_uninstall.log"
+        self.prefix.write_registry([
+            Value(LIST_KEY, "1 number", 5, REG_DWORD),
+            Value(LIST_KEY, "2 bytes", b"\0\xff\x80", REG_BINARY),
+            Value(LIST_KEY, "3 no bytes", b"", REG_BINARY),
+            Value(LIST_KEY, "4 texts", text_bytes(command, command, ""), REG_MULTI_SZ),
+            Value(LIST_KEY, "5 unexpanded", text_bytes("%SystemDrive%" + command[2:]),
+                  REG_EXPAND_SZ),
+            Value(LIST_KEY, "6 text", last),
+            Value(LIST_KEY, "7 stays", command)])
+        self.remove_rows(range(6), rows=7)
+        self.assert_probes({"last": ["/log=C:\\logs\\Last_uninstall.log", *SELECTIVE]})
+
+    def test_unusual_value_names_are_rows_like_others(self):
+        names = ["", "n" * LONGEST_VALUE_NAME, "100 %20 percent", "Übergröße 節拍", "with/slash"]
+        probes = ["empty", "huge", "percent", "letters", "slash"]
+        values = [Value(LIST_KEY, name, self.place_probe(probe) + " /log=C:\\logs\\Some_uninstall")
+                  for name, probe in zip(names, probes)]
+        self.prefix.write_registry(values + [Value(LIST_KEY, "~ stays", "C:\\nothing.exe")])
+        # The rows are sorted; the one that stays comes before the accented letter.
+        program = self.start_program(self.suite, rows=6)
+        for row in (0, 1, 2, 3, 5):
+            program.main_window.toggle_row(row)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+        self.assert_probes({probe: ["/log=C:\\logs\\Some_uninstall", *SELECTIVE]
+                            for probe in probes})
+
+    def test_a_value_name_with_a_backslash_has_a_row_without_a_command(self):
+        # The settings object takes it for the path of another key, which does not exist.
+        self.prefix.write_registry([
+            Value(LIST_KEY, "a\\b", self.place_probe("backslash") + " /log=C:\\logs\\B_uninstall"),
+            Value(LIST_KEY, "stays", "C:\\nothing.exe")])
+        self.remove_rows([0], rows=2)
+        self.assert_probes({})
+
+    def test_a_damaged_install_path_does_not_disturb_the_question(self):
+        self.suite.install([RUNNING, PARTNER])
+        self.prefix.write_registry([
+            Value(f"{SUITE_KEY}\\AppPaths", RUNNING.id_string, b"\0\1", REG_BINARY)])
+        karaoke = self.start_application(self.suite, RUNNING)
+        program = self.start_program(self.suite, rows=2)
+        program.main_window.toggle_row(0)
+        program.main_window.press_uninstall()
+        program.wait_for_warning().press("Return")
+        self.assertEqual(program.exit_code(), 0)
+        karaoke.wait_until_ended()
+        self.assert_probes({RUNNING.id_string: [self.suite.log_switch(RUNNING), *SELECTIVE]})

@@ -1,0 +1,174 @@
+"""Applications that run when their removal begins."""
+
+import shutil
+
+from harness import layout
+from harness.case import SuiteTestCase
+from harness.suite import WARNING_TITLE
+from applications import AWKWARD_FOLDER, PARTNER, RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, UNKNOWN
+
+START_OF_LOG = ["-->Widget::Widget()", "Try to fill list widget (runtime brand: Lumacraft)"]
+BEGUN = "--> uninstallButtonClicked"
+
+
+def warning(application):
+    return f"--> showWarningAndKillApp: {application.id_string}"
+
+
+def removal(suite, application, mode="selective"):
+    return [f"--> DoUninsstall: {mode}", f"DoUninsstall: {suite.uninstaller(application)}"]
+
+
+class RunningApplications(SuiteTestCase):
+
+    def test_ok_ends_the_application_and_removes_it(self):
+        suite = self.install([RUNNING, PARTNER, UNKNOWN])
+        karaoke = self.start_application(suite, RUNNING)
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.press_uninstall()
+        warning_box = program.wait_for_warning()
+        self.assertTrue(karaoke.running)
+        self.assertEqual(suite.records.recorded(), [])
+        warning_box.press("Return")
+        self.assertEqual(program.exit_code(), 0)
+
+        karaoke.wait_until_ended()
+        self.assert_arguments(suite, {
+            RUNNING: [suite.log_switch(RUNNING), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        self.assertEqual(suite.registered(), ["Vidalo Downloader", "Zebra Player"])
+        self.assert_untouched(suite, PARTNER)
+        self.assert_log(suite, START_OF_LOG + [BEGUN, warning(RUNNING)] +
+                        removal(suite, RUNNING) + ["~Widget()"])
+
+    def check_cancelled(self, key):
+        suite = self.install([RUNNING, PARTNER, UNKNOWN])
+        karaoke = self.start_application(suite, RUNNING)
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        program.wait_for_warning().press(key)
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assertTrue(karaoke.running)
+        for application in (RUNNING, PARTNER, UNKNOWN):
+            self.assert_untouched(suite, application)
+        self.assert_log(suite, START_OF_LOG + [
+            BEGUN, warning(RUNNING), "changeItemsState: 0", "allApplicationsSelButtonClicked",
+            "changeItemsState: 1", "~Widget()"])
+
+    def test_cancel_on_the_first_removes_nothing_and_ends_the_program(self):
+        self.check_cancelled("Escape")
+
+    def test_closing_the_question_is_a_cancel(self):
+        self.check_cancelled("alt+F4")
+
+    def test_cancel_in_a_full_run_spares_the_suite_too(self):
+        suite = self.install([AWKWARD_FOLDER, RUNNING, SUITE, PARTNER])
+        karaoke = self.start_application(suite, RUNNING)
+        program = self.start_program(suite, rows=4)
+        program.main_window.select_all()
+        program.main_window.press_uninstall()
+        program.wait_for_warning().press("Escape")
+        self.assertEqual(program.exit_code(), 0)
+
+        # What went before the question stays removed.
+        self.assertTrue(karaoke.running)
+        self.assert_arguments(suite, {
+            AWKWARD_FOLDER: ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/DISABLEREDIRECT"]})
+        for application in (RUNNING, SUITE, PARTNER):
+            self.assert_untouched(suite, application)
+        self.assert_log(suite, START_OF_LOG + [
+            "allApplicationsSelButtonClicked", "changeItemsState: 1", BEGUN,
+            *removal(suite, AWKWARD_FOLDER, "full"), warning(RUNNING), "changeItemsState: 0",
+            "allApplicationsSelButtonClicked", "changeItemsState: 0", "~Widget()"])
+
+    def test_two_are_asked_about_one_after_the_other_in_row_order(self):
+        suite = self.install([RUNNING, SECOND_RUNNING, UNKNOWN])
+        # Started in the other order, which must not matter.
+        tuner = self.start_application(suite, SECOND_RUNNING)
+        karaoke = self.start_application(suite, RUNNING)
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.attend({WARNING_TITLE: "Return"}), [WARNING_TITLE] * 2)
+        self.assertEqual(program.exit_code(), 0)
+
+        karaoke.wait_until_ended()
+        tuner.wait_until_ended()
+        self.assert_arguments(suite, {
+            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
+            for application in (RUNNING, SECOND_RUNNING)})
+        self.assert_log(suite, START_OF_LOG + [
+            BEGUN, warning(RUNNING), *removal(suite, RUNNING), warning(SECOND_RUNNING),
+            *removal(suite, SECOND_RUNNING), "~Widget()"])
+
+    def test_cancel_on_the_second_keeps_what_follows(self):
+        suite = self.install([AWKWARD_FOLDER, RUNNING, SECOND_RUNNING, UNKNOWN])
+        self.start_application(suite, RUNNING)
+        tuner = self.start_application(suite, SECOND_RUNNING)
+        program = self.start_program(suite, rows=4)
+        for row in (1, 2, 3):
+            program.main_window.toggle_row(row)
+        program.main_window.press_uninstall()
+        program.wait_for_warning().press("Return")
+        suite.records.wait_for_end(RUNNING.id_string)
+        program.wait_for_warning().press("Escape")
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assertTrue(tuner.running)
+        self.assert_arguments(suite, {
+            RUNNING: [suite.log_switch(RUNNING), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        for application in (AWKWARD_FOLDER, SECOND_RUNNING, UNKNOWN):
+            self.assert_untouched(suite, application)
+
+    def test_the_suites_row_asks_about_applications_that_have_no_row(self):
+        suite = self.install([SUITE, PARTNER])
+        # Copied to the computer without an installer: the suite knows neither row nor path of it.
+        folder = suite.folder(RUNNING)
+        folder.mkdir()
+        shutil.copy(layout.INSTALLERS / "sample_instance.exe", folder / RUNNING.process_name)
+        karaoke = self.start_application(suite, RUNNING)
+        program = self.start_program(suite, rows=2)
+        program.main_window.select_all()
+        program.main_window.press_uninstall()
+        self.assertEqual(program.attend({WARNING_TITLE: "Return"}), [WARNING_TITLE])
+        self.assertEqual(program.exit_code(), 0)
+
+        karaoke.wait_until_ended()
+        self.assert_arguments(suite, {
+            PARTNER: ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/DISABLEREDIRECT"],
+            SUITE: ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/LASTAPP"]})
+        # The suite's row comes first in the list, its removal last.
+        self.assert_log(suite, START_OF_LOG + [
+            "allApplicationsSelButtonClicked", "changeItemsState: 1", BEGUN, warning(RUNNING),
+            *removal(suite, PARTNER, "full"), *removal(suite, SUITE, "full"), "~Widget()"])
+
+    def test_the_slideshow_maker_is_never_seen_running(self):
+        # Its instance is looked for under its spaced name, which no instance ever had.
+        suite = self.install([SLIDESHOW, PARTNER])
+        slideshow = self.start_application(suite, SLIDESHOW)
+        program = self.start_program(suite, rows=2)
+        program.main_window.toggle_row(0)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.attend({WARNING_TITLE: "Escape"}), [])
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assertTrue(slideshow.running)
+        self.assert_arguments(suite, {
+            SLIDESHOW: [suite.log_switch(SLIDESHOW), "/SILENT", "/SUPPRESSMSGBOXES"]})
+
+    def test_an_application_that_nobody_removes_is_left_alone(self):
+        suite = self.install([RUNNING, PARTNER])
+        karaoke = self.start_application(suite, RUNNING)
+        program = self.start_program(suite, rows=2)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.attend({WARNING_TITLE: "Escape"}), [])
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assertTrue(karaoke.running)
+        self.assert_untouched(suite, RUNNING)
+        self.assert_removed(suite, PARTNER, with_settings=False)
