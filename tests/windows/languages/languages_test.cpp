@@ -19,6 +19,7 @@ struct Text
 };
 
 const Text texts[] = {
+    {"Widget", "Installed applications"},
     {"Widget", "Delete settings and history"},
     {"Widget", "Delete program settings, custom presets and history"},
     {"Widget", "Select all"},

@@ -2,6 +2,7 @@
 // scale is Qt's, from the environment; the test is registered once for each, and told which one
 // it must have.
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -27,6 +28,8 @@ private slots:
     void everyTextFits();
     void textsStandOutWhateverTheUsersColours_data();
     void textsStandOutWhateverTheUsersColours();
+    void focusIsVisible();
+    void everyControlHasAnAccessibleName();
     void cutTextIsNoticed();
     void faintTextIsNoticed();
 };
@@ -108,6 +111,41 @@ void LayoutTest::textsStandOutWhateverTheUsersColours()
         });
     QApplication::setPalette(before);
     QVERIFY(shown);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void LayoutTest::focusIsVisible()
+{
+    QStringList faults;
+    QVERIFY(visitWindows(QStringLiteral("en"), [&](const QString& name, QWidget& window) {
+        // The toolkit marks the focus from the first use of the keyboard on.
+        QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || !widget->isEnabled() ||
+                !(widget->focusPolicy() & Qt::TabFocus))
+                continue;
+            widget->setFocus(Qt::TabFocusReason);
+            const QImage focused = widget->grab().toImage();
+            widget->clearFocus();
+            if (widget->grab().toImage() == focused)
+                faults.append(name + QLatin1Char(' ') + widget->objectName());
+        }
+    }));
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void LayoutTest::everyControlHasAnAccessibleName()
+{
+    QStringList faults;
+    QVERIFY(visitWindows(QStringLiteral("en"), [&](const QString& name, QWidget& window) {
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
+            if (!(widget->focusPolicy() & Qt::TabFocus))
+                continue;
+            const QAccessibleInterface* control = QAccessible::queryAccessibleInterface(widget);
+            if (control == nullptr || control->text(QAccessible::Name).isEmpty())
+                faults.append(name + QLatin1Char(' ') + widget->objectName());
+        }
+    }));
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }
 

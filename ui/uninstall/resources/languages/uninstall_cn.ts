@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 正在运行。
 请单击“确定”关闭此应用程序，或单击“取消”退出。</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>已安装的应用程序</translation>
+    </message>
 </context>
 </TS>

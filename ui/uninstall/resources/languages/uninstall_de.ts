@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 wird gerade ausgeführt.
 Klicken Sie auf „OK“, um diese Anwendung zu schließen, oder auf „Abbrechen“, um den Vorgang zu beenden.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Installierte Anwendungen</translation>
+    </message>
 </context>
 </TS>

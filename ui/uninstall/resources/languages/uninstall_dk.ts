@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 kører.
 Klik på OK for at lukke programmet, eller klik på Annuller for at afslutte.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Installerede programmer</translation>
+    </message>
 </context>
 </TS>

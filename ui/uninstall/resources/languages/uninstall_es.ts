@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 se está ejecutando.
 Haga clic en Aceptar para cerrar esta aplicación o en Cancelar para salir.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Aplicaciones instaladas</translation>
+    </message>
 </context>
 </TS>

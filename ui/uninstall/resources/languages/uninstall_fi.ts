@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 on käynnissä.
 Sulje sovellus valitsemalla OK tai lopeta valitsemalla Peruuta.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Asennetut sovellukset</translation>
+    </message>
 </context>
 </TS>

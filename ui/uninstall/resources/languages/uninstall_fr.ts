@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 est en cours d’exécution.
 Cliquez sur OK pour fermer cette application ou sur Annuler pour quitter.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Applications installées</translation>
+    </message>
 </context>
 </TS>

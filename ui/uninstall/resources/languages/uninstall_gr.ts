@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>Η εφαρμογή %1 εκτελείται.
 Κάντε κλικ στο «OK» για να την κλείσετε ή στο «Άκυρο» για έξοδο.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Εγκατεστημένες εφαρμογές</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>A(z) %1 fut.
 Kattintson az OK gombra az alkalmazás bezárásához, vagy a Mégse gombra a kilépéshez.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Telepített alkalmazások</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 è in esecuzione.
 Fare clic su OK per chiudere l’applicazione o su Annulla per uscire.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Applicazioni installate</translation>
+    </message>
 </context>
 </TS>

@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>&lt;b&gt;100 % free app&lt;/b&gt; for saving music from YouTube in MP3, fast and simple.</source>
-        <translation>&lt;b&gt;100% 無料のアプリ&lt;/b&gt;で、YouTube の音楽を MP3 にすばやく簡単に保存できます。</translation>
+        <translation>&lt;b&gt;100% 無料のアプリ&lt;/b&gt;で YouTube の音楽をすばやく簡単に MP3 で保存。</translation>
     </message>
     <message>
         <source>Download 100% Free </source>
@@ -111,6 +111,10 @@
 Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 は実行中です。
 このアプリケーションを閉じるには [OK] を、終了するには [キャンセル] をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>インストール済みのアプリケーション</translation>
     </message>
 </context>
 </TS>

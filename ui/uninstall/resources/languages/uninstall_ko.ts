@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1이(가) 실행 중입니다.
 이 응용 프로그램을 닫으려면 [확인]을 클릭하고, 종료하려면 [취소]를 클릭하세요.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>설치된 응용 프로그램</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 is actief.
 Klik op OK om deze toepassing te sluiten of klik op Annuleren om te stoppen.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Geïnstalleerde toepassingen</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>Program %1 jest uruchomiony.
 Kliknij przycisk OK, aby zamknąć tę aplikację, lub przycisk Anuluj, aby zakończyć.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Zainstalowane aplikacje</translation>
+    </message>
 </context>
 </TS>

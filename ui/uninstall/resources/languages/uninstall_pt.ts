@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 está em execução.
 Clique em OK para fechar esta aplicação ou em Cancelar para sair.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Aplicações instaladas</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>Программа %1 запущена.
 Нажмите «ОК», чтобы закрыть это приложение, или «Отмена», чтобы выйти.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Установленные приложения</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>Program %1 se izvaja.
 Kliknite »V redu«, da zaprete ta program, ali »Prekliči« za izhod.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Nameščeni programi</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>Aplikácia %1 je spustená.
 Kliknutím na tlačidlo OK túto aplikáciu zatvoríte, kliknutím na tlačidlo Zrušiť skončíte.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Nainštalované aplikácie</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 körs.
 Klicka på OK för att stänga programmet eller på Avbryt för att avsluta.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Installerade program</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 กำลังทำงานอยู่
 โปรดคลิก ตกลง เพื่อปิดแอปพลิเคชันนี้ หรือคลิก ยกเลิก เพื่อออก</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>แอปพลิเคชันที่ติดตั้งไว้</translation>
+    </message>
 </context>
 </TS>

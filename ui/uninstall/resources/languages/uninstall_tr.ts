@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 çalışıyor.
 Bu uygulamayı kapatmak için Tamam’ı, çıkmak için İptal’i tıklatın.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Yüklü uygulamalar</translation>
+    </message>
 </context>
 </TS>

@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 正在執行。
 請按一下 [確定] 關閉此應用程式，或按一下 [取消] 結束。</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>已安裝的應用程式</translation>
+    </message>
 </context>
 </TS>

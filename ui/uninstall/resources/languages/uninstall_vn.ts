@@ -112,5 +112,9 @@ Please click OK to close this application or click Cancel to exit.</source>
         <translation>%1 đang chạy.
 Vui lòng bấm OK để đóng ứng dụng này hoặc bấm Hủy để thoát.</translation>
     </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Ứng dụng đã cài đặt</translation>
+    </message>
 </context>
 </TS>
