@@ -66,7 +66,7 @@ trap 'stopStage; exit 143' TERM HUP
 # progressOf LOG STEPS: "43 %, src/corelib" from the compiler lines in a log.
 progressOf() {
     local log=$1 steps=$2 count last percent=""
-    count=$(grep -cE '^[^ ]*(g\+\+|gcc)[^ ]* .*-c |^  CC ' "$log" || true)
+    count=$(grep -cE '^(\[[0-9/]+\] )?[^ ]*(g\+\+|gcc)[^ ]* .*-c |^  CC ' "$log" || true)
     last=$(grep -oE '[^ ]+\.(cpp|c|cc)( |$)' "$log" | tail -n 1 | sed 's,^\(\.\./\)*,,' || true)
     if ((steps > 0)); then
         percent=$((count * 100 / steps))

@@ -45,7 +45,8 @@ mkdir -p "$work"
 say "building Qt $qtVersion for Windows once (log: $setupLog)"
 runStage "fetching the source" 0 fetchDebianSource qtbase-opensource-src "$qtVersion" "$work"
 runStage "configuring" 0 qtConfigure
-runStage "compiling" "$qtCompilerCalls" qtCompile
+# The recipe's figure is part of the key, and too high: 985 calls were counted.
+runStage "compiling" "$((qtCompilerCalls * 7 / 10))" qtCompile
 runStage "installing" 0 qtInstall
 mv "$qtStage$qtPrefix" "$qtPrefix"
 rm -rf "$work"
