@@ -40,7 +40,6 @@ class Brand(SuiteTestCase):
         program.main_window.toggle_row(0)
         program.main_window.press_uninstall()
         self.assertEqual(program.exit_code(), 0)
-        suite.records.wait_for_end(application.id_string)
         self.assert_removed(suite, application, with_settings=False)
 
     def test_by_the_company_folder(self):

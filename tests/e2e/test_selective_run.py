@@ -114,7 +114,7 @@ class SelectiveRun(SuiteTestCase):
 
         # The program has ended, and the slow uninstaller has not.
         held = suite.records.wait_for_begin(HOLDING.id_string)
-        self.assertIsNone(held.ended)
+        self.assertIsNone(held.exit_code)
         self.assertTrue((suite.folder(HOLDING) / HOLDING.process_name).exists())
         times = {message.text: message.time for message in suite.log()}
         waited = (times[f"DoUninsstall: {suite.uninstaller(PARTNER)}"] -

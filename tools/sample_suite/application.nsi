@@ -113,41 +113,65 @@ SectionEnd
 
 ; -------------------------------------------------------------- uninstaller
 
+; findLogFile: from the parameters in $R0, the value of "/log=", or nothing. With a blank in it the
+; whole switch is in quotes.
+Function un.findLogFile
+  StrCpy $logFile ""
+  StrCpy $1 -1
+  ${Do}
+    IntOp $1 $1 + 1
+    StrCpy $2 $R0 5 $1
+    ${If} $2 == ""
+      Return
+    ${EndIf}
+  ${LoopUntil} $2 == "/log="
+  StrCpy $3 " "
+  ${If} $1 > 0
+    IntOp $2 $1 - 1
+    StrCpy $2 $R0 1 $2
+    ${If} $2 == '"'
+      StrCpy $3 '"'
+    ${EndIf}
+  ${EndIf}
+  IntOp $1 $1 + 5
+  ${Do}
+    StrCpy $2 $R0 1 $1
+    ${If} $2 == $3
+    ${OrIf} $2 == ""
+      Return
+    ${EndIf}
+    StrCpy $logFile "$logFile$2"
+    IntOp $1 $1 + 1
+  ${Loop}
+FunctionEnd
+
+; The result is 1 when the parameters in $R0 hold the switch, else 0.
+!macro switchPresent name result
+  ${GetOptions} $R0 "${name}" ${result}
+  ${If} ${Errors}
+    StrCpy ${result} 0
+  ${Else}
+    StrCpy ${result} 1
+  ${EndIf}
+  ClearErrors
+!macroend
+!define switchPresent "!insertmacro switchPresent"
+
 Function un.onInit
   SetShellVarContext current
 !ifndef KEEPER
   ${un.recordCommandLine} "${ID_STRING}"
 !endif
-  StrCpy $logFile ""
-  StrCpy $deletesSettings 0
-  StrCpy $isLast 0
-  StrCpy $asksNothing 0
   StrCpy $exitCode 0
-  ; Windows' own splitting, so that a switch whose path holds spaces stays one argument.
-  StrCpy $0 $CMDLINE
-  System::Call 'shell32::CommandLineToArgvW(w r0, *i .r1) p .r2'
-  ${If} $1 > 1
-    IntOp $1 $1 - 1
-    ${ForEach} $3 1 $1 + 1
-      IntOp $4 $3 * 8
-      IntPtrOp $5 $2 + $4
-      System::Call '*$5(p .r6)'
-      System::Call '*$6(&w${NSIS_MAX_STRLEN} .r7)'
-      StrCpy $8 $7 5
-      ${If} $8 == "/log="
-        StrCpy $logFile $7 "" 5
-      ${ElseIf} $7 == "/SILENT"
-        SetSilent silent
-      ${ElseIf} $7 == "/FULL"
-        StrCpy $deletesSettings 1
-      ${ElseIf} $7 == "/LASTAPP"
-        StrCpy $isLast 1
-      ${ElseIf} $7 == "/SUPPRESSMSGBOXES"
-        StrCpy $asksNothing 1
-      ${EndIf}
-    ${Next}
+  ${GetParameters} $R0
+  Call un.findLogFile
+  ${switchPresent} "/FULL" $deletesSettings
+  ${switchPresent} "/LASTAPP" $isLast
+  ${switchPresent} "/SUPPRESSMSGBOXES" $asksNothing
+  ${switchPresent} "/SILENT" $1
+  ${If} $1 == 1
+    SetSilent silent
   ${EndIf}
-  System::Call 'kernel32::LocalFree(p r2)'
 
   ${If} $asksNothing == 0
     MessageBox MB_YESNO|MB_ICONQUESTION "Remove ${DISPLAY_NAME}?" IDYES goOn
@@ -156,7 +180,7 @@ Function un.onInit
   ${EndIf}
 FunctionEnd
 
-; un.log TEXT: one line in the file that the /log switch names; nothing without the switch.
+; ${un.log} TEXT: one line in the file that the /log switch names; nothing without the switch.
 !macro log text
   ${If} $logFile != ""
     FileOpen $0 "$logFile" a

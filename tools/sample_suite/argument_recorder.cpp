@@ -22,20 +22,11 @@ std::wstring ownName()
     return path.substr(0, path.find_last_of(L'.'));
 }
 
-std::wstring systemTime()
-{
-    FILETIME now{};
-    GetSystemTimeAsFileTime(&now);
-    return std::to_wstring(static_cast<unsigned long long>(now.dwHighDateTime) << 32 |
-                           now.dwLowDateTime);
-}
-
 } // namespace
 
 int main()
 {
-    const std::wstring text = L"begin\t" + systemTime() + L"\r\nline\t" + GetCommandLineW() +
-                              L"\r\nend\t" + systemTime() + L"\t0\r\n";
+    const std::wstring text = std::wstring(L"line\t") + GetCommandLineW() + L"\r\nend\t0\r\n";
     CreateDirectoryW(L"C:\\records", nullptr);
     const std::wstring path = L"C:\\records\\" + ownName() + L".txt";
     const std::unique_ptr<std::FILE, FileCloser> record(_wfopen(path.c_str(), L"ab"));

@@ -1,11 +1,13 @@
 ; What the sample uninstallers tell about themselves, in C:\records\<id string>.txt (UTF-16 text,
 ; one line per entry, tab between its fields):
 ;
-;   begin <TAB> system time    hundreds of nanoseconds, at the start of the uninstaller
-;   line <TAB> command line    exactly as Windows handed it over
-;   end <TAB> system time <TAB> exit code
+;   line <TAB> command line    at the start, exactly as Windows handed it over
+;   end <TAB> exit code
 ;
-; A file that several runs wrote holds several such groups.
+; A file that several runs wrote holds several such pairs.
+;
+; No plug-in is used here or in the uninstallers. NSIS unpacks plug-ins into a temporary folder whose
+; name two uninstallers can pick at the same moment, and one of them then gives up with a message.
 
 !ifndef RECORDS_NSH
 !define RECORDS_NSH
@@ -20,20 +22,12 @@
   FileClose $0
 !macroend
 
-!macro systemTime result
-  System::Call 'kernel32::GetSystemTimeAsFileTime(*l .r9)'
-  StrCpy ${result} $9
-!macroend
-
 !macro recordCommandLine id
-  !insertmacro systemTime $1
-  !insertmacro writeRecord "${id}" "begin$\t$1"
   !insertmacro writeRecord "${id}" "line$\t$CMDLINE"
 !macroend
 
 !macro recordEnd id code
-  !insertmacro systemTime $1
-  !insertmacro writeRecord "${id}" "end$\t$1$\t${code}"
+  !insertmacro writeRecord "${id}" "end$\t${code}"
 !macroend
 
 !define recordCommandLine "!insertmacro recordCommandLine"

@@ -90,7 +90,9 @@ class SuiteTestCase(unittest.TestCase):
                          {(6, "ui/uninstall/src/widget")})
 
     def assert_removed(self, suite: Suite, application: Application, with_settings: bool):
-        """Nothing is left of its program; its settings are, unless they were to go too."""
+        """Once its uninstaller has ended, nothing is left of its program; its settings are, unless
+        they were to go too."""
+        suite.records.wait_for_end(application.id_string)
         self.assertFalse(suite.folder(application).exists(), application.folder)
         self.assertEqual(suite.settings_folder(application).exists(), not with_settings)
 

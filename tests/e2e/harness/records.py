@@ -9,21 +9,12 @@ from harness.prefix import Prefix
 from harness.waiting import PATIENCE, wait_until
 
 FOLDER = "C:\\records"
-# Windows counts hundreds of nanoseconds from 1601, Unix seconds from 1970.
-_TICKS_PER_SECOND = 10_000_000
-_UNIX_EPOCH_TICKS = 116_444_736_000_000_000
-
-
-def _unix_time(ticks: str) -> float:
-    return (int(ticks) - _UNIX_EPOCH_TICKS) / _TICKS_PER_SECOND
 
 
 @dataclass
 class Run:
-    """One run of an uninstaller; times are Unix times, `ended` is None while it runs."""
-    begun: float
-    arguments: Optional[List[str]] = None
-    ended: Optional[float] = None
+    """One run of an uninstaller; `exit_code` is None while it runs."""
+    arguments: List[str]
     exit_code: Optional[int] = None
 
 
@@ -47,27 +38,24 @@ class Records:
         found: List[Run] = []
         for line in text.split("\r\n")[:-1]:
             kind, *fields = line.split("\t")
-            if kind == "begin":
-                found.append(Run(_unix_time(fields[0])))
-            elif kind == "line":
-                found[-1].arguments = command_line.split(line.split("\t", 1)[1])
+            if kind == "line":
+                found.append(Run(command_line.split("\t".join(fields))))
             elif kind == "end":
-                found[-1].ended = _unix_time(fields[0])
-                found[-1].exit_code = int(fields[1])
+                found[-1].exit_code = int(fields[0])
         return found
 
     def wait_for_begin(self, id_string: str, seconds: float = PATIENCE) -> Run:
         """Waits until the first run has told its arguments."""
         def begun() -> Optional[Run]:
             runs = self.runs(id_string)
-            return runs[0] if runs and runs[0].arguments is not None else None
+            return runs[0] if runs else None
         return wait_until(begun, f"the uninstaller of {id_string} has not begun", seconds)
 
     def wait_for_end(self, id_string: str, seconds: float = PATIENCE) -> Run:
         """Waits until the first run is over."""
         def ended() -> Optional[Run]:
             runs = self.runs(id_string)
-            return runs[0] if runs and runs[0].ended is not None else None
+            return runs[0] if runs and runs[0].exit_code is not None else None
         return wait_until(ended, f"the uninstaller of {id_string} has not ended", seconds)
 
     def release(self, id_string: str) -> None:
