@@ -5,7 +5,6 @@
 // The scale is Qt's own (QT_SCALE_FACTOR in the environment).
 
 #include <QApplication>
-#include <QCursor>
 #include <QDir>
 #include <QPixmap>
 #include <QTextStream>
@@ -22,8 +21,6 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    // Nothing may be lit up because the pointer happens to be over it.
-    QCursor::setPos(0, 0);
     const QDir folder(QString::fromLocal8Bit(argv[1]));
     bool complete = true;
     for (const QString& language : allLanguages()) {

@@ -87,6 +87,7 @@ private slots:
     void eventsOfARun();
     void storeProductIsLogged();
     void everySurveyApplicationIsAskedInItsTurn();
+    void surveyTakesTheLanguageOfTheSettings();
     void statisticsStayWithTheFirstSurveyedApplication();
 
 private:
@@ -303,6 +304,27 @@ void DialogDispatchTest::everySurveyApplicationIsAskedInItsTurn()
                                 "close offer_install_ms_store_msldl clsv",
                                 "click skip clsv"};
     QCOMPARE(eventsWithoutNumbers(9), events);
+}
+
+void DialogDispatchTest::surveyTakesTheLanguageOfTheSettings()
+{
+    addApplication("Clip Saver 2026", "ClipSaver");
+    fs::commonConfig().setValue("Language", "pt");
+    QString title;
+    int width = 0;
+    DialogDriver driver;
+    driver.expect("QuestionDlg", [&](QDialog& dialog) {
+        title = dialog.windowTitle();
+        width = dialog.findChild<QPushButton*>("btnOne")->width();
+        pressKey(Qt::Key_Escape)(dialog);
+    });
+    const bool ended = run();
+    fs::commonConfig().setValue("Language", "");
+    QVERIFY(ended);
+    QCOMPARE(driver.problem(), QString());
+    QCOMPARE(title, QStringLiteral("Desinstalar Tessera Clip Saver"));
+    QCOMPARE(width, 316);
+    QCOMPARE(eventsWithoutNumbers(1).size(), 1);
 }
 
 void DialogDispatchTest::statisticsStayWithTheFirstSurveyedApplication()
