@@ -4,6 +4,7 @@ import shutil
 
 from harness import layout
 from harness.case import SuiteTestCase
+from harness.screen import pressing
 from harness.suite import WARNING_TITLE
 from applications import AWKWARD_FOLDER, PARTNER, RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, UNKNOWN
 
@@ -93,7 +94,7 @@ class RunningApplications(SuiteTestCase):
         program.main_window.toggle_row(0)
         program.main_window.toggle_row(1)
         program.main_window.press_uninstall()
-        self.assertEqual(program.attend({WARNING_TITLE: "Return"}), [WARNING_TITLE] * 2)
+        self.assertEqual(program.attend({WARNING_TITLE: pressing("Return")}), [WARNING_TITLE] * 2)
         self.assertEqual(program.exit_code(), 0)
 
         karaoke.wait_until_ended()
@@ -134,7 +135,7 @@ class RunningApplications(SuiteTestCase):
         program = self.start_program(suite, rows=2)
         program.main_window.select_all()
         program.main_window.press_uninstall()
-        self.assertEqual(program.attend({WARNING_TITLE: "Return"}), [WARNING_TITLE])
+        self.assertEqual(program.attend({WARNING_TITLE: pressing("Return")}), [WARNING_TITLE])
         self.assertEqual(program.exit_code(), 0)
 
         karaoke.wait_until_ended()
@@ -153,7 +154,7 @@ class RunningApplications(SuiteTestCase):
         program = self.start_program(suite, rows=2)
         program.main_window.toggle_row(0)
         program.main_window.press_uninstall()
-        self.assertEqual(program.attend({WARNING_TITLE: "Escape"}), [])
+        self.assertEqual(program.attend({WARNING_TITLE: pressing("Escape")}), [])
         self.assertEqual(program.exit_code(), 0)
 
         self.assertTrue(slideshow.running)
@@ -166,7 +167,7 @@ class RunningApplications(SuiteTestCase):
         program = self.start_program(suite, rows=2)
         program.main_window.toggle_row(1)
         program.main_window.press_uninstall()
-        self.assertEqual(program.attend({WARNING_TITLE: "Escape"}), [])
+        self.assertEqual(program.attend({WARNING_TITLE: pressing("Escape")}), [])
         self.assertEqual(program.exit_code(), 0)
 
         self.assertTrue(karaoke.running)

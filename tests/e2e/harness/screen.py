@@ -6,7 +6,7 @@ Positions are relative to the window: under a window manager absolute ones are m
 import subprocess
 from dataclasses import dataclass
 from pathlib import Path
-from typing import List, Optional, Sequence
+from typing import Callable, List, Optional, Sequence
 
 from harness.waiting import Timeout, wait_until
 
@@ -77,6 +77,14 @@ class Window:
     def save(self, file: Path) -> None:
         """Writes a picture of the window with its frame."""
         _import("-window", self.identifier, "-frame", str(file))
+
+
+# What a person does about a window.
+Answer = Callable[[Window], None]
+
+
+def pressing(*keys: str) -> Answer:
+    return lambda window: window.press(*keys)
 
 
 def _import(*arguments: str) -> bytes:

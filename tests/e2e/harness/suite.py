@@ -3,7 +3,7 @@
 import shutil
 import subprocess
 from pathlib import Path, PureWindowsPath
-from typing import Dict, Iterable, List, Optional
+from typing import Callable, Dict, Iterable, List, Optional
 
 from harness import layout, log_file, screen
 from harness.main_window import MainWindow
@@ -90,7 +90,9 @@ class Suite:
         return sorted(self.registry()[f"{SUITE_KEY}\\{LIST_NAMES[self.brand]}"])
 
     def log(self) -> List[log_file.Message]:
-        return log_file.read(self.prefix.unix_path(self.prefix.logs / "Uninstall.log"))
+        """The program's own log, of all its runs; empty before it has written one."""
+        file = self.prefix.unix_path(self.prefix.logs / "Uninstall.log")
+        return log_file.read(file) if file.exists() else []
 
     # Processes
 
@@ -145,25 +147,30 @@ class RunningProgram:
     def wait_for_warning(self) -> screen.Window:
         return screen.wait_for_window(WARNING_TITLE, alive=[self.process])
 
-    def attend(self, answers: Dict[str, str]) -> List[str]:
-        """Answers windows until the program has ended. `answers` gives the key to press for a
-        window by its title (a regular expression); returns the titles answered, in order."""
+    def attend(self, answers: Dict[str, screen.Answer],
+               meanwhile: Callable[[], None] = lambda: None) -> List[str]:
+        """Answers windows until the program has ended. `answers` tells what to do with a window by
+        its title (a regular expression), so that it closes; `meanwhile` is called again and again.
+        Returns the titles answered, in order."""
         answered: List[str] = []
 
+        def gone(window: screen.Window) -> Callable[[], bool]:
+            return lambda: not window.exists()
+
         def ended() -> bool:
-            for title, key in answers.items():
+            for title, answer in answers.items():
                 for window in screen.find_windows(title):
                     answered.append(window.title)
-                    window.press(key)
-                    wait_until(lambda: not window.exists(),
-                               f"'{answered[-1]}' did not close on {key}")
+                    answer(window)
+                    wait_until(gone(window), f"'{answered[-1]}' did not close")
+            meanwhile()
             return not self.running
         wait_until(ended, "the program did not end")
         return answered
 
     def press_escape_on_surveys(self) -> List[str]:
         """Sees the run to its end; declines to say why the applications go."""
-        return self.attend({SURVEY_TITLE: "Escape"})
+        return self.attend({SURVEY_TITLE: screen.pressing("Escape")})
 
     def exit_code(self) -> int:
         """Waits for the end."""
