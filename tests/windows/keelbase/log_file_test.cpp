@@ -101,10 +101,15 @@ void expectInOrder(const std::vector<std::string>& lines, int messagesEach, std:
 TEST_F(LogFile, LiesInTheRoamingLogFolderUnderTheProgramsName)
 {
     ASSERT_FALSE(std::filesystem::exists(folder));
-    ASSERT_EQ(writer(L"a", 1).waitForEnd(), 0U);
+    const ChildProcess process = writer(L"a", 1);
+    ASSERT_EQ(process.waitForEnd(), 0U);
+    const std::string line = readBytes(file());
     const std::regex shape("[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3} "
-                           "[0-9]+:[0-9]+ 3 Writer tests/log_writer:1 \\| a0\n");
-    EXPECT_TRUE(std::regex_match(readBytes(file()), shape)) << readBytes(file());
+                           "([0-9]+):([0-9]+) 3 Writer tests/log_writer:1 \\| a0\n");
+    std::smatch parts;
+    ASSERT_TRUE(std::regex_match(line, parts, shape)) << line;
+    EXPECT_EQ(parts[1].str(), std::to_string(process.id()));
+    EXPECT_NE(parts[2].str(), parts[1].str());
 }
 
 TEST_F(LogFile, LevelIsSixWithoutTheVariable)

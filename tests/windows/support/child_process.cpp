@@ -20,6 +20,7 @@ ChildProcess::ChildProcess(const std::filesystem::path& program,
         throw std::runtime_error("cannot start " + program.u8string() + ": error " +
                                  std::to_string(GetLastError()));
     process.reset(started.hProcess);
+    processId = started.dwProcessId;
     const win32::KernelHandle thread(started.hThread);
 }
 

@@ -26,8 +26,11 @@ public:
     // Its exit code, or nothing when it has not ended in time.
     std::optional<DWORD> waitForEnd(DWORD timeoutMs = patienceMs) const;
 
+    DWORD id() const { return processId; }
+
 private:
     win32::KernelHandle process;
+    DWORD processId = 0;
 };
 
 // A program that is built beside the test.
