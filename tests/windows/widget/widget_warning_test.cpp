@@ -1,0 +1,187 @@
+// Running applications during a run: the real warning box, and real processes that hold their
+// mutexes.
+
+#include "tests/windows/widget/captured_log.h"
+#include "tests/windows/widget/run_test_base.h"
+#include "ui/uninstall/src/running_application.h"
+
+class WidgetWarningTest : public RunTestBase
+{
+    Q_OBJECT
+
+private slots:
+    void okEndsTheRunningApplicationAndGoesOn();
+    void cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing();
+    void cancelInAFullRunLeavesRowsUncheckedAndControlsDisabled();
+    void closingTheWarningCountsAsCancel();
+    void twoRunningApplicationsAskInRowOrder();
+    void suiteRowAsksForApplicationsThatAreNotListed();
+    void warningNamesTheInstallFolder();
+    void warningWithoutAPathBeginsWithIsRunning();
+    void warningOfAForeignApplicationShowsItsName();
+    void taskkillNamesTheIdString();
+};
+
+void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
+{
+    addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
+    addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
+    const auto running = startApplication(QStringLiteral("ScreenTaker"));
+    QVERIFY(uninstall::applicationIsRunning("ScreenTaker"));
+    answerBoxes({QMessageBox::Ok});
+    WindowUnderTest under;
+    under.window.changeItemsState(true);
+    QVERIFY(press(under));
+    QCOMPARE(boxTexts.size(), 1);
+    QCOMPARE(boxTitles, QStringList{QStringLiteral("Uninstallation")});
+    QVERIFY(running->state() == QProcess::NotRunning || running->waitForFinished(deadlineMs));
+    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")).size(), 1);
+    QCOMPARE(startsOf(QStringLiteral("WaveTuner")).size(), 1);
+}
+
+void WidgetWarningTest::cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing()
+{
+    addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
+    addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
+    addApplication(QStringLiteral("Loop Maker"), QStringLiteral("LoopMaker"));
+    const auto running = startApplication(QStringLiteral("LoopMaker"));
+    answerBoxes({QMessageBox::Cancel});
+    const CapturedLog log;
+    WindowUnderTest under;
+    under.list->item(under.rowOf(QStringLiteral("Loop Maker")))->setCheckState(Qt::Checked);
+    under.list->item(under.rowOf(QStringLiteral("Wave Tuner")))->setCheckState(Qt::Checked);
+    QVERIFY(press(under));
+    QCOMPARE(boxTexts.size(), 1);
+    QCOMPARE(under.list->count(), 3);
+    QCOMPARE(under.checkedRows(), 3);
+    QCOMPARE(under.selectState(), 0);
+    for (const QString& id :
+         {QStringLiteral("ScreenTaker"), QStringLiteral("WaveTuner"), QStringLiteral("LoopMaker")})
+        QCOMPARE(startsOf(id), QStringList());
+    QCOMPARE(running->state(), QProcess::Running);
+    const std::vector<std::string> expected{
+        "-->Widget::Widget()",        "Try to fill list widget (runtime brand: Lumacraft)",
+        "--> uninstallButtonClicked", "--> showWarningAndKillApp: LoopMaker",
+        "changeItemsState: 0",        "allApplicationsSelButtonClicked",
+        "changeItemsState: 1"};
+    QCOMPARE(log.mainFormTexts(), expected);
+    running->kill();
+    QVERIFY(running->waitForFinished(deadlineMs));
+}
+
+void WidgetWarningTest::cancelInAFullRunLeavesRowsUncheckedAndControlsDisabled()
+{
+    addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
+    addApplication(suiteName, QStringLiteral("Tessera"));
+    const auto running = startApplication(QStringLiteral("ScreenTaker"));
+    answerBoxes({QMessageBox::Cancel});
+    WindowUnderTest under;
+    QVERIFY(under.show());
+    QTest::mouseClick(under.select, Qt::LeftButton);
+    QVERIFY(press(under));
+    QCOMPARE(boxTexts.size(), 1);
+    QCOMPARE(under.list->count(), 2);
+    QCOMPARE(under.checkedRows(), 0);
+    QVERIFY(!under.uninstall->isEnabled());
+    QVERIFY(!under.deleteSettings->isEnabled());
+    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")), QStringList());
+    QCOMPARE(startsOf(QStringLiteral("Tessera")), QStringList());
+    QVERIFY(!registry->value(QStringLiteral("UninstallMode")).isValid());
+    running->kill();
+    QVERIFY(running->waitForFinished(deadlineMs));
+}
+
+void WidgetWarningTest::closingTheWarningCountsAsCancel()
+{
+    addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
+    const auto running = startApplication(QStringLiteral("ScreenTaker"));
+    answerBoxes({QMessageBox::NoButton});
+    WindowUnderTest under({"/app", "ScreenTaker"});
+    QVERIFY(press(under));
+    QCOMPARE(boxTexts.size(), 1);
+    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")), QStringList());
+    QCOMPARE(running->state(), QProcess::Running);
+    running->kill();
+    QVERIFY(running->waitForFinished(deadlineMs));
+}
+
+void WidgetWarningTest::twoRunningApplicationsAskInRowOrder()
+{
+    addApplication(QStringLiteral("Loop Maker"), QStringLiteral("LoopMaker"));
+    addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
+    registry->addPath(QStringLiteral("LoopMaker"), QStringLiteral("C:\\Lumacraft\\Loops"));
+    registry->addPath(QStringLiteral("ScreenTaker"), QStringLiteral("C:\\Lumacraft\\Screens"));
+    const auto first = startApplication(QStringLiteral("LoopMaker"));
+    const auto second = startApplication(QStringLiteral("ScreenTaker"));
+    answerBoxes({QMessageBox::Ok, QMessageBox::Ok});
+    WindowUnderTest under;
+    under.window.changeItemsState(true);
+    QVERIFY(press(under));
+    QCOMPARE(boxTexts.size(), 2);
+    const int loops = under.rowOf(QStringLiteral("Loop Maker"));
+    QCOMPARE(loops, -1);
+    QVERIFY(boxTexts.at(0).startsWith(QStringLiteral("Loops is running.\n")));
+    QVERIFY(boxTexts.at(1).startsWith(QStringLiteral("Screens is running.\n")));
+    QVERIFY(first->state() == QProcess::NotRunning || first->waitForFinished(deadlineMs));
+    QVERIFY(second->state() == QProcess::NotRunning || second->waitForFinished(deadlineMs));
+}
+
+void WidgetWarningTest::suiteRowAsksForApplicationsThatAreNotListed()
+{
+    addApplication(suiteName, QStringLiteral("Tessera"));
+    const auto running = startApplication(QStringLiteral("WaveTuner"));
+    answerBoxes({QMessageBox::Ok});
+    WindowUnderTest under({"/app", "Tessera"});
+    QVERIFY(press(under));
+    QCOMPARE(boxTexts.size(), 1);
+    QVERIFY(running->state() == QProcess::NotRunning || running->waitForFinished(deadlineMs));
+    QCOMPARE(startsOf(QStringLiteral("Tessera")).size(), 1);
+}
+
+void WidgetWarningTest::warningNamesTheInstallFolder()
+{
+    registry->addPath(QStringLiteral("ScreenTaker"),
+                      QStringLiteral("C:\\Program Files\\Lumacraft\\Screen Taker 3\\bin\\x.exe"));
+    answerBoxes({QMessageBox::Cancel});
+    WindowUnderTest under;
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    QCOMPARE(boxTexts,
+             QStringList{QStringLiteral("Screen Taker 3 is running.\nPlease click OK to close "
+                                        "this application or click Cancel to exit.")});
+}
+
+void WidgetWarningTest::warningWithoutAPathBeginsWithIsRunning()
+{
+    answerBoxes({QMessageBox::Cancel});
+    WindowUnderTest under;
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    QCOMPARE(boxTexts.size(), 1);
+    QVERIFY(boxTexts.at(0).startsWith(QStringLiteral(" is running.\n")));
+}
+
+void WidgetWarningTest::warningOfAForeignApplicationShowsItsName()
+{
+    registry->addPath(QStringLiteral("Stranger"), QStringLiteral("C:\\Lumacraft\\Folder"));
+    answerBoxes({QMessageBox::Cancel});
+    WindowUnderTest under;
+    under.window.showWarningAndKillApp("Stranger", false);
+    QCOMPARE(boxTexts.size(), 1);
+    QVERIFY(boxTexts.at(0).startsWith(QStringLiteral("Stranger is running.\n")));
+}
+
+void WidgetWarningTest::taskkillNamesTheIdString()
+{
+    registry->addPath(QStringLiteral("ScreenTaker"), QStringLiteral("C:\\Lumacraft\\Screens"));
+    answerBoxes({QMessageBox::Ok});
+    WindowUnderTest under;
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    const auto* taskkill = under.window.findChild<QProcess*>();
+    QVERIFY(taskkill != nullptr);
+    QCOMPARE(taskkill->program(), QStringLiteral("taskkill"));
+    const QStringList expected{QStringLiteral("/IM"), QStringLiteral("ScreenTaker.exe"),
+                               QStringLiteral("/F")};
+    QCOMPARE(taskkill->arguments(), expected);
+}
+
+QTEST_MAIN(WidgetWarningTest)
+#include "widget_warning_test.moc"
