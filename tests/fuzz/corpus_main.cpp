@@ -1,42 +1,64 @@
-// Runs a fuzz entry point without a fuzzer: over every file of the folders named on the command
-// line, and over a fixed number of changed copies of each, always the same ones.
+// Runs a fuzz target without a fuzzer: over every file of the folders named on the command line,
+// and over a fixed number of changed copies of them, always the same ones. A single file may be
+// named too, to replay what a fuzzer has found.
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdio>
+#include "tests/fuzz/fuzz_support.h"
+
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <utility>
-#include <vector>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr int changedCopies = 2000;
-constexpr std::size_t largestInput = 70000;
+constexpr std::size_t changedCopies = 20000;
+constexpr std::size_t largestGrowth = 2000;
 
-Bytes changed(Bytes bytes, std::mt19937& random)
+std::vector<Bytes> readCorpus(int count, char** paths)
+{
+    std::vector<std::filesystem::path> files;
+    for (int i = 0; i < count; ++i) {
+        const std::filesystem::path path = paths[i];
+        if (!std::filesystem::is_directory(path)) {
+            files.push_back(path);
+            continue;
+        }
+        for (const auto& entry : std::filesystem::directory_iterator(path))
+            files.push_back(entry.path());
+    }
+    // Folders list their files in any order; the copies shall be the same ones everywhere.
+    std::sort(files.begin(), files.end());
+
+    std::vector<Bytes> corpus;
+    for (const std::filesystem::path& path : files) {
+        std::ifstream file(path, std::ios::binary);
+        corpus.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+        if (!file.is_open()) {
+            std::fprintf(stderr, "%s cannot be read\n", path.c_str());
+            std::exit(1);
+        }
+    }
+    return corpus;
+}
+
+Bytes changed(Bytes bytes, const Bytes& other, std::mt19937& random)
 {
     const auto below = [&](std::size_t bound) { return random() % bound; };
     switch (below(4)) {
     case 0:
-        bytes.resize(below(largestInput), static_cast<std::uint8_t>(random()));
+        bytes.resize(below(largestGrowth), static_cast<std::uint8_t>(random()));
         break;
     case 1:
         bytes.resize(below(bytes.size() + 1));
         break;
-    case 2: {
-        Bytes doubled = bytes;
-        doubled.resize(bytes.size() / 2);
-        doubled.insert(doubled.end(), bytes.begin(), bytes.end());
-        bytes = std::move(doubled);
+    case 2:
+        bytes.resize(below(bytes.size() + 1));
+        bytes.insert(bytes.end(), other.begin(), other.end());
         break;
-    }
     default:
         break;
     }
@@ -49,20 +71,20 @@ Bytes changed(Bytes bytes, std::mt19937& random)
 
 int main(int argc, char** argv)
 {
-    int inputs = 0;
-    std::mt19937 random(20260101);
-    for (int i = 1; i < argc; ++i) {
-        for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
-            std::ifstream file(entry.path(), std::ios::binary);
-            const Bytes bytes{std::istreambuf_iterator<char>(file), {}};
-            LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
-            ++inputs;
-            for (int copy = 0; copy < changedCopies; ++copy, ++inputs) {
-                const Bytes input = changed(bytes, random);
-                LLVMFuzzerTestOneInput(input.data(), input.size());
-            }
-        }
+    const std::vector<Bytes> corpus = readCorpus(argc - 1, argv + 1);
+    if (corpus.empty()) {
+        std::fprintf(stderr, "no inputs\n");
+        return 1;
     }
-    std::printf("%d inputs\n", inputs);
-    return inputs > 0 ? 0 : 1;
+    for (const Bytes& input : corpus)
+        LLVMFuzzerTestOneInput(input.data(), input.size());
+
+    std::mt19937 random(20260101);
+    for (std::size_t copy = 0; copy < changedCopies; ++copy) {
+        const Bytes input =
+            changed(corpus[copy % corpus.size()], corpus[random() % corpus.size()], random);
+        LLVMFuzzerTestOneInput(input.data(), input.size());
+    }
+    std::printf("%zu files and %zu changed copies\n", corpus.size(), changedCopies);
+    return 0;
 }

@@ -1,71 +1,77 @@
-// Arbitrary bytes at the pipe: reads them as request and as answer, acts on the text as the first
-// copy would, and checks what must hold for any input.
+// Arbitrary bytes at the pipe: reads them as request and as answer, and writes what was read into a
+// frame again. Bytes 1 and 2 also name the length of one more text to write, so that the largest
+// frames are reached by small inputs.
 
+#include "tests/fuzz/fuzz_support.h"
 #include "ui/common/sys/ipc_commands.h"
 #include "ui/common/sys/pipe_frame.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-#include <vector>
+#include <array>
 
 namespace {
 
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
+using fuzz::require;
 
-void checkPlan(std::string_view text)
-{
-    // As the window reads it: Latin-1.
-    std::u16string message;
-    for (const char byte : text)
-        message += static_cast<char16_t>(static_cast<std::uint8_t>(byte));
-    const sys::MessagePlan plan = sys::planForMessage(message);
+// The channel's buffers are of exactly this size.
+std::array<std::uint8_t, sys::largestFrame> buffer;
 
-    require(sys::bringsWindowUp(text) == (plan.windowAction == sys::WindowAction::restore));
-    require(plan.rest.size() <= message.size());
-    require(plan.rest.empty() || plan.answer == sys::AnswerSource::hook);
-    if (plan.windowAction == sys::WindowAction::minimize)
-        require(plan.answer == sys::AnswerSource::none);
+// Each byte counts as a signed number.
+std::uint32_t receivedPid(std::uint32_t pid)
+{
+    std::int64_t sum = 0;
+    for (unsigned i = 0; i < 4; ++i) {
+        const std::int64_t byte = pid >> (8 * i) & 0xffU;
+        sum += (byte < 128 ? byte : byte - 256) * (std::int64_t{1} << (8 * i));
+    }
+    return static_cast<std::uint32_t>(sum);
 }
 
 void checkRoundTrip(std::uint32_t pid, std::string_view text)
 {
-    std::vector<std::uint8_t> buffer(sys::largestFrame);
+    const std::uint8_t first = buffer[0];
     const std::size_t size = sys::writeFrame(buffer.data(), pid, text);
-    require((size == 0) == (text.size() > sys::largestFrameText));
-    if (size == 0)
+    require((size == 0) == (text.size() > 65526), "only a text that is too long is refused");
+    if (size == 0) {
+        require(buffer[0] == first, "a refused text leaves the buffer alone");
         return;
-    require(size == text.size() + sys::frameHeaderSize);
-    require(std::size_t{buffer[3]} * 256 + buffer[4] == size);
-    const auto read = sys::readRequest(buffer.data(), size);
-    require(read && read->text == text);
-    if (((buffer[6] | buffer[7] | buffer[8]) & 0x80) == 0)
-        require(read->pid == pid);
+    }
+    require(size == text.size() + 9, "header and text make the frame");
+    require(buffer[0] == 1 && buffer[1] == 0 && buffer[2] == 0, "type and reserved bytes");
+    require(std::size_t{buffer[3]} * 256 + buffer[4] == size, "the length is big-endian");
+
+    const auto request = sys::readRequest(buffer.data(), size);
+    require(request && request->text == text, "the text arrives");
+    require(request->pid == receivedPid(pid), "the process id arrives as receivers read it");
+    const auto answer = sys::readAnswer(buffer.data(), size);
+    require(answer.has_value() == !text.empty(), "an empty text is no answer");
+    require(!answer || *answer == text, "the answer arrives");
+}
+
+std::uint32_t plainPid(const std::uint8_t* frame)
+{
+    return std::uint32_t{frame[5]} << 24U | std::uint32_t{frame[6]} << 16U |
+           std::uint32_t{frame[7]} << 8U | std::uint32_t{frame[8]};
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     // An own block of exactly this size, so that a read past its end is seen.
     const std::vector<std::uint8_t> frame(data, data + size);
     const auto request = sys::readRequest(frame.data(), frame.size());
     const auto answer = sys::readAnswer(frame.data(), frame.size());
-    require(request.has_value() == (size >= 9));
-    require(answer.has_value() == (size >= 10));
+    require(request.has_value() == (size >= 9), "a request has a header");
+    require(answer.has_value() == (size >= 10), "an answer has a header and a text");
     if (!request)
         return 0;
-    require(request->text.size() == size - 9);
-    require(std::equal(request->text.begin(), request->text.end(), frame.begin() + 9,
-                       [](char a, std::uint8_t b) { return static_cast<std::uint8_t>(a) == b; }));
-    if (answer)
-        require(*answer == request->text);
-    checkPlan(request->text);
-    checkRoundTrip(request->pid, request->text);
+
+    const std::string text = fuzz::textOf(data + 9, size - 9);
+    require(request->text == text, "the text is all that follows the header");
+    require(request->pid == receivedPid(plainPid(data)), "each byte of the id counts as signed");
+    require(!answer || *answer == text, "answers are read like requests");
+    checkRoundTrip(plainPid(data), text);
+    checkRoundTrip(plainPid(data), std::string(std::size_t{data[1]} * 256 + data[2], 'x'));
     return 0;
 }

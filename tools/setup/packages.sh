@@ -4,6 +4,7 @@
 #
 #   tools/setup/packages.sh         for build, test and run
 #   tools/setup/packages.sh lint    for "make lint" and "make format" as well
+#   tools/setup/packages.sh fuzz    for "make fuzz" as well
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -27,6 +28,8 @@ packages=(
 )
 if [[ ${1:-} == lint ]]; then
     packages+=(clang-format clang-tidy cppcheck shellcheck codespell)
+elif [[ ${1:-} == fuzz ]]; then
+    packages+=(clang llvm libclang-rt-dev)
 fi
 
 missing=()

@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# minimise.sh: takes from build/fuzz/corpora the few inputs that reach code which the checked-in
+# ones do not, into tests/fuzz/corpora. Inputs with names of their own stay; those that a former
+# call took over are chosen anew.
+#
+#   FUZZ_TARGETS   which targets (default: all)
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+# shellcheck source=tools/fuzz/targets.sh
+source tools/fuzz/targets.sh
+
+buildFuzzTargets
+mapfile -t targets < <(fuzzTargets)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+for target in "${targets[@]}"; do
+    kept=tests/fuzz/corpora/$target
+    grown=$fuzzData/corpora/$target
+    mkdir -p "$grown" "$work/$target"
+    # libFuzzer names inputs by their SHA-1, and so can never clash with a name of our own.
+    find "$kept" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' \
+        -exec mv -t "$grown" {} +
+    cp "$kept"/* "$work/$target"
+    "$(fuzzProgram "$target")" -merge=1 "$work/$target" "$grown" >"$work/$target.log" 2>&1
+    find "$work/$target" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' \
+        -exec cp -t "$kept" {} +
+    echo "$target: $(find "$kept" -type f | wc -l) inputs," \
+        "$(find "$kept" -type f -printf '%s\n' | awk '{ n += $1 } END { print n + 0 }') bytes"
+done
