@@ -25,7 +25,7 @@ using namespace ipcbench;
 
 constexpr DWORD longestRun = 600000; // ms
 constexpr int turns = 4;
-constexpr int starts = 15;
+constexpr int starts = 1;
 
 class Echo : public IMessageFromOtherProcess
 {

@@ -6,7 +6,7 @@ namespace stats {
 namespace {
 
 // "pid" belongs to the suite's web shop; no desktop application has a value for it.
-constexpr std::string_view bodyTemplate =
+constexpr std::string_view bodyText =
     R"({"guid":"{GUID}","country_id":"{COUNTRY_ID}","pid":"","adv_type":"{ADVTYPE}",)"
     R"("camp_type":"{CAMPTYPE}","appid":"{APPID}","ver":"{VER}","event_type":"{EVENT_TYPE}",)"
     R"("event_number":"{EVENT_NUMBER}","src":"{SRC}","info_type":"{INFO_TYPE}",)"
@@ -18,6 +18,7 @@ constexpr std::string_view bodyTemplate =
 
 std::string buildEventBody(const TemplateParams& shared, const EventTexts& texts)
 {
+    static const TextTemplate bodyTemplate(bodyText);
     TemplateParams params = shared;
     params.set({{"SRC", texts.src}, {"EVENT_TYPE", texts.eventType}}, false);
     params.set({{"INFO_TYPE", texts.infoType}, {"INFO", texts.info}}, false);

@@ -1,41 +1,39 @@
 #include "ui/common/stat/template_params.h"
 
-#include <array>
+#include <algorithm>
 
 namespace stats {
 namespace {
 
-constexpr std::array<bool, 256> makeNameBytes()
+// Takes an address back to before its last pair. Looking for any "&" first spares an event body,
+// which has none, the slow search from behind.
+void removeLastPair(std::string& text)
 {
-    std::array<bool, 256> isName{};
-    for (unsigned char byte = '0'; byte <= '9'; ++byte)
-        isName[byte] = true;
-    for (unsigned char byte = 'A'; byte <= 'Z'; ++byte)
-        isName[byte] = true;
-    for (unsigned char byte = 'a'; byte <= 'z'; ++byte)
-        isName[byte] = true;
-    isName['-'] = true;
-    isName['_'] = true;
-    return isName;
-}
-
-constexpr std::array<bool, 256> nameBytes = makeNameBytes();
-
-std::size_t endOfName(std::string_view text, std::size_t position)
-{
-    while (position < text.size() && nameBytes[static_cast<unsigned char>(text[position])])
-        ++position;
-    return position;
+    if (text.find('&') != std::string::npos)
+        text.resize(text.rfind('&'));
 }
 
 } // namespace
 
+const TemplateParams::Entry* TemplateParams::find(std::string_view name) const
+{
+    // For so few names, most of them of different length, faster than a binary search.
+    for (const Entry& entry : entries) {
+        if (entry.name == name)
+            return &entry;
+    }
+    return nullptr;
+}
+
 void TemplateParams::set(const std::string& name, const std::string& value, bool overwrite)
 {
-    if (overwrite)
-        values.insert_or_assign(name, value);
-    else
-        values.emplace(name, value);
+    const auto place = std::lower_bound(
+        entries.begin(), entries.end(), name,
+        [](const Entry& entry, const std::string& key) { return entry.name < key; });
+    if (place == entries.end() || place->name != name)
+        entries.insert(place, {name, value});
+    else if (overwrite)
+        place->value = value;
 }
 
 void TemplateParams::set(const std::vector<std::pair<std::string, std::string>>& pairs,
@@ -47,44 +45,34 @@ void TemplateParams::set(const std::vector<std::pair<std::string, std::string>>&
 
 std::string TemplateParams::get(const std::string& name) const
 {
-    const auto found = values.find(name);
-    return found == values.end() ? std::string() : found->second;
+    const Entry* const entry = find(name);
+    return entry != nullptr ? entry->value : std::string();
+}
+
+TemplateParams::Expansion TemplateParams::expand(const TextTemplate& textTemplate,
+                                                 bool dropUnknown) const
+{
+    Expansion result;
+    std::string& text = result.text;
+    text.reserve(2 * textTemplate.length());
+    for (std::size_t index = 0; index < textTemplate.placeholderCount(); ++index) {
+        text += textTemplate.literalBefore(index);
+        const Entry* const entry = find(textTemplate.name(index));
+        if (entry != nullptr) {
+            text += entry->value;
+        } else if (!dropUnknown) {
+            ++result.unresolvedCount;
+            removeLastPair(text);
+        }
+    }
+    text += textTemplate.rest();
+    return result;
 }
 
 TemplateParams::Expansion TemplateParams::expand(std::string_view templateText,
                                                  bool dropUnknown) const
 {
-    Expansion result;
-    std::string& text = result.text;
-    text.reserve(2 * templateText.size());
-
-    std::size_t literalStart = 0;
-    std::size_t scanFrom = 0;
-    for (;;) {
-        const std::size_t brace = templateText.find('{', scanFrom);
-        if (brace == std::string_view::npos)
-            break;
-        const std::size_t nameStart = brace + 1;
-        const std::size_t nameEnd = endOfName(templateText, nameStart);
-        scanFrom = nameEnd;
-        if (nameEnd == nameStart || nameEnd == templateText.size() || templateText[nameEnd] != '}')
-            continue;
-
-        text.append(templateText, literalStart, brace - literalStart);
-        scanFrom = nameEnd + 1;
-        literalStart = scanFrom;
-        const auto found = values.find(templateText.substr(nameStart, nameEnd - nameStart));
-        if (found != values.end()) {
-            text.append(found->second);
-        } else if (!dropUnknown) {
-            ++result.unresolvedCount;
-            const std::size_t lastPair = text.rfind('&');
-            if (lastPair != std::string::npos)
-                text.resize(lastPair);
-        }
-    }
-    text.append(templateText, literalStart);
-    return result;
+    return expand(TextTemplate(templateText), dropUnknown);
 }
 
 } // namespace stats

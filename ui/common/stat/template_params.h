@@ -1,6 +1,7 @@
 #pragma once
 
-#include <map>
+#include "ui/common/stat/text_template.h"
+
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,15 +29,25 @@ public:
     // The value of the name, empty when there is none.
     std::string get(const std::string& name) const;
 
-    // Replaces every {NAME} of the template, where NAME is one or more ASCII letters, digits, "-"
-    // and "_"; braces around anything else are literal text. A name without a value vanishes when
-    // `dropUnknown` is true. Otherwise it counts as unresolved and takes the output back to its
-    // last "&", so that an address loses "&key={NAME}" as a whole; an output without "&" stays.
-    // Values are inserted verbatim, and an "&" inside one counts like any other.
+    // Replaces every placeholder by its value. A name without a value vanishes when `dropUnknown`
+    // is true. Otherwise it counts as unresolved and takes the output back to its last "&", so
+    // that an address loses "&key={NAME}" as a whole; an output without "&" stays. Values are
+    // inserted verbatim, and an "&" inside one counts like any other.
+    Expansion expand(const TextTemplate& textTemplate, bool dropUnknown) const;
     Expansion expand(std::string_view templateText, bool dropUnknown) const;
 
 private:
-    std::map<std::string, std::string, std::less<>> values;
+    struct Entry
+    {
+        std::string name;
+        std::string value;
+    };
+
+    const Entry* find(std::string_view name) const;
+
+    // In the order of the names' bytes. A set holds some twenty names and is copied for every
+    // event: one block of memory serves that better than a tree.
+    std::vector<Entry> entries;
 };
 
 } // namespace stats

@@ -1,0 +1,121 @@
+#!/usr/bin/env python3
+"""Runs host_bench and prints its medians beside those of the other libraries, as Markdown.
+
+    report.py HOST_BENCH [REPETITIONS]
+
+A ratio above 1 says how many times faster ours is. Repetitions of all benchmarks are mixed, so that
+a busy moment of the machine does not fall on one of them only.
+"""
+
+import json
+import os
+import subprocess
+import sys
+from typing import Dict, List, Optional, Tuple
+
+Medians = Dict[str, float]
+Row = Tuple[str, ...]
+
+
+def measure(program: str, repetitions: int) -> Medians:
+    """Median processor time in nanoseconds by benchmark name."""
+    done = subprocess.run(
+        [program, "--benchmark_format=json", f"--benchmark_repetitions={repetitions}",
+         "--benchmark_report_aggregates_only=true", "--benchmark_enable_random_interleaving=true",
+         "--benchmark_min_time=0.1"],
+        check=True, stdout=subprocess.PIPE)
+    medians = {}
+    for entry in json.loads(done.stdout)["benchmarks"]:
+        if entry["aggregate_name"] == "median":
+            name = entry["run_name"].replace("/manual_time", "").split("/iterations:")[0]
+            scale = {"ns": 1, "us": 1e3, "ms": 1e6}[entry["time_unit"]]
+            # The machine may be busy with other things; a manual time is real by nature.
+            kind = "real_time" if "manual_time" in entry["run_name"] else "cpu_time"
+            medians[name] = entry[kind] * scale
+    return medians
+
+
+def duration(nanoseconds: Optional[float]) -> str:
+    if nanoseconds is None:
+        return "-"
+    for unit, size in (("ms", 1e6), ("us", 1e3)):
+        if nanoseconds >= size:
+            return f"{nanoseconds / size:.3g} {unit}"
+    return f"{nanoseconds:.3g} ns"
+
+
+def table(title: str, head: Row, rows: List[Row]) -> None:
+    print(f"\n#### {title}\n")
+    for line in (head, tuple("---" for _ in head), *rows):
+        print("| " + " | ".join(line) + " |")
+
+
+def verdict(ratio: float, goal: float) -> str:
+    return f"{ratio:.2f}" + (" (goal met)" if ratio >= goal else f" (goal {goal:g} missed)")
+
+
+def report_encoding(medians: Medians) -> None:
+    rivals = ("Curl", "QByteArray", "QUrl")
+    rows = []
+    for copies in (1, 10, 100):
+        ours = medians[f"urlEncodeOurs/{copies}"]
+        times = [medians[f"urlEncode{rival}/{copies}"] for rival in rivals]
+        rows.append((f"{copies} event(s)", duration(ours), *map(duration, times),
+                     verdict(times[0] / ours, 8)))
+    table("Form encoding", ("text", "urlEncode", "curl_easy_escape",
+                            "QByteArray::toPercentEncoding", "QUrl::toPercentEncoding",
+                            "curl_easy_escape / ours, goal 8"), rows)
+
+
+def report_expansion(medians: Medians) -> None:
+    floor = medians["expansionConcatenation"]
+    rows = []
+    for name, work in (("taken apart beforehand", "expansion"),
+                       ("read every time", "readingExpansion")):
+        ours, *others = (medians[work + library] for library in ("Ours", "Ctemplate", "Mustache"))
+        rows.append((name, duration(ours), *map(duration, others), duration(floor),
+                     verdict(min(others) / ours, 5), verdict(floor / ours, 0.5)))
+    table("Expansion of one event body",
+          ("template", "ours", "ctemplate", "Mustache (kainjow)", "concatenation",
+           "best library / ours, goal 5", "concatenation / ours, goal 0.5"), rows)
+
+
+def report_config(medians: Medians, work: str, title: str, orders: Dict[int, str],
+                  goals: Dict[int, float]) -> None:
+    libraries = ("Ours", "SimpleIni", "Inih", "QSettings")
+    rows = []
+    for order, name in orders.items():
+        for keys in (100, 10_000, 100_000):
+            times = [medians.get(f"{work}{library}/{keys}/{order}") for library in libraries]
+            ratio = min(time for time in times[1:] if time is not None) / times[0]
+            rows.append((name, f"{keys:,}", *map(duration, times),
+                         verdict(ratio, goals[order]) if goals else f"{ratio:.2f}",
+                         duration(times[0] / keys)))
+    table(title, ("order of the lines", "keys", "ours", "SimpleIni", "inih", "QSettings",
+                  "fastest other / ours", "ours for each key"), rows)
+
+
+def report_sending(medians: Medians) -> None:
+    table("sendEvent on the calling thread",
+          ("building the body alone", "worker busy", "worker to be started"),
+          [(duration(medians["eventBody"]), duration(medians["sendEventToABusyWorker"]),
+            duration(medians["sendEventToAnIdleWorker"]))])
+
+
+def main() -> None:
+    program = sys.argv[1]
+    repetitions = int(sys.argv[2]) if len(sys.argv) > 2 else 9
+    medians = measure(program, repetitions)
+    print(f"Medians of {repetitions} repetitions, {os.cpu_count()} processors, load "
+          f"{os.getloadavg()[0]:.1f}")
+    report_encoding(medians)
+    report_expansion(medians)
+    report_config(medians, "parse", "Reading a settings file", {0: "ascending", 1: "shuffled"},
+                  {0: 3.0, 1: 1.0})
+    report_config(medians, "lookUp", "Looking one key up", {0: "ascending"}, {})
+    report_config(medians, "write", "Writing a settings file", {0: "ascending"}, {})
+    report_sending(medians)
+
+
+if __name__ == "__main__":
+    main()
