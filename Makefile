@@ -3,7 +3,7 @@
 
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test stress fuzz lint format clean
+.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test stress package fuzz lint format clean
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-11s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -41,6 +41,9 @@ test: setup ## build and run every test, host and Windows
 
 stress: build ## run the long variants of the tests (minutes)
 	@ctest --preset windows-cross --no-tests=error -L stress
+
+package: build ## pack the program, its notices and sums: ZIPs in build/package/
+	@tools/package/package
 
 fuzz: ## run each fuzz target for FUZZ_SECONDS (60) under sanitizers
 	@tools/fuzz/run.sh

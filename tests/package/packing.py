@@ -1,0 +1,56 @@
+"""Runs tools/package/package for a test, and unpacks what it made."""
+
+import os
+import shutil
+import subprocess
+import tempfile
+import unittest
+import zipfile
+from pathlib import Path
+from typing import Dict, Optional
+
+REPOSITORY = Path(__file__).resolve().parents[2]
+BUILD = Path(os.environ.get("TESSERA_BUILD_DIR", REPOSITORY / "build" / "windows"))
+SOURCE_DATE = 1767323045  # 2026-01-02 03:04:05 UTC
+DEADLINE = 300
+
+
+def pack(output: Path, build: Path = BUILD, repository: Path = REPOSITORY,
+         environment: Optional[Dict[str, str]] = None) -> subprocess.CompletedProcess:
+    """The finished call; `environment` is added to, or with None as a value taken from, ours."""
+    merged = {**os.environ, "SOURCE_DATE_EPOCH": str(SOURCE_DATE), "TESSERA_SIGN_COMMAND": "",
+              **(environment or {})}
+    return subprocess.run(
+        [repository / "tools" / "package" / "package", "--build-dir", build, "--output", output],
+        env={name: value for name, value in merged.items() if value is not None},
+        stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, timeout=DEADLINE, check=False)
+
+
+def only(folder: Path, pattern: str) -> Path:
+    found = list(folder.glob(pattern))
+    assert len(found) == 1, (pattern, found)
+    return found[0]
+
+
+def unpack(archive: Path, folder: Path) -> Path:
+    """As a person would; returns the one folder that is in the archive."""
+    folder.mkdir(parents=True, exist_ok=True)
+    with zipfile.ZipFile(archive) as packed:
+        packed.extractall(folder)
+        names = {name.split("/")[0] for name in packed.namelist()}
+        # ZipFile leaves the permissions out.
+        for entry in packed.infolist():
+            (folder / entry.filename).chmod(entry.external_attr >> 16 & 0o777)
+    assert len(names) == 1, names
+    return folder / names.pop()
+
+
+class ScratchTestCase(unittest.TestCase):
+    """Each test has a folder of its own."""
+
+    def setUp(self):
+        self.scratch = Path(tempfile.mkdtemp(prefix="tessera-package-test-"))
+        self.addCleanup(shutil.rmtree, self.scratch)
+
+    def assert_packed(self, result: subprocess.CompletedProcess):
+        self.assertEqual(result.returncode, 0, result.stdout)

@@ -1,0 +1,168 @@
+"""What is in the packages."""
+
+import hashlib
+import json
+import re
+import stat
+import subprocess
+import zipfile
+from pathlib import Path
+
+from packing import BUILD, REPOSITORY, SOURCE_DATE, ScratchTestCase, only, pack, unpack
+
+TABLE = json.loads((REPOSITORY / "packaging" / "components.json").read_text(encoding="utf-8"))
+
+# Members of an import library, which hold addresses of a Windows DLL and no code of their own.
+IMPORT_MEMBER = re.compile(r"lib\w+?(s\d{5}|[ht])\.o")
+
+
+def text_of(file: Path) -> str:
+    return file.read_text(encoding="utf-8-sig")
+
+
+class Package(ScratchTestCase):
+
+    def setUp(self):
+        super().setUp()
+        self.assert_packed(pack(self.scratch / "out"))
+        self.main = only(self.scratch / "out", "*-windows-x64.zip")
+        self.relink = only(self.scratch / "out", "*-relink.zip")
+
+    def unpacked(self) -> Path:
+        return unpack(self.main, self.scratch / "main")
+
+    def test_holds_the_built_program_its_licence_notices_sums_and_components(self):
+        folder = self.unpacked()
+        self.assertEqual(folder.name, self.main.name.replace("-windows-x64.zip", ""))
+        self.assertEqual(sorted(file.name for file in folder.iterdir()),
+                         ["LICENSE.txt", "SHA256SUMS", "THIRD-PARTY-NOTICES.txt", "Uninstall.exe",
+                          "components.cdx.json", "licences"])
+        self.assertEqual((folder / "Uninstall.exe").read_bytes(),
+                         (BUILD / "Uninstall.exe").read_bytes())
+        self.assertEqual(text_of(folder / "LICENSE.txt"),
+                         (REPOSITORY / "LICENSE").read_text(encoding="utf-8"))
+
+    def test_has_sums_of_every_file_that_sha256sum_accepts(self):
+        folder = self.unpacked()
+        listed = (folder / "SHA256SUMS").read_text(encoding="utf-8").splitlines()
+        files = sorted(str(file.relative_to(folder)) for file in folder.rglob("*")
+                       if file.is_file() and file.name != "SHA256SUMS")
+        self.assertEqual([line[66:] for line in listed], files)
+        for place in (folder, self.scratch / "out"):
+            subprocess.run(["sha256sum", "--check", "--strict", "SHA256SUMS"], cwd=place,
+                           check=True, stdout=subprocess.PIPE)
+
+    def test_is_sorted_dated_by_the_sources_and_has_fixed_permissions(self):
+        for archive in (self.main, self.relink):
+            with zipfile.ZipFile(archive) as packed:
+                names = packed.namelist()
+                self.assertEqual(names, sorted(names))
+                for entry in packed.infolist():
+                    self.assertEqual(entry.date_time, (2026, 1, 2, 3, 4, 4), entry.filename)
+                    executable = entry.filename.endswith((".exe", ".sh")) and \
+                        not entry.filename.endswith(("common.sh", "recipes/qt.sh"))
+                    self.assertEqual(stat.filemode(entry.external_attr >> 16),
+                                     "-rwxr-xr-x" if executable else "-rw-r--r--", entry.filename)
+
+    def test_is_dated_by_the_last_commit_when_nothing_else_is_asked_for(self):
+        committed = subprocess.run(["git", "log", "-1", "--format=%ct"], cwd=REPOSITORY, text=True,
+                                   stdout=subprocess.PIPE, check=True).stdout.strip()
+        for environment in ({"SOURCE_DATE_EPOCH": None}, {"SOURCE_DATE_EPOCH": committed}):
+            output = self.scratch / f"dated{len(environment)}{environment['SOURCE_DATE_EPOCH']}"
+            self.assert_packed(pack(output, environment=environment))
+        first, second = sorted(self.scratch.glob("dated*"))
+        self.assertEqual((first / "SHA256SUMS").read_bytes(),
+                         (second / "SHA256SUMS").read_bytes())
+
+    def test_names_every_component_with_version_licence_and_text(self):
+        folder = self.unpacked()
+        notices = text_of(folder / "THIRD-PARTY-NOTICES.txt")
+        named = set(re.findall(r"licences/([\w.-]+\.txt)", notices))
+        self.assertEqual(named, {file.name for file in (folder / "licences").iterdir()})
+        for file in (folder / "licences").iterdir():
+            self.assertGreater(len(text_of(file)), 300, file.name)
+        for entry in TABLE["linked"] + TABLE["inside Qt"]["parts"]:
+            self.assertIn(entry["name"], " ".join(notices.split()))
+            self.assertIn(f"licence: {entry['licence']}\n", notices)
+        for phrase in ("GNU LESSER GENERAL PUBLIC LICENSE", "Version 3"):
+            self.assertIn(phrase, text_of(folder / "licences" / "LGPL-3.0.txt"))
+        self.assertIn("GCC RUNTIME LIBRARY EXCEPTION", text_of(folder / "licences" / "gcc.txt"))
+        version = re.search(r"qtbase-opensource-src (5\.\d+\.\d+)", notices)
+        self.assertIsNotNone(version)
+        self.assertIn(f"qt-{version[1]}-", (BUILD / "CMakeCache.txt").read_text(encoding="utf-8"))
+
+    def test_lists_components_with_versions_and_the_hashes_of_what_was_linked(self):
+        folder = self.unpacked()
+        document = json.loads((folder / "components.cdx.json").read_text(encoding="utf-8"))
+        self.assertEqual((document["bomFormat"], document["specVersion"]), ("CycloneDX", "1.5"))
+        self.assertEqual(document["metadata"]["timestamp"], "2026-01-02T03:04:05Z")
+        program = document["metadata"]["component"]
+        self.assertEqual(program["hashes"][0]["content"],
+                         hashlib.sha256((folder / "Uninstall.exe").read_bytes()).hexdigest())
+        entries = {entry["bom-ref"]: entry for entry in document["components"]}
+        self.assertEqual(len(entries), len(document["components"]))
+        for entry in TABLE["linked"]:
+            self.assertRegex(entries[entry["id"]]["version"], r"^\d+\.\d+")
+            self.assertTrue(entries[entry["id"]]["purl"].startswith("pkg:deb/debian/"))
+        curl = entries["curl"]["components"][0]
+        prefix = re.search(r"^CURL_DIR:PATH=(.*)/lib/cmake/CURL$",
+                           (BUILD / "CMakeCache.txt").read_text(encoding="utf-8"), re.MULTILINE)[1]
+        self.assertEqual(curl["hashes"][0]["content"],
+                         hashlib.sha256((Path(prefix) / "lib" / "libcurl.a").read_bytes())
+                         .hexdigest())
+        depended = {reference for entry in document["dependencies"]
+                    for reference in entry["dependsOn"]}
+        self.assertEqual(depended, set(entries))
+
+    def test_relinks_to_the_same_program_from_which_the_notices_leave_nothing_out(self):
+        folder = unpack(self.relink, self.scratch / "with blanks" / "relink")
+        self.assertIn("qtbase-opensource-src=5.", text_of(folder / "README.txt"))
+        linker = self.scratch / "linker"
+        linker.write_text("#!/bin/sh\nexec x86_64-w64-mingw32-g++-posix \"$@\" "
+                          f"-Wl,-Map,{self.scratch}/map\n", encoding="utf-8")
+        linker.chmod(0o755)
+        prefix = re.search(r"^Qt5_DIR:PATH=(.*)/lib/cmake/Qt5$",
+                           (BUILD / "CMakeCache.txt").read_text(encoding="utf-8"), re.MULTILINE)[1]
+        subprocess.run([folder / "relink.sh", prefix], env={"CXX": linker, "PATH": "/usr/bin:/bin"},
+                       check=True, stdout=subprocess.PIPE)
+        self.assertTrue((folder / "Uninstall.exe").read_bytes() ==
+                        (BUILD / "Uninstall.exe").read_bytes())
+
+        # The linker's own account of what it took from which archive.
+        linked = (self.scratch / "map").read_text(encoding="utf-8", errors="replace")
+        linked = linked[:linked.index("Linker script and memory map")]
+        members = {(Path(archive).name, member) for archive, member in
+                   re.findall(r"^(\S+\.a)\((\S+)\)", linked, re.MULTILINE)}
+        self.assertGreater(len(members), 500)
+        with zipfile.ZipFile(self.main) as packed:
+            document = json.loads(packed.read(only_name(packed, "components.cdx.json")))
+        accounted = {archive["name"] for entry in document["components"]
+                     for archive in entry.get("components", [])}
+        own = {file.name for file in (folder / "objects").glob("*-lib*.a")}
+        unaccounted = {f"{archive}({member})" for archive, member in members
+                       if archive not in accounted | own
+                       and not IMPORT_MEMBER.fullmatch(member)}
+        self.assertEqual(unaccounted, set())
+        taken = {f"{archive}({member})" for archive, member in members}
+        self.assertEqual([part["name"] for part in TABLE["inside Qt"]["parts"]
+                          if part["member"] not in taken], [])
+
+
+def only_name(packed: zipfile.ZipFile, end: str) -> str:
+    return next(name for name in packed.namelist() if name.endswith(end))
+
+
+class Packaging(ScratchTestCase):
+
+    def test_without_a_build_says_so(self):
+        result = pack(self.scratch / "out", build=self.scratch)
+        self.assertEqual(result.returncode, 1)
+        self.assertEqual(result.stdout, f"package: {self.scratch} holds no built program; "
+                                        "run \"make build\" first\n")
+
+    def test_stops_at_a_date_that_a_zip_cannot_hold(self):
+        for date, complaint in (("5", "before 1980"), ("soon", "set SOURCE_DATE_EPOCH")):
+            result = pack(self.scratch / "out", environment={"SOURCE_DATE_EPOCH": date})
+            self.assertEqual(result.returncode, 1)
+            self.assertIn(complaint, result.stdout)
+            self.assertFalse((self.scratch / "out").exists())

@@ -1,0 +1,47 @@
+"""The packaged program, unpacked where people unpack things."""
+
+from pathlib import PureWindowsPath
+
+from harness.case import SuiteTestCase
+from applications import AWKWARD_FOLDER, PARTNER, SECOND_RUNNING
+from packing import only, pack, unpack
+
+# Blanks, a German letter, an en dash and Chinese letters: the last two are in no common ANSI page.
+FOLDER = PureWindowsPath("C:/users/Public/Größere Downloads – 卸载")
+
+
+class PackagedProgram(SuiteTestCase):
+
+    def unpacked_suite(self, chosen):
+        suite = self.install(chosen)
+        result = pack(self.scratch / "package")
+        self.assertEqual(result.returncode, 0, result.stdout)
+        folder = unpack(only(self.scratch / "package", "*-windows-x64.zip"),
+                        self.prefix.unix_path(FOLDER))
+        suite.program_folder = FOLDER / folder.name
+        return suite
+
+    def test_shows_its_window_and_closes_with_code_0(self):
+        suite = self.unpacked_suite([])
+        program = self.start_program(suite, rows=0)
+        program.main_window.close()
+        self.assertEqual(program.exit_code(), 0)
+        self.assert_log(suite, ["-->Widget::Widget()",
+                                "Try to fill list widget (runtime brand: Lumacraft)",
+                                "~Widget()"])
+
+    def test_removes_exactly_the_checked_applications(self):
+        suite = self.unpacked_suite([AWKWARD_FOLDER, PARTNER, SECOND_RUNNING])
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        chosen = [AWKWARD_FOLDER, PARTNER]
+        self.assert_arguments(suite, {
+            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
+            for application in chosen})
+        for application in chosen:
+            self.assert_removed(suite, application, with_settings=False)
+        self.assert_untouched(suite, SECOND_RUNNING)

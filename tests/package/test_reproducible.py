@@ -1,0 +1,86 @@
+"""The same sources give the same package, whichever folder they are built in and when."""
+
+import os
+import re
+import shutil
+import subprocess
+import zipfile
+from pathlib import Path
+
+from packing import BUILD, REPOSITORY, ScratchTestCase, pack
+
+# What the first build was configured with beyond the preset; the tests and measurements are no
+# part of the program.
+_SETTING = re.compile(r"^((?:TESSERA_(?!BENCH)|CMAKE_(?:BUILD_TYPE|\w*_FLAGS|INTERPROCEDURAL)).*?)"
+                      r":(\w+)=(.*)$", re.MULTILINE)
+_LIBRARIES = re.compile(r"^(Qt5_DIR|CURL_DIR):PATH=(.*)$", re.MULTILINE)
+
+
+def settings_of(build: Path, pattern: re.Pattern):
+    return pattern.findall((build / "CMakeCache.txt").read_text(encoding="utf-8"))
+
+
+class SecondBuild(ScratchTestCase):
+    """The first build is the one under test. The second is made here from a copy of the sources,
+    in a folder with another name, at another time, and without what a compiler cache may hold of
+    the first."""
+
+    def copy_sources(self) -> Path:
+        copy = self.scratch / "another place" / "uninstaller sources"
+        names = subprocess.run(
+            ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+            cwd=REPOSITORY, stdout=subprocess.PIPE, text=True, check=True).stdout
+        for name in names.rstrip("\0").split("\0"):
+            if (REPOSITORY / name).is_file():
+                (copy / name).parent.mkdir(parents=True, exist_ok=True)
+                # With today's times: those of a fresh clone are not those of this tree either.
+                shutil.copyfile(REPOSITORY / name, copy / name)
+                shutil.copymode(REPOSITORY / name, copy / name)
+        return copy
+
+    def build(self, sources: Path) -> Path:
+        folder = sources / "build" / "windows"
+        environment = {**os.environ, "CCACHE_DISABLE": "1"}
+        settings = [f"-D{name}:{kind}={value}"
+                    for name, kind, value in settings_of(BUILD, _SETTING)]
+        for command in (
+                ["cmake", "--preset", "windows-cross", *settings, "-DBUILD_TESTING=OFF"],
+                ["nice", "cmake", "--build", folder, "-j1", "--target", "Uninstall.exe"]):
+            done = subprocess.run(command, cwd=sources, env=environment, text=True, check=False,
+                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+            self.assertEqual(done.returncode, 0, done.stdout)
+        return folder
+
+    @staticmethod
+    def contents(file: Path):
+        """What can be read in a report of differences."""
+        if file.suffix != ".zip":
+            return file.read_text(encoding="utf-8")
+        with zipfile.ZipFile(file) as packed:
+            return [(entry.filename, entry.file_size, f"{entry.CRC:08x}", entry.date_time)
+                    for entry in packed.infolist()]
+
+    def test_in_another_folder_gives_the_same_packages_byte_for_byte(self):
+        sources = self.copy_sources()
+        build = self.build(sources)
+        self.assertEqual(settings_of(build, _LIBRARIES), settings_of(BUILD, _LIBRARIES),
+                         "the build under test was made with other libraries; build it again")
+        first, second = self.scratch / "first", self.scratch / "second"
+        self.assert_packed(pack(first))
+        self.assert_packed(pack(second, build, sources))
+
+        # The programs first: their difference explains all others.
+        self.assertTrue((build / "Uninstall.exe").read_bytes() ==
+                        (BUILD / "Uninstall.exe").read_bytes(), "the programs differ")
+        names = sorted(file.name for file in first.iterdir())
+        self.assertEqual(sorted(file.name for file in second.iterdir()), names)
+        self.assertEqual(len(names), 3)
+        for name in names:
+            self.assertEqual(self.contents(second / name), self.contents(first / name))
+            self.assertTrue((first / name).read_bytes() == (second / name).read_bytes(), name)
+
+        # Nothing of where it was built is in the program.
+        program = (build / "Uninstall.exe").read_bytes()
+        for text in (str(sources), str(REPOSITORY)):
+            for encoded in (text.encode(), text.encode("utf-16-le")):
+                self.assertNotIn(encoded, program)

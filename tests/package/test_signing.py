@@ -1,0 +1,47 @@
+"""The signing command: what it gets, and what follows from how it ends."""
+
+import hashlib
+import stat
+
+from packing import BUILD, ScratchTestCase, only, pack, unpack
+
+
+class SigningCommand(ScratchTestCase):
+
+    def command(self, script: str) -> str:
+        # A blank in its path, and an argument of its own, as such commands have.
+        tool = self.scratch / "signing tool"
+        tool.write_text(f"#!/bin/sh\n{script}\n", encoding="utf-8")
+        tool.chmod(tool.stat().st_mode | stat.S_IXUSR)
+        return f"'{tool}' /sha256"
+
+    def packed_program(self) -> bytes:
+        folder = unpack(only(self.scratch / "out", "*-windows-x64.zip"), self.scratch / "unpacked")
+        program = (folder / "Uninstall.exe").read_bytes()
+        sums = (folder / "SHA256SUMS").read_text(encoding="utf-8").splitlines()
+        self.assertIn(f"{hashlib.sha256(program).hexdigest()}  Uninstall.exe", sums)
+        return program
+
+    def test_changes_the_packed_program_and_its_sum_but_not_the_built_one(self):
+        built = (BUILD / "Uninstall.exe").read_bytes()
+        command = self.command('[ "$1" = /sha256 ] && printf signed >>"$2"')
+        self.assert_packed(pack(self.scratch / "out",
+                                environment={"TESSERA_SIGN_COMMAND": command}))
+        self.assertEqual(self.packed_program(), built + b"signed")
+        self.assertEqual((BUILD / "Uninstall.exe").read_bytes(), built)
+
+    def test_is_not_needed(self):
+        for environment in ({"TESSERA_SIGN_COMMAND": None}, {"TESSERA_SIGN_COMMAND": ""}):
+            with self.subTest(environment):
+                self.assert_packed(pack(self.scratch / "out", environment=environment))
+                self.assertEqual(self.packed_program(), (BUILD / "Uninstall.exe").read_bytes())
+
+    def test_that_fails_leaves_no_package_not_even_an_older_one(self):
+        self.assert_packed(pack(self.scratch / "out"))
+        for command, complaint in ((self.command("exit 3"), "ended with code 3"),
+                                   (str(self.scratch / "missing"), "cannot be run")):
+            with self.subTest(complaint):
+                result = pack(self.scratch / "out", environment={"TESSERA_SIGN_COMMAND": command})
+                self.assertEqual(result.returncode, 1)
+                self.assertIn(complaint, result.stdout)
+                self.assertFalse((self.scratch / "out").exists())
