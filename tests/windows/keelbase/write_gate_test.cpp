@@ -68,6 +68,12 @@ bool isHeld(const std::filesystem::path& file)
     return waited;
 }
 
+// A busy machine may make one of the tries look like a wait.
+bool isFree(const std::filesystem::path& file)
+{
+    return !isHeld(file) || !isHeld(file) || !isHeld(file);
+}
+
 class WriteGates : public testing::Test
 {
 protected:
@@ -84,10 +90,7 @@ TEST_F(WriteGates, FreeGateIsEnteredAndLeft)
         EXPECT_TRUE(isHeld(file));
         gate.leave();
     }
-    WriteGate other(file);
-    other.enter();
-    EXPECT_TRUE(isHeld(file));
-    other.leave();
+    EXPECT_TRUE(isFree(file));
 }
 
 TEST_F(WriteGates, HeldGateIsWaitedForButNotForEver)
@@ -132,6 +135,7 @@ TEST_F(WriteGates, GateOfAProcessThatDiedInsideIsEntered)
     gate.enter();
     EXPECT_TRUE(isHeld(file));
     gate.leave();
+    EXPECT_TRUE(isFree(file));
 }
 
 TEST_F(WriteGates, DifferentFilesHaveDifferentGatesAndLetterCaseDoesNotCount)
