@@ -43,16 +43,7 @@ struct Server
         channel.receiver = &receiver;
     }
 
-    // createServer, until the thread serves.
-    int start()
-    {
-        int result = channel.createServer();
-        while (result == 0 && !serverTakesClients()) {
-            channel.close();
-            result = channel.createServer();
-        }
-        return result;
-    }
+    int start() { return serveForSure(channel); }
 
     Receiver receiver;
     CInterprocessCommunicationWin channel;

@@ -74,6 +74,20 @@ Bytes Stranger::transact(const Bytes& message)
     return answer;
 }
 
+int serveForSure(CInterprocessCommunicationWin& channel)
+{
+    const win32::KernelHandle never(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    int result = channel.createServer();
+    for (DWORD pause = 20; result == 0; pause *= 2) { // ms
+        WaitForSingleObject(never.get(), pause);
+        if (serverTakesClients())
+            break;
+        channel.close();
+        result = channel.createServer();
+    }
+    return result;
+}
+
 bool serverTakesClients()
 {
     {

@@ -3,6 +3,7 @@
 // The pipe as a program of other origin sees it: the platform's calls only, no class of ours.
 
 #include "tests/windows/ipc/child_process.h"
+#include "ui/common/sys/interprocess_communication_win.h"
 
 #include <cstdint>
 #include <string>
@@ -44,9 +45,13 @@ private:
 };
 
 // True when the server thread takes clients: it hangs up on a request that is too short to be
-// delivered, and then listens again. A client that comes before the thread's first wait ends the
-// thread, so tests that are about something else make sure with this one first.
+// delivered, and then listens again.
 bool serverTakesClients();
+
+// channel.createServer(), and again until the server thread takes clients. A client that comes
+// before the thread's first wait ends the thread; a test that is about something else must not be
+// that client, so the thread gets a moment first, and a longer one each time that was too short.
+int serveForSure(CInterprocessCommunicationWin& channel);
 
 // A server of one pipe instance, without the program's class.
 class StrangeServer

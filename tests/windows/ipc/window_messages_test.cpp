@@ -75,13 +75,17 @@ std::string answerTo(const std::string& text)
     return answer.get();
 }
 
+// A window whose server thread takes clients; see serveForSure.
 std::unique_ptr<Window> servingWindow()
 {
-    auto window = std::make_unique<Window>();
-    while (!serverTakesClients()) {
+    std::unique_ptr<Window> window;
+    int pause = 20; // ms
+    do {
         window.reset(); // or it would be the first copy to the next one
         window = std::make_unique<Window>();
-    }
+        QTest::qWait(pause);
+        pause *= 2;
+    } while (!serverTakesClients());
     return window;
 }
 
