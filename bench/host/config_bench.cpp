@@ -28,7 +28,7 @@ enum Order { ascending, shuffled };
 std::string keyOf(long index)
 {
     std::string digits = std::to_string(index);
-    return "WindowSetting" + std::string(6 - digits.size(), '0') + digits;
+    return "Setting" + std::string(6 - digits.size(), '0') + digits;
 }
 
 std::string textOf(benchmark::State& state)
@@ -41,7 +41,7 @@ std::string textOf(benchmark::State& state)
         std::shuffle(indices.begin(), indices.end(), std::mt19937(1));
     std::string text;
     for (const long index : indices)
-        text += keyOf(index) + "=value number " + std::to_string(index * 7919) + "\n";
+        text += keyOf(index) + "=" + std::to_string(index * 7919) + "\n";
     state.counters["keys"] = static_cast<double>(count);
     return text;
 }
@@ -125,7 +125,7 @@ void parseQSettings(benchmark::State& state)
         file.touch();
         state.ResumeTiming();
         const QSettings ini(file.name(), QSettings::IniFormat);
-        require(ini.contains("WindowSetting000000"));
+        require(ini.contains("Setting000000"));
     }
 }
 
@@ -204,7 +204,7 @@ void writeQSettings(benchmark::State& state)
     QSettings ini(file.name(), QSettings::IniFormat);
     int round = 0;
     for (auto _ : state) {
-        ini.setValue("WindowSetting000000", ++round);
+        ini.setValue("Setting000000", ++round);
         ini.sync();
     }
 }

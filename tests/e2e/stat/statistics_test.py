@@ -1,17 +1,16 @@
 """The program's statistics against a real HTTPS service behind a real proxy, under Wine."""
 
-import json
 import re
 import tempfile
 import time
 import unittest
-import urllib.parse
 from pathlib import Path
 
 from certificates import Authority
 from http_service import (answer, declared_size, header_names, reset_after_headers,
                           reset_before_headers, slow_drip, stall, truncated)
-from statistics_world import GEO_HOST, STATISTICS_HOST, LogLine, StatisticsCase
+from statistics_world import (GEO_HOST, STATISTICS_HOST, LogLine, StatisticsCase, event_of,
+                              proxy_values)
 
 GUID = re.compile(r"[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")
 DELIVERED = LogLine(7, "AppEventStat", "ui/common/stat/app_event_stat:71", "stats::sendEvent: ok")
@@ -40,14 +39,6 @@ def looked_up(country):
                    f"getOrCreateUserLocation | {country}")
 
 
-def event_of(request):
-    """The event in a request, through the standard library's form and JSON parsers."""
-    fields = urllib.parse.parse_qs(request.body.decode("utf-8"), strict_parsing=True,
-                                   keep_blank_values=True)
-    assert list(fields) == ["data"] and len(fields["data"]) == 1, fields
-    return json.loads(fields["data"][0], object_pairs_hook=dict)
-
-
 class Wire(StatisticsCase):
     """What is sent, and what is stored."""
 
@@ -56,7 +47,7 @@ class Wire(StatisticsCase):
         statistics = self.service(answer(200))
         proxy = self.proxy(statistics, geo)
         self.store_common(ClientGuid="0123-guid", EventStatEnabled=1, Location="DE",
-                          Language="\u65e5\u672c", **self.proxy_values(proxy))
+                          Language="\u65e5\u672c", **proxy_values(proxy))
         self.store_application("ClipSaver", AdvType="adv t\u00fcpe", CampType="50% [off]",
                                EventNumber=7, InstChannel="chan+nel", InstRef="http://x/?a=b;c",
                                InstType="(type)", TCBuildNum="99", Version="1.2.3.4")
@@ -85,7 +76,7 @@ class Wire(StatisticsCase):
         statistics = self.service(answer(200))
         proxy = self.proxy(statistics, geo, ("ann", "se:cret word"))
         self.store_common(EventStatEnabled=1,
-                          **self.proxy_values(proxy, "ann", "se:cret word"))
+                          **proxy_values(proxy, "ann", "se:cret word"))
         driver = self.driver()
         driver.start(61)
         driver.post("first")
@@ -117,7 +108,7 @@ class Wire(StatisticsCase):
     def test_nothing_is_sent_while_statistics_are_off(self):
         statistics = self.service(answer(200))
         proxy = self.proxy(statistics)
-        self.store_common(Location="DE", **self.proxy_values(proxy))
+        self.store_common(Location="DE", **proxy_values(proxy))
         driver = self.driver()
         driver.start()
         self.assertEqual(driver.post("x")[0], 0)
@@ -128,7 +119,7 @@ class Wire(StatisticsCase):
         statistics = self.service(answer(200))
         proxy = self.proxy(statistics)
         self.store_common(ClientGuid="g", EventStatEnabled=1, Location="DE",
-                          **self.proxy_values(proxy))
+                          **proxy_values(proxy))
         self.store_application("ClipSaver", AdvType="adv")
         driver = self.driver({"CV_DEBUG": "1", "SET_TEST_STAT_HOST": "1"})
         driver.start()
@@ -140,7 +131,7 @@ class Wire(StatisticsCase):
         statistics = self.service(answer(200))
         proxy = self.proxy(statistics)
         self.store_common(ClientGuid="g", EventStatEnabled=1, Location="DE",
-                          **self.proxy_values(proxy))
+                          **proxy_values(proxy))
         self.store_application("ClipSaver", EventNumber="not a number")
         driver = self.driver()
         driver.start()
@@ -155,7 +146,7 @@ class Wire(StatisticsCase):
         proxy = self.proxy(geo=geo)
         keys = {f"Key{index:02}": "x" * 40 for index in range(40)}
         for _ in range(20):
-            self.store_common(**keys, **self.proxy_values(proxy))
+            self.store_common(**keys, **proxy_values(proxy))
             with self.driver() as one, self.driver() as other:
                 # Both have read the file before either writes it.
                 one.ask("reread")
@@ -184,7 +175,7 @@ class Failures(StatisticsCase):
         proxy = self.proxy(self.statistics, credentials=credentials)
         user = "ann" if password else ""
         self.store_common(ClientGuid="g", EventStatEnabled=1, Location="DE",
-                          **self.proxy_values(proxy, user, password))
+                          **proxy_values(proxy, user, password))
         driver = self.driver()
         driver.start()
         return driver
@@ -265,14 +256,14 @@ class Failures(StatisticsCase):
 
     def test_a_country_from_a_404(self):
         geo = self.service(answer(404, b"nowhere"))
-        self.store_common(**self.proxy_values(self.proxy(geo=geo)))
+        self.store_common(**proxy_values(self.proxy(geo=geo)))
         self.driver().start()
         self.assertEqual(self.stored_common()["Location"], "nowhere")
         self.assertEqual(self.log(), [looked_up("nowhere")])
 
     def test_an_empty_country(self):
         geo = self.service(answer(200))
-        self.store_common(**self.proxy_values(self.proxy(geo=geo)))
+        self.store_common(**proxy_values(self.proxy(geo=geo)))
         self.driver().start()
         self.assertNotIn("Location", self.stored_common())
         self.assertEqual(self.log(), [LOOKUP_FAILED])
@@ -293,7 +284,7 @@ class Patience(StatisticsCase):
         self.statistics = self.service(behaviour)
         proxy = self.proxy(self.statistics)
         self.store_common(ClientGuid="g", EventStatEnabled=1, Location="DE",
-                          **self.proxy_values(proxy))
+                          **proxy_values(proxy))
         driver = self.driver()
         driver.start()
         return driver
@@ -331,7 +322,7 @@ class Patience(StatisticsCase):
 
     def test_a_silent_geo_service_costs_the_startup_its_timeout(self):
         geo = self.service(stall)
-        self.store_common(**self.proxy_values(self.proxy(geo=geo)))
+        self.store_common(**proxy_values(self.proxy(geo=geo)))
         self.check_bound(self.driver().start() / 1000, LOOKUP_TIMEOUT)
         self.assertEqual(self.log(), [LOOKUP_FAILED])
 

@@ -1,5 +1,6 @@
 """One Windows user's settings, the suite's two services and a proxy between them."""
 
+import json
 import os
 import queue
 import subprocess
@@ -7,6 +8,7 @@ import sys
 import tempfile
 import threading
 import unittest
+import urllib.parse
 import uuid
 from dataclasses import dataclass
 from pathlib import Path
@@ -18,7 +20,7 @@ from certificates import Authority  # noqa: E402
 from connect_proxy import ConnectProxy  # noqa: E402
 from harness import layout  # noqa: E402
 from harness.prefix import Prefix  # noqa: E402
-from http_service import HttpService  # noqa: E402
+from http_service import HttpService, Received  # noqa: E402
 
 STATISTICS_HOST = os.environ.get("TESSERA_STATS_HOST", "stats.tessera.example")
 GEO_HOST = os.environ.get("TESSERA_GEO_HOST", "geo.tessera.example")
@@ -34,6 +36,14 @@ class LogLine:
     category: str
     place: str
     text: str
+
+
+def event_of(request: Received) -> Dict[str, str]:
+    """The event in a request, through the standard library's form and JSON parsers."""
+    fields = urllib.parse.parse_qs(request.body.decode("utf-8"), strict_parsing=True,
+                                   keep_blank_values=True)
+    assert list(fields) == ["data"] and len(fields["data"]) == 1, fields
+    return json.loads(fields["data"][0], object_pairs_hook=dict)
 
 
 class Driver:
@@ -95,20 +105,66 @@ class Driver:
             raise AssertionError(f"stat_driver ended with {code}")
 
 
-class StatisticsCase(unittest.TestCase):
-    """One prefix for the class, trusting an authority of its own; fresh settings for each test."""
+class ServicesMixin:
+    """For a unittest.TestCase: services and proxies that end with the test, under certificates of
+    an authority of the class's own."""
+
+    @classmethod
+    def make_authority(cls) -> Path:
+        """To be called by setUpClass. Yields a folder that ends with the class."""
+        folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(folder.cleanup)
+        cls.authority = Authority(Path(folder.name) / "authority", "Throw-away test authority")
+        cls.server_tls = cls.authority.server_context([STATISTICS_HOST, GEO_HOST])
+        return Path(folder.name)
+
+    @classmethod
+    def trust_authority(cls, prefix: Prefix) -> None:
+        prefix.run(TRUST_ROOT, str(cls.authority.der))
+
+    def service(self, *behaviours, tls=None) -> HttpService:
+        return self.enterContext(HttpService(*behaviours, tls=tls or self.server_tls))
+
+    def proxy(self, statistics: Optional[HttpService] = None, geo: Optional[HttpService] = None,
+              credentials: Optional[Tuple[str, str]] = None) -> ConnectProxy:
+        routes = {}
+        if statistics is not None:
+            routes[f"{STATISTICS_HOST}:443"] = statistics.port
+        if geo is not None:
+            routes[f"{GEO_HOST}:443"] = geo.port
+        return self.enterContext(ConnectProxy(routes, credentials))
+
+
+def proxy_values(proxy: ConnectProxy, user: str = "", password: str = "") -> Dict[str, object]:
+    """What common.cfg says about the proxy."""
+    return {"ProxyType": 1, "ProxyAddress": "127.0.0.1", "ProxyPort": proxy.port,
+            "ProxyUser": user, "ProxyPw": password}
+
+
+def store_settings(file: Path, values: Dict[str, object]) -> None:
+    file.parent.mkdir(parents=True, exist_ok=True)
+    file.write_bytes("".join(f"{key}={values[key]}\n" for key in sorted(values)).encode())
+
+
+def stored_settings(file: Path) -> Dict[str, str]:
+    """The file's pairs; a file that is not whole is an error."""
+    text = file.read_bytes().decode()
+    assert text.endswith("\n"), text
+    pairs = [line.split("=", 1) for line in text[:-1].split("\n")]
+    assert len(pairs) == len(dict(pairs)), f"a repeated key: {text}"
+    return dict(pairs)
+
+
+class StatisticsCase(ServicesMixin, unittest.TestCase):
+    """One prefix for the class, trusting the authority; fresh settings for each test."""
 
     @classmethod
     def setUpClass(cls):
-        cls._folder = tempfile.TemporaryDirectory()
-        cls.addClassCleanup(cls._folder.cleanup)
-        base = Path(cls._folder.name)
-        cls.authority = Authority(base / "authority", "Throw-away test authority")
-        cls.server_tls = cls.authority.server_context([STATISTICS_HOST, GEO_HOST])
-        cls.prefix = Prefix(base / f"prefix-{uuid.uuid4().hex}")
+        folder = cls.make_authority()
+        cls.prefix = Prefix(folder / f"prefix-{uuid.uuid4().hex}")
         cls.addClassCleanup(cls.prefix.destroy)
         cls.prefix.create()
-        cls.prefix.run(TRUST_ROOT, str(cls.authority.der))
+        cls.trust_authority(cls.prefix)
 
     def setUp(self):
         self.settings = self.prefix.unix_path(self.prefix.settings)
@@ -120,7 +176,7 @@ class StatisticsCase(unittest.TestCase):
         return self.settings / "logs" / "stat_driver.log"
 
     def log(self) -> List[LogLine]:
-        """The log so far, without the lines of other levels than the documented ones."""
+        """The log so far."""
         if not self.log_file.exists():
             return []
         lines = []
@@ -130,51 +186,14 @@ class StatisticsCase(unittest.TestCase):
             lines.append(LogLine(int(level), category, place, text))
         return lines
 
-    # Settings
-
     def store_common(self, **values: object) -> None:
-        self._store(self.settings / "common.cfg", values)
+        store_settings(self.settings / "common.cfg", values)
 
     def store_application(self, id_string: str, **values: object) -> None:
-        self._store(self.settings / id_string / f"{id_string}.cfg", values)
-
-    @staticmethod
-    def _store(file: Path, values: Dict[str, object]) -> None:
-        file.parent.mkdir(parents=True, exist_ok=True)
-        file.write_bytes("".join(f"{key}={values[key]}\n" for key in sorted(values)).encode())
+        store_settings(self.settings / id_string / f"{id_string}.cfg", values)
 
     def stored_common(self) -> Dict[str, str]:
-        text = (self.settings / "common.cfg").read_bytes().decode()
-        self.assertTrue(text.endswith("\n"), text)
-        pairs = [line.split("=", 1) for line in text[:-1].split("\n")]
-        self.assertEqual(len(pairs), len(dict(pairs)), "a repeated key")
-        return dict(pairs)
-
-    # Services
-
-    def service(self, *behaviours, tls=None) -> HttpService:
-        service = HttpService(*behaviours, tls=tls or self.server_tls)
-        self.enterContext(service)
-        return service
-
-    def proxy(self, statistics: Optional[HttpService] = None, geo: Optional[HttpService] = None,
-              credentials: Optional[Tuple[str, str]] = None) -> ConnectProxy:
-        routes = {}
-        if statistics is not None:
-            routes[f"{STATISTICS_HOST}:443"] = statistics.port
-        if geo is not None:
-            routes[f"{GEO_HOST}:443"] = geo.port
-        proxy = ConnectProxy(routes, credentials)
-        self.enterContext(proxy)
-        return proxy
-
-    @staticmethod
-    def proxy_values(proxy: ConnectProxy, user: str = "", password: str = "") -> Dict[str, object]:
-        """What common.cfg says about the proxy."""
-        return {"ProxyType": 1, "ProxyAddress": "127.0.0.1", "ProxyPort": proxy.port,
-                "ProxyUser": user, "ProxyPw": password}
+        return stored_settings(self.settings / "common.cfg")
 
     def driver(self, environment: Optional[Dict[str, str]] = None) -> Driver:
-        driver = Driver(self.prefix, environment)
-        self.enterContext(driver)
-        return driver
+        return self.enterContext(Driver(self.prefix, environment))

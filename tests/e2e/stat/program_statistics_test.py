@@ -1,0 +1,121 @@
+"""The unmodified program's own statistics: a person removes a surveyed application."""
+
+import threading
+import unittest
+
+from http_service import answer
+from statistics_world import (ServicesMixin, event_of, proxy_values, store_settings,
+                              stored_settings)
+
+from applications import CLIP_SAVER, PARTNER, TRACK_SAVER
+from harness import screen
+from harness.case import SuiteTestCase
+from harness.suite import SURVEY_TITLE
+
+OFFER_TITLE = "Tessera (Clip|Track) Saver"
+SECOND_START_LIMIT = 10.0
+
+
+def skip_and_decline(survey):
+    """Closing the survey leads to the offer, and only then does the survey go."""
+    survey.press("alt+F4")
+    screen.wait_for_window(OFFER_TITLE).press("Escape")
+
+
+class ProgramStatistics(ServicesMixin, SuiteTestCase):
+
+    @classmethod
+    def setUpClass(cls):
+        cls.make_authority()
+
+    def setUp(self):
+        super().setUp()
+        self.trust_authority(self.prefix)
+        self.common_file = self.prefix.unix_path(self.prefix.settings / "common.cfg")
+
+    def application_file(self, application):
+        return self.prefix.unix_path(
+            self.prefix.settings / application.id_string / f"{application.id_string}.cfg")
+
+    def test_a_first_removal_reports_survey_and_offer(self):
+        geo = self.service(answer(200, b"NL"))
+        statistics = self.service(answer(200))
+        proxy = self.proxy(statistics, geo, ("ann", "secret"))
+        suite = self.install([CLIP_SAVER, TRACK_SAVER, PARTNER])
+        store_settings(self.common_file, {"EventStatEnabled": 1, "Language": "en",
+                                          **proxy_values(proxy, "ann", "secret")})
+        installed = {"AdvType": "search", "CampType": "spring", "EventNumber": 41,
+                     "InstChannel": "web", "InstRef": "http://x/?a=b", "InstType": "full",
+                     "TCBuildNum": "77", "Version": "4.2.0.17"}
+        store_settings(self.application_file(CLIP_SAVER), installed)
+        # The second surveyed application does not start the statistics anew.
+        store_settings(self.application_file(TRACK_SAVER), {"EventNumber": 500, "Version": "9"})
+
+        program = self.start_program(suite, rows=3)
+        program.main_window.toggle_row(0)
+        program.main_window.toggle_row(1)
+        program.main_window.press_uninstall()
+        surveys = program.attend({SURVEY_TITLE: skip_and_decline})
+        self.assertEqual(program.exit_code(), 0)
+        self.assertEqual(surveys, ["Uninstall Tessera Clip Saver",
+                                   "Uninstall Tessera Track Saver"])
+
+        common = stored_settings(self.common_file)
+        self.assertRegex(common["ClientGuid"], "^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")
+        self.assertEqual(common["Location"], "NL")
+        self.assertEqual([c.target for c in proxy.connects if not c.accepted], [])
+        self.assertEqual(len(geo.received), 1)
+        events = [event_of(request) for request in statistics.wait_for(8)]
+        one_survey = [("show", "uninstall_quiz"), ("show", "offer_install_ms_store"),
+                      ("close", "offer_install_ms_store"), ("click", "skip")]
+        self.assertEqual([(event["event_type"], event["src"]) for event in events],
+                         one_survey * 2)
+        self.assertEqual([event["event_number"] for event in events],
+                         [str(number) for number in range(42, 50)])
+        for event in events:
+            self.assertEqual({member: event[member] for member in (
+                "guid", "country_id", "pid", "adv_type", "camp_type", "appid", "ver", "info_type",
+                "info", "inst_type", "inst_ch", "inst_ref", "test", "tc_build_num",
+                "product_name", "id_lmc_keys")}, {
+                    "guid": common["ClientGuid"], "country_id": common["Location"], "pid": "",
+                    "adv_type": installed["AdvType"], "camp_type": installed["CampType"],
+                    "appid": "clsv", "ver": installed["Version"], "info_type": "", "info": "",
+                    "inst_type": installed["InstType"], "inst_ch": installed["InstChannel"],
+                    "inst_ref": installed["InstRef"], "test": "0",
+                    "tc_build_num": installed["TCBuildNum"], "product_name": "",
+                    "id_lmc_keys": ""})
+
+    def test_the_window_lives_while_the_country_is_awaited(self):
+        answered = threading.Event()
+
+        def hold(connection, stopping):
+            answered.wait(14.0)
+            answer(200, b"NL")(connection, stopping)
+        geo = self.service(hold)
+        suite = self.install([CLIP_SAVER, PARTNER])
+        store_settings(self.common_file, proxy_values(self.proxy(geo=geo)))
+        program = self.start_program(suite, rows=2)
+        program.main_window.toggle_row(0)
+        program.main_window.press_uninstall()
+        geo.wait_for(1)
+
+        # A second start is answered by the first one's window, or it would wait for the country.
+        second = self.prefix.start(
+            self.prefix.unix_path(suite.program_folder) / "Uninstall.exe")
+        self.assertEqual(second.wait(SECOND_START_LIMIT), 0)
+        # Clicks lead nowhere, and the window shows what it showed.
+        program.main_window.press_select_button()
+        program.main_window.settled_picture()
+        self.assertEqual(program.main_window.checked_rows(), [True, False])
+        self.assertEqual(screen.find_windows(SURVEY_TITLE), [])
+        self.assertFalse(answered.is_set())
+        answered.set()
+
+        self.assertEqual(program.press_escape_on_surveys(), ["Uninstall Tessera Clip Saver"])
+        self.assertEqual(program.exit_code(), 0)
+        self.assert_untouched(suite, PARTNER)
+        self.assertEqual(stored_settings(self.common_file)["Location"], "NL")
+
+
+if __name__ == "__main__":
+    unittest.main()
