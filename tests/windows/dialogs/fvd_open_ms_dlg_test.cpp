@@ -100,8 +100,8 @@ private slots:
 
 void FvdOpenMsDlgTest::cleanup()
 {
-    for (const char* flag : {clipSaverFlag, trackSaverFlag, clipSaverExitFlag})
-        fs::commonConfig().setValue(flag, "");
+    // A key that is set to nothing is not the same as one that is absent.
+    fs::commonConfig().setFileName(L"");
 }
 
 void FvdOpenMsDlgTest::formHasItsNamesSizesAndStyleSheets()
@@ -148,10 +148,9 @@ void FvdOpenMsDlgTest::layoutsHaveTheirContentsMarginsAndSpacing_data()
     row("horizontalLayout_6", "outerWidget", 0, {8, 0, 4, 0}, "allTextsWidget");
     row("verticalLayout_6", "allTextsWidget", 5, {0, 0, 0, 7}, "widget bottomInfo");
     row("verticalLayout_2", "widget", 10, {}, "info1Wgt info2Wgt info3Wgt info4Wgt");
-    row("info1Layout", "info1Wgt", 5, {}, "info1Img info1Label");
-    row("info2Layout", "info2Wgt", 5, {}, "info2Img info2Label");
-    row("info3Layout", "info3Wgt", 5, {}, "info3Img info3Label");
-    row("info4Layout", "info4Wgt", 5, {}, "info4Img info4Label");
+    for (const QByteArray& info :
+         {QByteArray("info1"), QByteArray("info2"), QByteArray("info3"), QByteArray("info4")})
+        row(info + "Layout", info + "Wgt", 5, {}, info + "Img " + info + "Label");
 }
 
 void FvdOpenMsDlgTest::layoutsHaveTheirContentsMarginsAndSpacing()
