@@ -3,7 +3,7 @@
 
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test stress package fuzz lint format clean
+.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test stress package bench fuzz lint format clean
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-11s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -44,6 +44,10 @@ stress: build ## run the long variants of the tests (minutes)
 
 package: build ## pack the program, its notices and sums: ZIPs in build/package/
 	@tools/package/package
+
+bench: setup ## measure the logic and the message channel beside others (docs/performance.md)
+	@bench/host/run.sh
+	@bench/ipc/run.sh
 
 fuzz: ## run each fuzz target for FUZZ_SECONDS (60) under sanitizers
 	@tools/fuzz/run.sh

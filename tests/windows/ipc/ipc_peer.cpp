@@ -5,8 +5,9 @@
 //       code: what createServer returned. Answers are described at ScriptedReceiver.
 //   ipc_peer send TEXT
 //       sends TEXT and prints the answer. Exit code: what connectToServer or sendMessage returned.
-//   ipc_peer claim NAME
-//       takes the mutex, signals NAME_first or NAME_later, and ends on NAME_stop.
+//   ipc_peer claim NAME [forget]
+//       takes the mutex, signals NAME_first or NAME_later, and ends on NAME_stop. With "forget" its
+//       channel is gone before it signals.
 //
 // With TESSERA_IPC_UNINSTALLER=NAME in its environment it is an application's uninstaller that
 // takes its time, whatever its arguments: signals NAME_removing and ends on NAME_removed.
@@ -19,6 +20,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -159,12 +161,15 @@ int send(const std::string& text)
     return result;
 }
 
-int claim(const std::wstring& name)
+int claim(const std::wstring& name, bool forget)
 {
     const NamedEvent stop(name + L"_stop");
-    CInterprocessCommunicationWin channel;
-    channel.claimMutex();
-    NamedEvent(name + (channel.firstInstance ? L"_first" : L"_later")).set();
+    auto channel = std::make_unique<CInterprocessCommunicationWin>();
+    channel->claimMutex();
+    const NamedEvent role(name + (channel->firstInstance ? L"_first" : L"_later"));
+    if (forget)
+        channel.reset();
+    role.set();
     stop.wait(longestRun);
     return 0;
 }
@@ -204,6 +209,6 @@ int main(int argc, char** argv)
     if (mode == "serve")
         return serve(name, argc > 3);
     if (mode == "claim")
-        return claim(name);
+        return claim(name, argc > 3);
     return badUsage;
 }

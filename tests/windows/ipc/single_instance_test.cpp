@@ -18,10 +18,10 @@ const wchar_t* const mutexName = L"Global\\LUMACRAFT_UNINSTALL";
 class Claimer
 {
 public:
-    Claimer()
+    explicit Claimer(const std::vector<std::wstring>& more = {})
         : name(uniqueName(L"tessera_ipc_claimer")), first(name + L"_first"),
           later(name + L"_later"), stopEvent(name + L"_stop"),
-          process(siblingProgram(L"ipc_peer"), {L"claim", name})
+          process(siblingProgram(L"ipc_peer"), arguments(name, more))
     {
         const HANDLE any[] = {first.handle(), later.handle(), process.handle()};
         WaitForMultipleObjects(3, any, FALSE, waitTime(patience));
@@ -36,6 +36,14 @@ public:
     }
 
 private:
+    static std::vector<std::wstring> arguments(const std::wstring& name,
+                                               const std::vector<std::wstring>& more)
+    {
+        std::vector<std::wstring> all = {L"claim", name};
+        all.insert(all.end(), more.begin(), more.end());
+        return all;
+    }
+
     std::wstring name;
     NamedEvent first;
     NamedEvent later;
@@ -81,6 +89,24 @@ TEST(SingleInstance, ALaterCopyKeepsTheNameTakenWhenTheFirstEnds)
     EXPECT_TRUE(third.stop());
     Claimer fourth;
     EXPECT_TRUE(fourth.isFirst());
+}
+
+TEST(SingleInstance, ALaterCopyKeepsTheNameTakenUntilItsProcessEnds)
+{
+    Claimer first;
+    Claimer second({L"forget"});
+    ASSERT_TRUE(second.isLater());
+    ASSERT_TRUE(first.stop());
+    EXPECT_TRUE(mutexExists());
+    EXPECT_TRUE(second.stop());
+    EXPECT_FALSE(mutexExists());
+}
+
+TEST(SingleInstance, AFirstCopyGivesTheNameUpWithItsChannel)
+{
+    Claimer first({L"forget"});
+    ASSERT_TRUE(first.isFirst());
+    EXPECT_FALSE(mutexExists());
 }
 
 TEST(SingleInstance, MutexOwnedByAThreadIsNotWaitedFor)
