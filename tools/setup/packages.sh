@@ -4,6 +4,7 @@
 #
 #   tools/setup/packages.sh         for build, test and run
 #   tools/setup/packages.sh lint    for "make lint" and "make format" as well
+#   tools/setup/packages.sh bench   for "make bench" as well
 #   tools/setup/packages.sh fuzz    for "make fuzz" as well
 set -euo pipefail
 
@@ -30,6 +31,9 @@ if [[ ${1:-} == lint ]]; then
     packages+=(clang-format clang-tidy cppcheck shellcheck codespell)
 elif [[ ${1:-} == fuzz ]]; then
     packages+=(clang llvm libclang-rt-dev)
+elif [[ ${1:-} == bench ]]; then
+    # what the program's own code is measured against
+    packages+=(qtbase5-dev libctemplate-dev libkainjow-mustache-dev libsimpleini-dev libinih-dev)
 fi
 
 missing=()
