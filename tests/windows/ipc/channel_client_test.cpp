@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <functional>
 #include <future>
@@ -197,20 +198,26 @@ TEST_F(UnaskedMessage, ErrorOfAnEarlierAttemptIsReturnedThoughALaterOneSucceeds)
     EXPECT_EQ(requests, 1);
 }
 
+// The best of a few tries, since a busy machine may delay any single one by more than a pause.
 TEST(ChannelClient, StopRequestEndsThePauseAtOnce)
 {
-    const NamedEvent hungUp(uniqueName(L"tessera_ipc_hung_up"));
-    ServerThread server([&hungUp](StrangeServer& pipe) {
-        pipe.read();
-        pipe.hangUp();
-        hungUp.set();
-    });
-    Client client;
-    ASSERT_EQ(client.connect(), 0);
-    client.stopOn(hungUp.handle());
-    const ULONGLONG start = GetTickCount64();
-    EXPECT_NE(client.channel.sendMessage("text"), 0);
-    EXPECT_LT(GetTickCount64() - start, 1500u); // all seven attempts take 2100 ms
+    constexpr ULONGLONG pause = 300; // ms
+    ULONGLONG best = pause;
+    for (int i = 0; i < 10 && best >= pause / 2; ++i) {
+        const NamedEvent hungUp(uniqueName(L"tessera_ipc_hung_up"));
+        ServerThread server([&hungUp](StrangeServer& pipe) {
+            pipe.read();
+            pipe.hangUp();
+            hungUp.set();
+        });
+        Client client;
+        ASSERT_EQ(client.connect(), 0);
+        client.stopOn(hungUp.handle());
+        const ULONGLONG start = GetTickCount64();
+        EXPECT_NE(client.channel.sendMessage("text"), 0);
+        best = std::min(best, GetTickCount64() - start);
+    }
+    EXPECT_LT(best, pause / 2);
 }
 
 TEST(ChannelClient, AfterAStopRequestNothingIsSent)

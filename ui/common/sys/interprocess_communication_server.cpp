@@ -58,6 +58,7 @@ void CInterprocessCommunicationWin::run(int)
 {
     if (stopRequested())
         return;
+    std::string text; // of one message after the other, so that its memory is taken only once
     bool goOn = true;
     do {
         if (!ConnectNamedPipe(pipe.get(), &overlapped)) {
@@ -72,13 +73,13 @@ void CInterprocessCommunicationWin::run(int)
                 return;
             }
         }
-        goOn = serveOneClient();
+        goOn = serveOneClient(text);
         DisconnectNamedPipe(pipe.get());
     } while (goOn && !stopRequested());
 }
 
 // False when the stop event ended it.
-bool CInterprocessCommunicationWin::serveOneClient()
+bool CInterprocessCommunicationWin::serveOneClient(std::string& text)
 {
     const Wake connected = waitForIo();
     if (connected != Wake::io)
@@ -100,18 +101,20 @@ bool CInterprocessCommunicationWin::serveOneClient()
         logFailure(__LINE__, "GetOverlappedResult", GetLastError());
         return true;
     }
-    deliver(received);
+    deliver(received, text);
     return true;
 }
 
-void CInterprocessCommunicationWin::deliver(std::uint32_t received)
+void CInterprocessCommunicationWin::deliver(std::uint32_t received, std::string& text)
 {
     if (!receiver)
         return;
-    if (const auto request = sys::readRequest(receiveBuffer.get(), received))
-        receiver->onMessageFromOtherProcess(request->pid, std::string(request->text));
+    if (const auto request = sys::readRequest(receiveBuffer.get(), received)) {
+        text.assign(request->text);
+        receiver->onMessageFromOtherProcess(request->pid, text);
+    }
     // A request that was too short to be delivered gets what the receiver answered last.
-    writeAnswer(std::string(receiver->answerText));
+    writeAnswer(receiver->answerText);
 }
 
 void CInterprocessCommunicationWin::writeAnswer(const std::string& answer)

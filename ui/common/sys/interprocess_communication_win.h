@@ -87,8 +87,8 @@ private:
     enum class Wake { io, stop, failure };
 
     void run(int argument) override;
-    bool serveOneClient();
-    void deliver(std::uint32_t received);
+    bool serveOneClient(std::string& text);
+    void deliver(std::uint32_t received, std::string& text);
     void writeAnswer(const std::string& answer);
     Wake waitForIo() const;
     int openPipe();
