@@ -28,12 +28,14 @@ class Brand(SuiteTestCase):
         beside.unlink(missing_ok=True)
         if global_settings is not None:
             beside.write_bytes(global_settings)
-        program = self.start_program(suite, rows=ROWS[expected])
-        program.main_window.close()
-        self.assertEqual(program.exit_code(), 0)
+        program = self.start_program(suite)
+        # Told before the window is shown.
         told = [message.text for message in suite.log()
                 if message.text.startswith("Try to fill list widget")]
         self.assertEqual(told[-1], f"Try to fill list widget (runtime brand: {expected})")
+        program.main_window.wait_for_rows(ROWS[expected])
+        program.main_window.close()
+        self.assertEqual(program.exit_code(), 0)
 
     def check_removal(self, suite, application):
         program = self.start_program(suite, rows=ROWS[suite.brand])

@@ -55,7 +55,7 @@ class Preselection(SuiteTestCase):
                 (["BeatGrid"], nothing)):
             with self.subTest(arguments=arguments):
                 program = self.start_program(suite, *arguments, rows=4)
-                program.main_window.wait_for_checked_rows(expected)
+                self.assertEqual(program.main_window.checked_rows(), expected)
                 # Nothing happens for a button that is not enabled.
                 if not any(expected):
                     program.main_window.press_uninstall()

@@ -9,7 +9,9 @@ from typing import Dict, Iterable, List, Optional
 
 from harness import layout, screen
 from harness.prefix import Prefix
-from harness.suite import COMPANY_BRAND, PRODUCT_BRAND, RunningApplication, RunningProgram, Suite
+from harness.suite import (COMPANY_BRAND, MAIN_TITLE, PRODUCT_BRAND, RunningApplication,
+                           RunningProgram, Suite)
+from harness.waiting import wait_until
 from applications import Application
 
 __all__ = ["COMPANY_BRAND", "PRODUCT_BRAND", "SuiteTestCase"]
@@ -35,6 +37,7 @@ class SuiteTestCase(unittest.TestCase):
         return result
 
     def setUp(self):
+        self.programs: List[RunningProgram] = []
         self.prefix.create()
         self.addCleanup(self.prefix.end)
         self.addCleanup(self._picture_of_the_end)
@@ -58,8 +61,13 @@ class SuiteTestCase(unittest.TestCase):
 
     def start_program(self, suite: Suite, *arguments: str, rows: Optional[int] = None,
                       environment: Optional[Dict[str, str]] = None) -> RunningProgram:
-        """The program with its window, which shows so many rows."""
+        """The program with its window, which shows so many rows. One that a failed sub-test left
+        running is ended first: it would take the new one's arguments."""
+        for earlier in self.programs:
+            self._stop(earlier.process)
+        wait_until(lambda: not screen.find_windows(MAIN_TITLE), "an earlier program's window stays")
         program = suite.start_program(*arguments, environment=environment)
+        self.programs.append(program)
         self.addCleanup(self._stop, program.process)
         if rows is not None:
             program.main_window.wait_for_rows(rows)

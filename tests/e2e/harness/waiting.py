@@ -6,7 +6,7 @@ from typing import Callable, TypeVar
 Result = TypeVar("Result")
 
 # Long enough for a heavily loaded machine; only a failing test ever waits that long.
-PATIENCE = 60.0
+PATIENCE = 40.0
 # Between two looks at a condition that nothing announces.
 INTERVAL = 0.02
 
