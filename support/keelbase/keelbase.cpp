@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <mutex>
+#include <new>
 
 namespace Keelbase {
 
@@ -36,7 +37,8 @@ Library& library()
 // Needs no memory, so that it is there even when a logger could not be made.
 LoggerHandle silentLogger() noexcept
 {
-    static SilentLogger& instance = *new SilentLogger;
+    alignas(SilentLogger) static unsigned char storage[sizeof(SilentLogger)];
+    static SilentLogger& instance = *new (storage) SilentLogger;
     return LoggerHandle(LoggerHandle(), &instance);
 }
 

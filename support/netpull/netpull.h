@@ -17,7 +17,7 @@
 namespace netpull {
 
 // Longer answers are refused with transport code 63. The suite's services answer in a few bytes.
-constexpr std::size_t answerLimit = 1024 * 1024;
+constexpr std::size_t answerLimit = std::size_t{1024} * 1024;
 
 struct Proxy
 {

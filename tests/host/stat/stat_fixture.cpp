@@ -33,9 +33,9 @@ CConfig& commonConfig()
     return config;
 }
 
-std::wstring applicationConfigPath(int applicationId)
+std::wstring applicationConfigPath(int appId)
 {
-    return (settingsFolder / std::to_string(applicationId) / "application.cfg").wstring();
+    return (settingsFolder / std::to_string(appId) / "application.cfg").wstring();
 }
 
 } // namespace fs

@@ -8,7 +8,6 @@ namespace {
 
 using namespace std::string_literals;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 constexpr const char* usualCommand =
     R"(C:\Program Files\Corvane\Clip Trimmer\unins000.exe /log="C:\Temp\logs\ClipTrimmer_uninstall.log")";

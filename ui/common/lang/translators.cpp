@@ -8,12 +8,10 @@ namespace lang {
 CTranslators::CTranslators(QObject* parent, const QString& directory, const QString& sourceLanguage,
                            const QString& sourceLanguageName, const QString& supportedLanguagesKey,
                            const QStringList& patterns)
-    : QObject(parent), directory(directory), sourceLanguage(sourceLanguage),
-      sourceLanguageName(sourceLanguageName), supportedLanguagesKey(supportedLanguagesKey),
-      patterns(patterns)
-{
-    currentPattern = patterns.value(0);
-}
+    : QObject(parent), directory(directory), currentPattern(patterns.value(0)),
+      sourceLanguage(sourceLanguage), sourceLanguageName(sourceLanguageName),
+      supportedLanguagesKey(supportedLanguagesKey), patterns(patterns)
+{}
 
 bool CTranslators::setLanguage(const QString& code)
 {

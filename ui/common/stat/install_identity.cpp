@@ -25,7 +25,7 @@ std::string getOrCreateClientGuid(fs::CConfig& common)
     return guid;
 }
 
-void fillInstallParams(TemplateParams& params, fs::CConfig& appConfig)
+void fillInstallParams(TemplateParams& params, const fs::CConfig& appConfig)
 {
     const char* const debugSuffix = sys::environmentSwitch("CV_DEBUG") ? "_DBG" : "";
     params.set("ADVTYPE", appConfig.getValue("AdvType", "") + debugSuffix, true);

@@ -16,6 +16,6 @@ std::string getOrCreateClientGuid(fs::CConfig& common);
 // Copies what the application's installer wrote (AdvType, CampType, InstType, InstChannel,
 // InstRef, TCBuildNum) into the parameters, absent values as empty ones, over existing entries.
 // With the environment variable CV_DEBUG at exactly "1", ADVTYPE ends in "_DBG".
-void fillInstallParams(TemplateParams& params, fs::CConfig& appConfig);
+void fillInstallParams(TemplateParams& params, const fs::CConfig& appConfig);
 
 } // namespace stats

@@ -7,7 +7,7 @@ namespace stats {
 
 ProxySettings readProxySettings()
 {
-    fs::CConfig& common = fs::commonConfig();
+    const fs::CConfig& common = fs::commonConfig();
     ProxySettings proxy;
     if (decimalFromText(common.getValue("ProxyType", "0")) == 0)
         return proxy;

@@ -14,7 +14,7 @@ namespace stats {
 
 std::string applicationCode(int applicationId, bool suiteFlag)
 {
-    const std::string code = uninstall::shortCode(applicationId);
+    std::string code = uninstall::shortCode(applicationId);
     if (applicationId != uninstall::suiteId)
         return code;
     return code + (suiteFlag ? "_qx" : "_a");

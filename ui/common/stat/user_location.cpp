@@ -8,6 +8,7 @@
 #include "ui/common/sys/environment.h"
 #include "ui/common/sys/result_codes.h"
 
+#include <algorithm>
 #include <new>
 #include <ostream>
 
@@ -35,7 +36,9 @@ void log(int level, int line, const char* text, const std::string& detail = {})
 // lose the keys that follow.
 std::string countryFrom(const sys::DataBuff& answer)
 {
-    return answer.toString().c_str();
+    std::string text = answer.toString();
+    text.resize(std::min(text.find('\0'), text.size()));
+    return text;
 }
 
 } // namespace
@@ -80,8 +83,8 @@ void getOrCreateUserLocation(const ProxySettings& proxy)
 
 std::string getUserCountry(const ProxySettings& proxy)
 {
-    fs::CConfig& common = fs::commonConfig();
-    const std::string stored = common.getValue(locationKey, "");
+    const fs::CConfig& common = fs::commonConfig();
+    std::string stored = common.getValue(locationKey, "");
     if (!stored.empty())
         return stored;
     getOrCreateUserLocation(proxy);

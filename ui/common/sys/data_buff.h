@@ -52,9 +52,9 @@ public:
     void clear() override;
     bool assignString(const std::string& text) override;
     bool assign(const void* source, std::uint64_t sourceSize) override;
-    void attach(void* block, std::uint64_t blockSize) override;
+    void attach(void* newBlock, std::uint64_t newSize) override;
     void attachFrom(IDataBuff* other) override;
-    void* detach(std::uint64_t& blockSize) override;
+    void* detach(std::uint64_t& detachedSize) override;
     void moveTo(IDataBuff& target) override;
     void copyToWideString(std::wstring& target) const override;
     void copyToString(std::string& target) const override;
