@@ -135,7 +135,7 @@ struct Settings
     Model model;
 };
 
-void checkValues(const Settings& settings, const std::string& key)
+void checkValue(const Settings& settings, const std::string& key)
 {
     const auto found = settings.model.values.find(key);
     const bool known = found != settings.model.values.end();
@@ -147,6 +147,12 @@ void checkValues(const Settings& settings, const std::string& key)
                 "getBool is true for 1 only");
     }
     require(settings.config.isModified() == settings.model.modified, "the modified flag is right");
+}
+
+void checkAll(const Settings& settings)
+{
+    for (const auto& pair : settings.model.values)
+        checkValue(settings, pair.first);
 }
 
 void save(Settings& settings)
@@ -175,9 +181,11 @@ void step(Settings& settings, char operation, const std::string& text)
         break;
     case 'l':
         require(settings.config.load() == settings.model.read(false), "load answers right");
+        checkAll(settings);
         break;
     case 'r':
         require(settings.config.reload() == settings.model.read(true), "reload answers right");
+        checkAll(settings);
         break;
     case 'f': // another program writes the file
         file.content = text;
@@ -192,9 +200,7 @@ void step(Settings& settings, char operation, const std::string& text)
     default:
         break;
     }
-    checkValues(settings, key);
-    for (const auto& pair : settings.model.values)
-        checkValues(settings, pair.first);
+    checkValue(settings, key);
 }
 
 } // namespace
@@ -211,5 +217,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
         const bool second = field[0] >= 'A' && field[0] <= 'Z';
         step(settings[second ? 1 : 0], static_cast<char>(field[0] | 0x20), field.substr(1));
     }
+    for (const Settings& each : settings)
+        checkAll(each);
     return 0;
 }

@@ -100,7 +100,7 @@ void checkCommandLine(const std::string& text)
     require(arguments.size() == words.size() - 1, "the program's name is left out");
     std::string expected;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        require(arguments[i] == words[i + 1].c_str(), "arguments are copied byte by byte");
+        require(arguments[i] == std::string_view(argv[i + 1]), "arguments are copied byte by byte");
         if (arguments[i] == "/app")
             expected = i + 1 < arguments.size() ? arguments[i + 1] : "";
     }
