@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QList>
+#include <QPointer>
 #include <QStringList>
 #include <QTimer>
 #include <QtTest>
@@ -51,16 +53,15 @@ private:
     {
         arm();
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || dialog == current) {
-            // The dialog of the last step may still be open: it is being closed, or has opened
-            // the next one, which then counts as another.
-            if (dialog == nullptr)
-                current = nullptr;
-            else if (sinceStep.hasExpired(deadlineMs))
+        if (dialog == nullptr)
+            return;
+        // One that had its step may still be open: below the next one, or about to close.
+        if (seen.contains(dialog)) {
+            if (sinceStep.hasExpired(deadlineMs))
                 giveUp(*dialog, QStringLiteral("does not close"));
             return;
         }
-        current = dialog;
+        seen.append(dialog);
         sinceStep.start();
         if (steps.empty() || !dialog->inherits(steps.front().className)) {
             giveUp(*dialog, QStringLiteral("not expected"));
@@ -84,7 +85,7 @@ private:
     }
 
     std::deque<Expected> steps;
-    QDialog* current = nullptr;
+    QList<QPointer<QDialog>> seen; // a later dialog may live at the same address
     QElapsedTimer sinceStep;
     QString failure;
 };
