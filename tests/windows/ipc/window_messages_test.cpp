@@ -166,6 +166,8 @@ private slots:
     void laterCopyWithoutAServerIsAnotherInstanceAllTheSame();
     void laterCopyAnsweredReviveBecomesTheFirst();
     void laterCopyWithoutTheCheckOpensItsWindow();
+    void laterCopyWithAParentBringsItsNamesakeForward_data();
+    void laterCopyWithAParentBringsItsNamesakeForward();
 };
 
 void WindowMessagesTest::metaObjectHasTheSignalAndThenTheSlot()
@@ -461,6 +463,42 @@ void WindowMessagesTest::laterCopyWithoutTheCheckOpensItsWindow()
     Window window({}, nullptr, false);
     QVERIFY(!window.isAnotherInstanceRunning());
     QCOMPARE(deliveriesOf(peer), QStringLiteral("1")); // that question itself
+}
+
+void WindowMessagesTest::laterCopyWithAParentBringsItsNamesakeForward_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<bool>("forward");
+    QTest::newRow("no arguments") << QString() << true;
+    QTest::newRow("show") << "/show" << true;
+    QTest::newRow("another text") << "/app" << false;
+    QTest::newRow("minimised") << "/show/minimized" << false;
+}
+
+void WindowMessagesTest::laterCopyWithAParentBringsItsNamesakeForward()
+{
+    QFETCH(QString, argument);
+    QFETCH(bool, forward);
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    QWidget parent;
+    parent.setWindowTitle(QStringLiteral("Namesake"));
+    QWidget namesake;
+    namesake.setWindowTitle(QStringLiteral("The Namesake's window"));
+    namesake.show();
+    QWidget front;
+    front.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&namesake));
+    QVERIFY(QTest::qWaitForWindowExposed(&front));
+    front.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&front));
+
+    std::vector<std::string> arguments;
+    if (!argument.isEmpty())
+        arguments.push_back(argument.toStdString());
+    const Window window(arguments, &parent);
+    const QWidget& expected = forward ? namesake : front;
+    QCOMPARE(GetForegroundWindow(), reinterpret_cast<HWND>(expected.winId()));
 }
 
 QTEST_MAIN(WindowMessagesTest)

@@ -1,0 +1,145 @@
+#include "ui/common/sys/bring_window_to_top.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+// A visible top-level window.
+class TitledWindow
+{
+public:
+    explicit TitledWindow(const std::wstring& title, DWORD extendedStyle = 0)
+        : window(CreateWindowExW(extendedStyle, L"STATIC", title.c_str(),
+                                 WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 200, 100, nullptr,
+                                 nullptr, nullptr, nullptr))
+    {}
+    ~TitledWindow() { DestroyWindow(window); }
+    TitledWindow(const TitledWindow&) = delete;
+    TitledWindow& operator=(const TitledWindow&) = delete;
+
+    HWND handle() const { return window; }
+    std::int64_t number() const { return reinterpret_cast<std::int64_t>(window); }
+
+private:
+    HWND window;
+};
+
+void handleWaitingMessages()
+{
+    MSG message = {};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+        DispatchMessageW(&message);
+}
+
+std::vector<HWND> topLevelWindows()
+{
+    std::vector<HWND> windows;
+    sys::enumerateWindows([&windows](HWND window) {
+        windows.push_back(window);
+        return 1;
+    });
+    return windows;
+}
+
+TEST(EnumerateWindows, VisitsTopLevelWindowsUntilToldToStop)
+{
+    const TitledWindow one(L"one");
+    const TitledWindow two(L"two");
+    const std::vector<HWND> all = topLevelWindows();
+    EXPECT_EQ(std::count(all.begin(), all.end(), one.handle()), 1);
+    EXPECT_EQ(std::count(all.begin(), all.end(), two.handle()), 1);
+
+    int visited = 0;
+    sys::enumerateWindows([&visited](HWND) { return ++visited < 2 ? 1 : 0; });
+    EXPECT_EQ(visited, 2);
+}
+
+TEST(EnumerateWindows, EmptyFunctionRaises)
+{
+    const TitledWindow window(L"any");
+    EXPECT_THROW(sys::enumerateWindows({}), std::bad_function_call);
+}
+
+TEST(EnumerateWindows, ExceptionReachesTheCallerAndEndsIt)
+{
+    const TitledWindow window(L"any");
+    int visited = 0;
+    EXPECT_THROW(sys::enumerateWindows([&visited](HWND) -> int {
+                     ++visited;
+                     throw std::runtime_error("enough");
+                 }),
+                 std::runtime_error);
+    EXPECT_EQ(visited, 1);
+}
+
+struct TitleCase
+{
+    const wchar_t* own;
+    const wchar_t* other;
+    bool broughtForward;
+};
+
+class BringWindowToTop : public testing::TestWithParam<TitleCase>
+{};
+
+TEST_P(BringWindowToTop, TakesAWindowWhoseTitleContainsTheOwn)
+{
+    const TitledWindow other(GetParam().other);
+    const TitledWindow own(GetParam().own);
+    const TitledWindow front(L"~");
+    handleWaitingMessages();
+    SetForegroundWindow(front.handle());
+    handleWaitingMessages();
+    ASSERT_EQ(GetForegroundWindow(), front.handle());
+
+    sys::bringWindowToTop(own.number());
+    handleWaitingMessages();
+    EXPECT_EQ(GetForegroundWindow(), GetParam().broughtForward ? other.handle() : front.handle());
+}
+
+INSTANTIATE_TEST_SUITE_P(Titles, BringWindowToTop,
+                         testing::Values(TitleCase{L"Tessera bench", L"Tessera bench", true},
+                                         TitleCase{L"Tessera bench", L"a Tessera bench b", true},
+                                         TitleCase{L"Tessera bench", L"Tessera benc", false},
+                                         TitleCase{L"Tessera bench", L"tessera bench", false},
+                                         TitleCase{L"Tessera bench", L"Tessera  bench", false}));
+
+TEST(BringWindowToTopOrder, FirstMatchInTheSystemsOrderWins)
+{
+    const TitledWindow own(L"Tessera bench");
+    const TitledWindow one(L"Tessera bench 1");
+    const TitledWindow two(L"Tessera bench 2");
+    handleWaitingMessages();
+    SetForegroundWindow(own.handle());
+    handleWaitingMessages();
+    const std::vector<HWND> all = topLevelWindows();
+    const auto first = std::find_if(all.begin(), all.end(), [&](HWND window) {
+        return window == one.handle() || window == two.handle();
+    });
+    ASSERT_NE(first, all.end());
+    sys::bringWindowToTop(own.number());
+    handleWaitingMessages();
+    EXPECT_EQ(GetForegroundWindow(), *first);
+}
+
+TEST(BringWindowToTopOrder, EmptyOwnTitleTakesTheFirstOtherWindowOfAll)
+{
+    const TitledWindow own(L"");
+    const TitledWindow front(L"~");
+    const TitledWindow topmost(L"any title", WS_EX_TOPMOST);
+    handleWaitingMessages();
+    SetForegroundWindow(front.handle());
+    handleWaitingMessages();
+    ASSERT_EQ(topLevelWindows().front(), topmost.handle());
+    sys::bringWindowToTop(own.number());
+    handleWaitingMessages();
+    EXPECT_EQ(GetForegroundWindow(), topmost.handle());
+}
+
+} // namespace
