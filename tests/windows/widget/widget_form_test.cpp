@@ -26,6 +26,7 @@ private slots:
     void namesThatAreNoCatalogueEntriesAreListedToo();
     void valuesThatAreNoTextAreListedToo();
     void hugeNamesAreListedWhole();
+    void pluginsAreLookedForBesideTheProgramOnly();
 };
 
 void WidgetFormTest::windowHasItsFixedSizeTitleFlagsAndIcon()
@@ -242,6 +243,15 @@ void WidgetFormTest::hugeNamesAreListedWhole()
     QVERIFY(under.show());
     QCOMPARE(under.list->count(), 1);
     QCOMPARE(under.list->item(0)->text(), huge);
+}
+
+// The folder that the toolkit was built into may exist on a user's machine, made by anybody.
+void WidgetFormTest::pluginsAreLookedForBesideTheProgramOnly()
+{
+    const QString home = QCoreApplication::applicationDirPath();
+    const QStringList paths = QCoreApplication::libraryPaths();
+    for (const QString& path : paths)
+        QVERIFY2(path.startsWith(home), qPrintable(path));
 }
 
 QTEST_MAIN(WidgetFormTest)

@@ -153,11 +153,20 @@ void WidgetRunTest::missingProgramDoesNotStopTheRun()
                              QStringLiteral("C:\\no such folder\\Uninst.exe ") +
                                  logSwitch(QStringLiteral("AlbumKeeper")));
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
+    const testing_support::RecordedLog log(Keelbase::levelDetail);
     WindowUnderTest under;
     under.window.changeItemsState(true);
     QVERIFY(press(under));
     QCOMPARE(startsOf(QStringLiteral("ScreenTaker")).size(), 1);
     QCOMPARE(under.list->count(), 0);
+    int failures = 0;
+    for (const Keelbase::LogRecord& record : log.records()) {
+        if (record.text.rfind("DoUninsstall: not started: ", 0) == 0) {
+            ++failures;
+            QCOMPARE(record.level, Keelbase::levelDetail);
+        }
+    }
+    QCOMPARE(failures, 1);
 }
 
 void WidgetRunTest::longAndQuotedCommandsArriveWhole()

@@ -152,5 +152,13 @@ void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& co
     for (const std::string& argument : uninstall::uninstallArguments(commandParts, options))
         arguments.append(QString::fromStdString(argument));
     uninstaller->start(QString::fromStdString(program), arguments, QIODevice::ReadWrite);
+    if (uninstaller->error() == QProcess::FailedToStart) {
+        logMainForm(
+            __LINE__,
+            [uninstaller](std::ostream& out) {
+                out << "DoUninsstall: not started: " << uninstaller->errorString().toStdString();
+            },
+            Keelbase::levelDetail);
+    }
     uninstall::waitForFinished(*uninstaller, uninstallerWaitMs);
 }
