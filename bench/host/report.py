@@ -91,8 +91,11 @@ def report_config(medians: Medians, work: str, title: str, orders: Dict[int, str
             rows.append((name, f"{keys:,}", *map(duration, times),
                          verdict(ratio, goals[order]) if goals else f"{ratio:.2f}",
                          duration(times[0] / keys)))
-    table(title, ("order of the lines", "keys", "ours", "SimpleIni", "inih", "QSettings",
-                  "fastest other / ours", "ours for each key"), rows)
+    head = ("order of the lines", "keys", "ours", "SimpleIni", "inih", "QSettings",
+            "fastest other / ours", "ours for each key")
+    if work == "lookUp":
+        head, rows = head[:-1], [row[:-1] for row in rows]
+    table(title, head, rows)
 
 
 def report_sending(medians: Medians) -> None:

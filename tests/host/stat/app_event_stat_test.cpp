@@ -275,10 +275,11 @@ TEST_F(AppEventStat, LogsTheSecondRejection)
 
 TEST_F(AppEventStat, RejectsFromStatus400)
 {
-    scripted::answerInOrder({status(400), status(400)});
+    scripted::answerInOrder({status(400, "first"), status(400, "second")});
     helper.init(params, true, 0);
     sendNow();
-    EXPECT_EQ(log().size(), 1U);
+    EXPECT_EQ(log(), std::vector<std::string>{"3 AppEventStat ui/common/stat/app_event_stat:65 "
+                                              "stats::sendEvent rejected: http 400 | second"});
 }
 
 TEST_F(AppEventStat, LogsNothingWhenTheRepeatFailsInTransport)

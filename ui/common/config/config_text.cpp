@@ -38,15 +38,48 @@ std::string_view withoutCarriageReturns(std::string_view text, std::string& stor
     return storage;
 }
 
+// Takes the first line off the text. False for a line without "=".
+bool takeLine(std::string_view& text, Line& line)
+{
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    const std::string_view whole = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+
+    const std::size_t equals = whole.find('=');
+    if (equals == std::string_view::npos)
+        return false;
+    line = {whole.substr(0, equals), whole.substr(equals + 1)};
+    return true;
+}
+
 // Files are written in the order of their keys, so that usually every pair goes right behind the
-// one before it. Sorting the lines of any other file costs less than finding each one's place in
-// the map. The sort is stable: the first line of a repeated key stays first.
-void insertLines(std::vector<Line>& lines, ConfigValues& values)
+// one before it. Returns the text from the first line on that does not.
+std::string_view insertWhileAscending(std::string_view text, ConfigValues& values)
+{
+    auto next = values.end();
+    const std::string* last = nullptr;
+    Line line;
+    for (std::string_view rest = text; !text.empty(); text = rest) {
+        if (!takeLine(rest, line))
+            continue;
+        if (last == nullptr)
+            next = values.lower_bound(std::string(line.key));
+        else if (line.key <= *last)
+            return text;
+        const auto inserted = values.try_emplace(next, std::string(line.key), line.value);
+        last = &inserted->first;
+        next = std::next(inserted);
+    }
+    return text;
+}
+
+// Sorting the lines of any other file costs less than finding each one's place in the map. The
+// sort is stable: the first line of a repeated key stays first.
+void insertSorted(std::vector<Line>& lines, ConfigValues& values)
 {
     if (lines.empty())
         return;
-    if (!std::is_sorted(lines.begin(), lines.end(), keyLess))
-        std::stable_sort(lines.begin(), lines.end(), keyLess);
+    std::stable_sort(lines.begin(), lines.end(), keyLess);
     auto next = values.lower_bound(std::string(lines.front().key));
     for (const Line& line : lines)
         next = std::next(values.try_emplace(next, std::string(line.key), line.value));
@@ -62,20 +95,17 @@ void parseConfigText(std::string_view text, ConfigValues& values)
     std::string storage;
     text = withoutCarriageReturns(text, storage);
 
+    text = insertWhileAscending(text, values);
     std::vector<Line> lines;
+    Line line;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        const std::string_view line = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
-
-        const std::size_t equals = line.find('=');
-        if (equals == std::string_view::npos)
+        if (!takeLine(text, line))
             continue;
         if (lines.size() == batchSize)
-            insertLines(lines, values);
-        lines.push_back({line.substr(0, equals), line.substr(equals + 1)});
+            insertSorted(lines, values);
+        lines.push_back(line);
     }
-    insertLines(lines, values);
+    insertSorted(lines, values);
 }
 
 std::string serialiseConfig(const ConfigValues& values)
