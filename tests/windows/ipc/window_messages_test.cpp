@@ -1,126 +1,13 @@
-// What the main window's base class does with messages, in both roles.
+// What the main window's base class does with messages.
 
-#include "tests/windows/ipc/child_process.h"
-#include "tests/windows/ipc/peer_events.h"
-#include "tests/windows/ipc/pipe_stranger.h"
-#include "tests/windows/ipc/serving_peer.h"
+#include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/widget/captured_log.h"
-#include "ui/common/sys/interprocess_communication_app.h"
 
 #include <QSignalSpy>
-#include <QtTest>
-
-#include <future>
-#include <memory>
 
 using namespace ipctest;
 
 namespace {
-
-constexpr int patienceMs = 30000;
-
-// Remembers what reaches the hook.
-class Window : public CInterprocessCommunicationApp
-{
-public:
-    explicit Window(std::vector<std::string> arguments = {}, QWidget* parent = nullptr,
-                    bool check = true)
-        : CInterprocessCommunicationApp(std::move(arguments), parent, check, 0)
-    {}
-
-    std::string answer() const { return answerText; }
-    void receive(const QString& message)
-    {
-        QVERIFY(QMetaObject::invokeMethod(this, "onMessageReceived", Qt::DirectConnection,
-                                          Q_ARG(unsigned long, 77), Q_ARG(QString, message)));
-    }
-
-    QStringList hooked;
-    QString reply;
-    std::unique_ptr<NamedEvent> deliveryBegins;
-
-protected:
-    QString handleMessage(const QString& text) override
-    {
-        hooked << text;
-        return reply;
-    }
-    void onMessageFromOtherProcess(unsigned long pid, const std::string& text) override
-    {
-        if (deliveryBegins)
-            deliveryBegins->set();
-        CInterprocessCommunicationApp::onMessageFromOtherProcess(pid, text);
-    }
-};
-
-// Sends a text from another process, or rather thread, as a stranger does; the answer's text.
-std::future<std::string> sendFromThread(std::string text)
-{
-    return std::async(std::launch::async, [text = std::move(text)]() -> std::string {
-        Stranger client;
-        const Bytes answer = client.transact(frame(5, text));
-        return answer.size() > 9 ? std::string(answer.begin() + 9, answer.end()) : std::string();
-    });
-}
-
-// Runs the event loop until the answer is there.
-std::string answerTo(const std::string& text)
-{
-    auto answer = sendFromThread(text);
-    QElapsedTimer timer;
-    timer.start();
-    while (answer.wait_for(milliseconds(5)) != std::future_status::ready &&
-           timer.elapsed() < patienceMs)
-        QCoreApplication::processEvents();
-    return answer.get();
-}
-
-// A window whose server thread takes clients; see serveForSure.
-std::unique_ptr<Window> servingWindow()
-{
-    std::unique_ptr<Window> window;
-    int pause = 20; // ms
-    do {
-        window.reset(); // or it would be the first copy to the next one
-        window = std::make_unique<Window>();
-        QTest::qWait(pause);
-        pause *= 2;
-    } while (!serverTakesClients());
-    return window;
-}
-
-// A child process that has the mutex, with or without serving the pipe.
-class OtherCopy
-{
-public:
-    OtherCopy()
-        : name(uniqueName(L"tessera_ipc_copy")), first(name + L"_first"), later(name + L"_later"),
-          stop(name + L"_stop"), process(siblingProgram(L"ipc_peer"), {L"claim", name})
-    {
-        const HANDLE any[] = {first.handle(), later.handle(), process.handle()};
-        WaitForMultipleObjects(3, any, FALSE, waitTime(patience));
-    }
-    ~OtherCopy()
-    {
-        stop.set();
-        process.waitForExit();
-    }
-
-private:
-    std::wstring name;
-    NamedEvent first;
-    NamedEvent later;
-    NamedEvent stop;
-    ChildProcess process;
-};
-
-QString deliveriesOf(ServingPeer&)
-{
-    Stranger client;
-    const Bytes answer = client.transact(frame(1, "#deliveries"));
-    return QString::fromLatin1(reinterpret_cast<const char*>(answer.data()) + 9,
-                               static_cast<int>(answer.size()) - 9);
-}
 
 bool minimised(const QWidget& window)
 {
@@ -129,8 +16,6 @@ bool minimised(const QWidget& window)
 
 } // namespace
 
-// The tests of this class begin with the later copy: once this process has been one, it keeps the
-// mutex, and the first copy's tests do not mind.
 class WindowMessagesTest : public QObject
 {
     Q_OBJECT
@@ -159,15 +44,6 @@ private slots:
     void eachMessageForgetsTheAnswerBeforeIt();
 
     void endWithADeliveryUnderWayDoesNotHang();
-
-    void laterCopySendsItsArgumentsAndIsAnotherInstance();
-    void laterCopyWithoutArgumentsSendsShow();
-    void laterCopyDoesNotServe();
-    void laterCopyWithoutAServerIsAnotherInstanceAllTheSame();
-    void laterCopyAnsweredReviveBecomesTheFirst();
-    void laterCopyWithoutTheCheckOpensItsWindow();
-    void laterCopyWithAParentBringsItsNamesakeForward_data();
-    void laterCopyWithAParentBringsItsNamesakeForward();
 };
 
 void WindowMessagesTest::metaObjectHasTheSignalAndThenTheSlot()
@@ -396,109 +272,6 @@ void WindowMessagesTest::endWithADeliveryUnderWayDoesNotHang()
         window.reset();
         QVERIFY(ended.get());
     }
-}
-
-void WindowMessagesTest::laterCopySendsItsArgumentsAndIsAnotherInstance()
-{
-    ServingPeer peer;
-    QVERIFY(peer.ready());
-    Window window({"/app", "Some Id"});
-    QVERIFY(window.isAnotherInstanceRunning());
-    QCOMPARE(deliveriesOf(peer), QStringLiteral("2"));
-    // What arrived last is what a request too short for delivery is answered with.
-    Window again({"a", "b c"});
-    Stranger client;
-    QCOMPARE(client.transact({1}), frame(peer.pid(), "a b c"));
-}
-
-void WindowMessagesTest::laterCopyWithoutArgumentsSendsShow()
-{
-    ServingPeer peer;
-    QVERIFY(peer.ready());
-    Window window;
-    QVERIFY(window.isAnotherInstanceRunning());
-    Stranger client;
-    QCOMPARE(client.transact({1}), frame(peer.pid(), "/show"));
-}
-
-void WindowMessagesTest::laterCopyDoesNotServe()
-{
-    std::unique_ptr<Window> window;
-    {
-        ServingPeer peer;
-        QVERIFY(peer.ready());
-        window = std::make_unique<Window>();
-        QCOMPARE(peer.stop().value_or(1), DWORD{0});
-    }
-    QVERIFY(window->isAnotherInstanceRunning());
-    Stranger client(milliseconds(0));
-    QCOMPARE(client.error(), DWORD{ERROR_FILE_NOT_FOUND});
-}
-
-void WindowMessagesTest::laterCopyWithoutAServerIsAnotherInstanceAllTheSame()
-{
-    OtherCopy other;
-    QElapsedTimer timer;
-    timer.start();
-    Window window;
-    QVERIFY(window.isAnotherInstanceRunning());
-    QVERIFY(timer.elapsed() < 2000); // no attempts without a pipe
-}
-
-void WindowMessagesTest::laterCopyAnsweredReviveBecomesTheFirst()
-{
-    ServingPeer peer; // answers with what it gets
-    QVERIFY(peer.ready());
-    Window window({"please", "revive"});
-    QVERIFY(!window.isAnotherInstanceRunning());
-    QCOMPARE(peer.stop().value_or(1), DWORD{0});
-    window.reply = QStringLiteral("took over");
-    QCOMPARE(answerTo("text"), std::string("took over"));
-}
-
-void WindowMessagesTest::laterCopyWithoutTheCheckOpensItsWindow()
-{
-    ServingPeer peer;
-    QVERIFY(peer.ready());
-    Window window({}, nullptr, false);
-    QVERIFY(!window.isAnotherInstanceRunning());
-    QCOMPARE(deliveriesOf(peer), QStringLiteral("1")); // that question itself
-}
-
-void WindowMessagesTest::laterCopyWithAParentBringsItsNamesakeForward_data()
-{
-    QTest::addColumn<QString>("argument");
-    QTest::addColumn<bool>("forward");
-    QTest::newRow("no arguments") << QString() << true;
-    QTest::newRow("show") << "/show" << true;
-    QTest::newRow("another text") << "/app" << false;
-    QTest::newRow("minimised") << "/show/minimized" << false;
-}
-
-void WindowMessagesTest::laterCopyWithAParentBringsItsNamesakeForward()
-{
-    QFETCH(QString, argument);
-    QFETCH(bool, forward);
-    ServingPeer peer;
-    QVERIFY(peer.ready());
-    QWidget parent;
-    parent.setWindowTitle(QStringLiteral("Namesake"));
-    QWidget namesake;
-    namesake.setWindowTitle(QStringLiteral("The Namesake's window"));
-    namesake.show();
-    QWidget front;
-    front.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&namesake));
-    QVERIFY(QTest::qWaitForWindowExposed(&front));
-    front.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&front));
-
-    std::vector<std::string> arguments;
-    if (!argument.isEmpty())
-        arguments.push_back(argument.toStdString());
-    const Window window(arguments, &parent);
-    const QWidget& expected = forward ? namesake : front;
-    QCOMPARE(GetForegroundWindow(), reinterpret_cast<HWND>(expected.winId()));
 }
 
 QTEST_MAIN(WindowMessagesTest)

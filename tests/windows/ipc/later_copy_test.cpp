@@ -1,0 +1,165 @@
+// The main window's base class in a later copy. Once this process has been one, it keeps the
+// mutex; the first copy's tests are in a process of their own.
+
+#include "tests/windows/ipc/messaged_window.h"
+#include "tests/windows/ipc/serving_peer.h"
+
+using namespace ipctest;
+
+namespace {
+
+// A child process that has the mutex and does not serve.
+class OtherCopy
+{
+public:
+    OtherCopy()
+        : name(uniqueName(L"tessera_ipc_copy")), first(name + L"_first"), later(name + L"_later"),
+          stop(name + L"_stop"), process(siblingProgram(L"ipc_peer"), {L"claim", name})
+    {
+        const HANDLE any[] = {first.handle(), later.handle(), process.handle()};
+        WaitForMultipleObjects(3, any, FALSE, waitTime(patience));
+    }
+    ~OtherCopy()
+    {
+        stop.set();
+        process.waitForExit();
+    }
+
+private:
+    std::wstring name;
+    NamedEvent first;
+    NamedEvent later;
+    NamedEvent stop;
+    ChildProcess process;
+};
+
+QString deliveriesOf(ServingPeer&)
+{
+    Stranger client;
+    const Bytes answer = client.transact(frame(1, "#deliveries"));
+    return QString::fromLatin1(reinterpret_cast<const char*>(answer.data()) + 9,
+                               static_cast<int>(answer.size()) - 9);
+}
+
+} // namespace
+
+class LaterCopyTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sendsItsArgumentsAndIsAnotherInstance();
+    void withoutArgumentsSendsShow();
+    void doesNotServe();
+    void withoutAServerIsAnotherInstanceAllTheSame();
+    void answeredReviveBecomesTheFirst();
+    void withoutTheCheckOpensItsWindow();
+    void withAParentBringsItsNamesakeForward_data();
+    void withAParentBringsItsNamesakeForward();
+};
+
+void LaterCopyTest::sendsItsArgumentsAndIsAnotherInstance()
+{
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    Window window({"/app", "Some Id"});
+    QVERIFY(window.isAnotherInstanceRunning());
+    QCOMPARE(deliveriesOf(peer), QStringLiteral("2"));
+    // What arrived last is what a request too short for delivery is answered with.
+    Window again({"a", "b c"});
+    Stranger client;
+    QCOMPARE(client.transact({1}), frame(peer.pid(), "a b c"));
+}
+
+void LaterCopyTest::withoutArgumentsSendsShow()
+{
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    Window window;
+    QVERIFY(window.isAnotherInstanceRunning());
+    Stranger client;
+    QCOMPARE(client.transact({1}), frame(peer.pid(), "/show"));
+}
+
+void LaterCopyTest::doesNotServe()
+{
+    std::unique_ptr<Window> window;
+    {
+        ServingPeer peer;
+        QVERIFY(peer.ready());
+        window = std::make_unique<Window>();
+        QCOMPARE(peer.stop().value_or(1), DWORD{0});
+    }
+    QVERIFY(window->isAnotherInstanceRunning());
+    Stranger client(milliseconds(0));
+    QCOMPARE(client.error(), DWORD{ERROR_FILE_NOT_FOUND});
+}
+
+void LaterCopyTest::withoutAServerIsAnotherInstanceAllTheSame()
+{
+    OtherCopy other;
+    QElapsedTimer timer;
+    timer.start();
+    Window window;
+    QVERIFY(window.isAnotherInstanceRunning());
+    QVERIFY(timer.elapsed() < 2000); // no attempts without a pipe
+}
+
+void LaterCopyTest::answeredReviveBecomesTheFirst()
+{
+    ServingPeer peer; // answers with what it gets
+    QVERIFY(peer.ready());
+    Window window({"please", "revive"});
+    QVERIFY(!window.isAnotherInstanceRunning());
+    QCOMPARE(peer.stop().value_or(1), DWORD{0});
+    window.reply = QStringLiteral("took over");
+    QCOMPARE(answerTo("text"), std::string("took over"));
+}
+
+void LaterCopyTest::withoutTheCheckOpensItsWindow()
+{
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    Window window({}, nullptr, false);
+    QVERIFY(!window.isAnotherInstanceRunning());
+    QCOMPARE(deliveriesOf(peer), QStringLiteral("1")); // that question itself
+}
+
+void LaterCopyTest::withAParentBringsItsNamesakeForward_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<bool>("forward");
+    QTest::newRow("no arguments") << QString() << true;
+    QTest::newRow("show") << "/show" << true;
+    QTest::newRow("another text") << "/app" << false;
+    QTest::newRow("minimised") << "/show/minimized" << false;
+}
+
+void LaterCopyTest::withAParentBringsItsNamesakeForward()
+{
+    QFETCH(QString, argument);
+    QFETCH(bool, forward);
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    QWidget parent;
+    parent.setWindowTitle(QStringLiteral("Namesake"));
+    QWidget namesake;
+    namesake.setWindowTitle(QStringLiteral("The Namesake's window"));
+    namesake.show();
+    QWidget front;
+    front.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&namesake));
+    QVERIFY(QTest::qWaitForWindowExposed(&front));
+    front.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&front));
+
+    std::vector<std::string> arguments;
+    if (!argument.isEmpty())
+        arguments.push_back(argument.toStdString());
+    const Window window(arguments, &parent);
+    const QWidget& expected = forward ? namesake : front;
+    QCOMPARE(GetForegroundWindow(), reinterpret_cast<HWND>(expected.winId()));
+}
+
+QTEST_MAIN(LaterCopyTest)
+#include "later_copy_test.moc"
