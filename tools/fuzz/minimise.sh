@@ -21,7 +21,7 @@ for target in "${targets[@]}"; do
     find "$kept" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' \
         -exec mv -t "$grown" {} +
     cp "$kept"/* "$work/$target"
-    "$(fuzzProgram "$target")" -merge=1 "$work/$target" "$grown" >"$work/$target.log" 2>&1
+    "$(fuzzProgram "$target")" -merge=1 -use_counters=0 "$work/$target" "$grown" >"$work/$target.log" 2>&1
     find "$work/$target" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' \
         -exec cp -t "$kept" {} +
     echo "$target: $(find "$kept" -type f | wc -l) inputs," \
