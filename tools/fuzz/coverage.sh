@@ -17,7 +17,8 @@ while read -r target; do
     program=$build/tests/fuzz/${target}_fuzz
     LLVM_PROFILE_FILE="$build/$target.profraw" "$program" -runs=0 "tests/fuzz/corpora/$target" \
         >/dev/null 2>&1
-    objects+=(-object "$program")
+    # llvm-cov takes the first program as it is and the others by an option.
+    objects+=(${objects[0]:+-object} "$program")
 done < <(fuzzTargets)
 llvm-profdata merge -o "$build/all.profdata" "$build"/*.profraw
 llvm-cov report "${objects[@]}" -instr-profile "$build/all.profdata" \

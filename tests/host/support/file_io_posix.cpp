@@ -28,6 +28,7 @@ std::string utf8(const std::wstring& text)
             bytes += static_cast<char>(0x80U | ((point >> (6 * continuationBytes)) & 0x3FU));
     };
     for (const wchar_t character : text) {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character is no char
         const auto point = static_cast<unsigned>(character);
         if (point < 0x80)
             append(0, point, 0);
