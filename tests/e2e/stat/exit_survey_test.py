@@ -1,0 +1,182 @@
+"""Exit survey and store offer in the unmodified program: what the person does about them, what the
+statistics service receives, and which store page opens."""
+
+import shutil
+import unittest
+from pathlib import PureWindowsPath
+
+from http_service import answer
+from statistics_world import ServicesMixin, event_of, proxy_values, store_settings
+
+from applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
+from harness import layout, screen
+from harness.case import SuiteTestCase
+from harness.registry import Value
+from harness.suite import SURVEY_TITLE, WARNING_TITLE
+from harness.waiting import wait_until
+
+# Middles of the survey's answers and of the offer's button.
+ANSWERS = {"license": (244, 87), "quality": (244, 137), "features": (244, 187)}
+STORE_BUTTON = (279, 308)
+OFFER_TITLE = "Tessera (Clip|Track) Saver"
+
+VIDEO_OFFER = "offer_install_ms_store"
+MUSIC_OFFER = "offer_install_ms_store_msldl"
+VIDEO_ADDRESS = "ms-windows-store://pdp/?ProductId=XP9EXAMPLE0064&cid=lmc_uninstall"
+MUSIC_ADDRESS = "ms-windows-store://pdp/?ProductId=XP9EXAMPLE0065&cid=lmc_uninstall"
+
+STORE_HANDLER = "StoreHandler"
+LAST_NUMBER = 7
+
+
+def answering(name, about_offer):
+    """Clicks an answer of the survey, then deals with the offer that covers it."""
+    def answer_survey(survey):
+        survey.click(*ANSWERS[name])
+        about_offer(screen.wait_for_window(OFFER_TITLE))
+    return answer_survey
+
+
+def skipping(about_offer):
+    """Closes the survey by its title bar's key."""
+    def skip_survey(survey):
+        survey.press("alt+F4")
+        about_offer(screen.wait_for_window(OFFER_TITLE))
+    return skip_survey
+
+
+def escaping(survey):
+    survey.press("Escape")
+
+
+def pressing_enter_then_escaping(survey):
+    survey.press("Return")
+    escaping(survey)
+
+
+def opening_the_store(offer):
+    offer.click(*STORE_BUTTON)
+
+
+def escaping_the_offer(offer):
+    offer.press("Escape")
+
+
+def closing_the_offer(offer):
+    offer.press("alt+F4")
+
+
+SHOW = [("show", "uninstall_quiz")]
+
+
+def surveyed(name, *offer_events):
+    """An answer is told twice, before and after the offer."""
+    return [*SHOW, ("click", name), *offer_events, ("click", name)]
+
+
+def skipped(*offer_events):
+    return [*SHOW, *offer_events, ("click", "skip")]
+
+
+def opened(offer):
+    return [("show", offer), ("click", offer)]
+
+
+def closed(offer):
+    return [("show", offer), ("close", offer)]
+
+
+class ExitSurvey(ServicesMixin, SuiteTestCase):
+    """Each test removes both surveyed applications in one run, and then one that is running: its
+    warning keeps the program until the service has what was queued, for the program drops what
+    still waits when it ends."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.make_authority()
+
+    def setUp(self):
+        super().setUp()
+        self.trust_authority(self.prefix)
+        handler = PureWindowsPath("C:/handler") / f"{STORE_HANDLER}.exe"
+        target = self.prefix.unix_path(handler)
+        target.parent.mkdir()
+        shutil.copy(layout.ARGUMENT_RECORDER, target)
+        # Wine looks for the handlers of addresses under the machine's classes only.
+        classes = "HKEY_LOCAL_MACHINE\\Software\\Classes\\ms-windows-store"
+        self.prefix.write_registry([
+            Value(classes, "URL Protocol", ""),
+            Value(f"{classes}\\shell\\open\\command", "", f'"{handler}" "%1"')])
+
+    def check(self, about_surveys, expected, addresses=(), **settings):
+        """Runs with one gesture for each survey; the service must receive exactly `expected`."""
+        statistics = self.service(answer(200))
+        suite = self.install([CLIP_SAVER, TRACK_SAVER, PARTNER, SECOND_RUNNING])
+        self.start_application(suite, SECOND_RUNNING)
+        common = self.prefix.unix_path(self.prefix.settings / "common.cfg")
+        store_settings(common, {"EventStatEnabled": 1, "Language": "en", "Location": "NL",
+                                **proxy_values(self.proxy(statistics)), **settings})
+        store_settings(suite.settings_folder(CLIP_SAVER) / "ClipSaver.cfg",
+                       {"EventNumber": LAST_NUMBER})
+
+        program = self.start_program(suite, rows=4)
+        for row in (0, 1, 3):
+            program.main_window.toggle_row(row)
+        program.main_window.press_uninstall()
+        gestures = iter(about_surveys)
+
+        def accept_warning(warning):
+            statistics.wait_for(len(expected))
+            warning.press("Return")
+        titles = program.attend({SURVEY_TITLE: lambda survey: next(gestures)(survey),
+                                 WARNING_TITLE: accept_warning})
+        self.assertEqual(program.exit_code(), 0)
+        self.assertEqual(titles, ["Uninstall Tessera Clip Saver", "Uninstall Tessera Track Saver",
+                                  "Uninstallation"])
+
+        events = [event_of(request) for request in statistics.wait_for(len(expected))]
+        self.assertEqual([(event["event_type"], event["src"]) for event in events], expected)
+        self.assertEqual([event["event_number"] for event in events],
+                         [str(LAST_NUMBER + 1 + index) for index in range(len(expected))])
+        wait_until(lambda: len(suite.records.runs(STORE_HANDLER)) >= len(addresses),
+                   "a store page did not open")
+        self.assertEqual([run.arguments for run in suite.records.runs(STORE_HANDLER)],
+                         [[address] for address in addresses])
+        messages = [message.text for message in suite.log()
+                    if message.text.startswith("cross-sell")]
+        self.assertEqual(messages, [
+            f"cross-sell store app -> ProductId={address.split('=')[1].split('&')[0]}"
+            for address in addresses])
+
+    def test_answers_with_the_store_opened_and_the_offer_escaped(self):
+        self.check([answering("license", opening_the_store),
+                    answering("quality", escaping_the_offer)],
+                   surveyed("uninstall_quiz_license", *opened(VIDEO_OFFER))
+                   + surveyed("uninstall_quiz_quality", *closed(VIDEO_OFFER)),
+                   [VIDEO_ADDRESS])
+
+    def test_the_third_answer_with_the_offer_closed_and_a_silent_escape(self):
+        self.check([answering("features", closing_the_offer), pressing_enter_then_escaping],
+                   surveyed("uninstall_quiz_features", *closed(VIDEO_OFFER)) + SHOW)
+
+    def test_skips_lead_to_the_offer_without_a_close_of_the_survey(self):
+        self.check([skipping(opening_the_store), skipping(escaping_the_offer)],
+                   skipped(*opened(VIDEO_OFFER)) + skipped(*closed(VIDEO_OFFER)),
+                   [VIDEO_ADDRESS])
+
+    def test_the_flag_of_an_application_brings_the_music_offer(self):
+        self.check([answering("license", opening_the_store),
+                    answering("license", opening_the_store)],
+                   surveyed("uninstall_quiz_license", *opened(MUSIC_OFFER))
+                   + surveyed("uninstall_quiz_license", *opened(VIDEO_OFFER)),
+                   [MUSIC_ADDRESS, VIDEO_ADDRESS],
+                   clsv_uninst_ms_msldl_enabled=1, trksv_uninst_ms_msldl_enabled=0)
+
+    def test_the_other_application_has_a_flag_of_its_own(self):
+        self.check([escaping, skipping(closing_the_offer)],
+                   SHOW + skipped(*closed(MUSIC_OFFER)),
+                   clsv_uninst_ms_msldl_enabled="true", trksv_uninst_ms_msldl_enabled=1)
+
+
+if __name__ == "__main__":
+    unittest.main()
