@@ -12,6 +12,7 @@ from harness.prefix import Prefix
 from harness.records import Run
 from harness.suite import LIST_NAMES, PRODUCT_BRAND, SUITE_KEY, RunningApplication, Suite
 from applications import ALL, DAMAGED, HOLDING, RUNNING, Application
+from services import Services
 
 FOLDER = REPOSITORY / "build" / "demo"
 
@@ -40,6 +41,7 @@ class Computer:
         self.prefix = Prefix(FOLDER / "prefix")
         self.suite = Suite(self.prefix, PRODUCT_BRAND)
         self.running: RunningApplication
+        self.services = Services()
 
     def set_up(self) -> None:
         print(f"Installing {len(ALL)} applications of the sample suite ...", flush=True)
@@ -48,12 +50,14 @@ class Computer:
         self.suite.install(ROWS)
         self.suite.place_program()
         self.suite.damage(DAMAGED)
+        self.services.connect(self.suite)
         self.running = self.suite.start_application(RUNNING)
 
     def tear_down(self) -> None:
         """Ends what still runs; the files stay to be looked at."""
         self.running.stop()
         self.prefix.end()
+        self.services.end()
 
     def let_the_slow_one_finish(self) -> None:
         """Sees every uninstaller to its end. One of them is as slow as the person's patience; the
@@ -125,3 +129,14 @@ class Computer:
             ending = "done" if run.exit_code == 0 else f"failed ({run.exit_code})"
             rows.append([application.display_name, ending, " ".join(run.arguments)])
         table(rows)
+
+    def show_events(self) -> None:
+        """What the local statistics service was told."""
+        events = self.services.events()
+        if not events:
+            print("  none")
+            return
+        table([["number", "action", "what", "application", "version", "country"]]
+              + [[event[member] for member in
+                  ("event_number", "event_type", "src", "appid", "ver", "country_id")]
+                 for event in events])
