@@ -7,10 +7,10 @@ from http_service import answer
 from statistics_world import (ServicesMixin, event_of, proxy_values, store_settings,
                               stored_settings)
 
-from applications import CLIP_SAVER, PARTNER, TRACK_SAVER
+from applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 from harness import screen
 from harness.case import SuiteTestCase
-from harness.suite import SURVEY_TITLE
+from harness.suite import SURVEY_TITLE, WARNING_TITLE
 
 OFFER_TITLE = "Tessera (Clip|Track) Saver"
 SECOND_START_LIMIT = 10.0
@@ -41,7 +41,10 @@ class ProgramStatistics(ServicesMixin, SuiteTestCase):
         geo = self.service(answer(200, b"NL"))
         statistics = self.service(answer(200))
         proxy = self.proxy(statistics, geo, ("ann", "secret"))
-        suite = self.install([CLIP_SAVER, TRACK_SAVER, PARTNER])
+        suite = self.install([CLIP_SAVER, TRACK_SAVER, PARTNER, SECOND_RUNNING])
+        # Its warning keeps the program until every event has gone out: those that still wait when
+        # the program ends are dropped.
+        self.start_application(suite, SECOND_RUNNING)
         store_settings(self.common_file, {"EventStatEnabled": 1, "Language": "en",
                                           **proxy_values(proxy, "ann", "secret")})
         installed = {"AdvType": "search", "CampType": "spring", "EventNumber": 41,
@@ -51,14 +54,18 @@ class ProgramStatistics(ServicesMixin, SuiteTestCase):
         # The second surveyed application does not start the statistics anew.
         store_settings(self.application_file(TRACK_SAVER), {"EventNumber": 500, "Version": "9"})
 
-        program = self.start_program(suite, rows=3)
-        program.main_window.toggle_row(0)
-        program.main_window.toggle_row(1)
+        program = self.start_program(suite, rows=4)
+        for row in (0, 1, 3):
+            program.main_window.toggle_row(row)
         program.main_window.press_uninstall()
-        surveys = program.attend({SURVEY_TITLE: skip_and_decline})
+
+        def accept_warning(warning):
+            statistics.wait_for(8)
+            warning.press("Return")
+        windows = program.attend({SURVEY_TITLE: skip_and_decline, WARNING_TITLE: accept_warning})
         self.assertEqual(program.exit_code(), 0)
-        self.assertEqual(surveys, ["Uninstall Tessera Clip Saver",
-                                   "Uninstall Tessera Track Saver"])
+        self.assertEqual(windows, ["Uninstall Tessera Clip Saver",
+                                   "Uninstall Tessera Track Saver", "Uninstallation"])
 
         common = stored_settings(self.common_file)
         self.assertRegex(common["ClientGuid"], "^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")
