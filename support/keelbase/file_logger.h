@@ -15,7 +15,7 @@ namespace Keelbase {
 struct RotationLimits
 {
     std::size_t fileSize = std::size_t{1024} * 1024; // bytes of one file
-    std::size_t olderFiles = 3;         // name.1.log to name.3.log
+    std::size_t olderFiles = 3;                      // name.1.log to name.3.log
 };
 
 // The file is open only while a message is written: what was logged survives a crash, and the
