@@ -52,7 +52,7 @@ bench: setup ## measure the logic and the message channel beside others (docs/pe
 fuzz: ## run each fuzz target for FUZZ_SECONDS (60) under sanitizers
 	@tools/fuzz/run.sh
 
-lint: ## check formatting, shell scripts and spelling
+lint: ## check formatting, shell scripts and spelling; clang-tidy and cppcheck
 	@tools/setup/packages.sh lint
 	@tools/lint.sh
 
