@@ -3,12 +3,15 @@
 
     report.py HOST_BENCH [REPETITIONS]
 
-A ratio above 1 says how many times faster ours is. Repetitions of all benchmarks are mixed, so that
-a busy moment of the machine does not fall on one of them only.
+A ratio above 1 says how many times faster ours is. Every measurement has a process of its own, so
+that none finds its memory as another one left it, and the repetitions go round all of them, so that a
+busy moment of the machine does not fall on one of them only.
 """
 
 import json
 import os
+import re
+import statistics
 import subprocess
 import sys
 from typing import Dict, List, Optional, Tuple
@@ -17,22 +20,33 @@ Medians = Dict[str, float]
 Row = Tuple[str, ...]
 
 
-def measure(program: str, repetitions: int) -> Medians:
-    """Median processor time in nanoseconds by benchmark name."""
+def names(program: str) -> List[str]:
+    listed = subprocess.run([program, "--benchmark_list_tests"], check=True,
+                            stdout=subprocess.PIPE, text=True)
+    return listed.stdout.split()
+
+
+def measure_once(program: str, name: str) -> float:
+    """Processor time in nanoseconds: the machine may be busy with other things. A benchmark that
+    takes its time itself takes real time."""
     done = subprocess.run(
-        [program, "--benchmark_format=json", f"--benchmark_repetitions={repetitions}",
-         "--benchmark_report_aggregates_only=true", "--benchmark_enable_random_interleaving=true",
-         "--benchmark_min_time=0.1"],
-        check=True, stdout=subprocess.PIPE)
-    medians = {}
-    for entry in json.loads(done.stdout)["benchmarks"]:
-        if entry["aggregate_name"] == "median":
-            name = entry["run_name"].replace("/manual_time", "").split("/iterations:")[0]
-            scale = {"ns": 1, "us": 1e3, "ms": 1e6}[entry["time_unit"]]
-            # The machine may be busy with other things; a manual time is real by nature.
-            kind = "real_time" if "manual_time" in entry["run_name"] else "cpu_time"
-            medians[name] = entry[kind] * scale
-    return medians
+        [program, "--benchmark_format=json", "--benchmark_min_time=0.1",
+         "--benchmark_repetitions=3", f"--benchmark_filter=^{re.escape(name)}$"],
+        check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    # The median leaves out the first one, which is the one that gets its memory from the system.
+    [entry] = [entry for entry in json.loads(done.stdout)["benchmarks"]
+               if entry.get("aggregate_name") == "median"]
+    kind = "real_time" if "manual_time" in name else "cpu_time"
+    return entry[kind] * {"ns": 1, "us": 1e3, "ms": 1e6}[entry["time_unit"]]
+
+
+def measure(program: str, repetitions: int) -> Medians:
+    times: Dict[str, List[float]] = {name: [] for name in names(program)}
+    for _ in range(repetitions):
+        for name, measured in times.items():
+            measured.append(measure_once(program, name))
+    return {name.replace("/manual_time", "").split("/iterations:")[0]: statistics.median(measured)
+            for name, measured in times.items()}
 
 
 def duration(nanoseconds: Optional[float]) -> str:
@@ -45,7 +59,7 @@ def duration(nanoseconds: Optional[float]) -> str:
 
 
 def table(title: str, head: Row, rows: List[Row]) -> None:
-    print(f"\n#### {title}\n")
+    print(f"\n### {title}\n")
     for line in (head, tuple("---" for _ in head), *rows):
         print("| " + " | ".join(line) + " |")
 
@@ -107,7 +121,7 @@ def report_sending(medians: Medians) -> None:
 
 def main() -> None:
     program = sys.argv[1]
-    repetitions = int(sys.argv[2]) if len(sys.argv) > 2 else 9
+    repetitions = int(sys.argv[2]) if len(sys.argv) > 2 else 5
     medians = measure(program, repetitions)
     print(f"Medians of {repetitions} repetitions, {os.cpu_count()} processors, load "
           f"{os.getloadavg()[0]:.1f}")
