@@ -54,6 +54,16 @@ QStringList RunTestBase::startsOf(const QString& idString, const QString& progra
     return lines;
 }
 
+QStringList RunTestBase::awaitedStartsOf(const QString& idString)
+{
+    QStringList starts;
+    const auto started = [&] {
+        starts = startsOf(idString);
+        return !starts.isEmpty();
+    };
+    return QTest::qWaitFor(started, deadlineMs) ? starts : QStringList();
+}
+
 std::unique_ptr<QProcess> RunTestBase::startApplication(const QString& idString)
 {
     const QString program = folder->filePath(idString + QStringLiteral(".exe"));

@@ -28,6 +28,10 @@ protected:
     QStringList startsOf(const QString& idString,
                          const QString& program = QStringLiteral("Uninst.exe"));
 
+    // The same, as soon as there is one: on a busy machine an uninstaller may get to its first
+    // line only after the run has stopped waiting for it.
+    QStringList awaitedStartsOf(const QString& idString);
+
     // Starts a program that holds the application's instance mutex, and waits until it does.
     std::unique_ptr<QProcess> startApplication(const QString& idString);
 

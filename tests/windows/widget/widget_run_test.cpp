@@ -32,7 +32,7 @@ void WidgetRunTest::selectiveRunPassesItsSwitchesAndRemovesTheRow()
     WindowUnderTest under;
     under.list->item(under.rowOf(QStringLiteral("Screen Taker")))->setCheckState(Qt::Checked);
     QVERIFY(press(under));
-    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")),
              QStringList{logSwitch(QStringLiteral("ScreenTaker")) +
                          QStringLiteral("|/SILENT|/SUPPRESSMSGBOXES")});
     QCOMPARE(startsOf(QStringLiteral("WaveTuner")), QStringList());
@@ -57,7 +57,7 @@ void WidgetRunTest::selectiveRunWithDeleteSettingsAddsFull()
     under.list->item(under.rowOf(QStringLiteral("Screen Taker")))->setCheckState(Qt::Checked);
     under.deleteSettings->setChecked(true);
     QVERIFY(press(under));
-    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")),
              QStringList{logSwitch(QStringLiteral("ScreenTaker")) +
                          QStringLiteral("|/SILENT|/FULL|/SUPPRESSMSGBOXES")});
 }
@@ -75,13 +75,13 @@ void WidgetRunTest::fullRunCountsRowsDownAndTakesTheSuiteLast()
     QVERIFY(press(under));
 
     const QString rest = QStringLiteral("/SILENT|/SUPPRESSMSGBOXES|/DISABLEREDIRECT");
-    QCOMPARE(startsOf(QStringLiteral("AlbumKeeper")), QStringList{rest});
-    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")), QStringList{rest});
-    QCOMPARE(startsOf(QStringLiteral("WaveTuner")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("AlbumKeeper")), QStringList{rest});
+    QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")), QStringList{rest});
+    QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")),
              QStringList{logSwitch(QStringLiteral("WaveTuner")) + QLatin1Char('|') + rest});
-    QCOMPARE(startsOf(QStringLiteral("NotInTheCatalogue")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("NotInTheCatalogue")),
              QStringList{logSwitch(QStringLiteral("NotInTheCatalogue")) + QLatin1Char('|') + rest});
-    QCOMPARE(startsOf(QStringLiteral("Tessera")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("Tessera")),
              QStringList{logSwitch(QStringLiteral("Tessera")) +
                          QStringLiteral("|/SILENT|/SUPPRESSMSGBOXES|/LASTAPP")});
     QCOMPARE(under.list->count(), 0);
@@ -98,9 +98,9 @@ void WidgetRunTest::fullRunWithDeleteSettingsDropsTheLogSwitch()
     QVERIFY(under.show());
     QTest::mouseClick(under.select, Qt::LeftButton);
     QVERIFY(press(under));
-    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")),
              QStringList{QStringLiteral("/SILENT|/FULL|/SUPPRESSMSGBOXES|/DISABLEREDIRECT")});
-    QCOMPARE(startsOf(QStringLiteral("Tessera")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("Tessera")),
              QStringList{QStringLiteral("/SILENT|/FULL|/SUPPRESSMSGBOXES|/LASTAPP")});
 }
 
@@ -122,7 +122,7 @@ void WidgetRunTest::everyRowWithoutASuiteRowEndsQuietly()
     QVERIFY(press(under));
     QCOMPARE(under.list->count(), 0);
     // The last application is the last row, and it is told so.
-    QCOMPARE(startsOf(QStringLiteral("WaveTuner")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")),
              QStringList{logSwitch(QStringLiteral("WaveTuner")) +
                          QStringLiteral("|/SILENT|/SUPPRESSMSGBOXES|/LASTAPP")});
 }
@@ -157,7 +157,7 @@ void WidgetRunTest::missingProgramDoesNotStopTheRun()
     WindowUnderTest under;
     under.window.changeItemsState(true);
     QVERIFY(press(under));
-    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")).size(), 1);
+    QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")).size(), 1);
     QCOMPARE(under.list->count(), 0);
     int failures = 0;
     for (const Keelbase::LogRecord& record : log.records()) {
@@ -181,7 +181,7 @@ void WidgetRunTest::longAndQuotedCommandsArriveWhole()
     // A second row keeps the run selective.
     under.list->addItem(QStringLiteral("other"));
     QVERIFY(press(under));
-    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")),
+    QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")),
              QStringList{QStringLiteral("/log=C:\\logs\\ScreenTaker_uninstall ") + filler +
                          QStringLiteral("|/SILENT|/SUPPRESSMSGBOXES")});
 }
@@ -199,7 +199,7 @@ void WidgetRunTest::uninstallerOverTwoSecondsIsLeftRunning()
         QVERIFY(press(under));
         QVERIFY(timer.elapsed() >= 2000);
         QVERIFY(!QFile::exists(slow + QStringLiteral(".done")));
-        QCOMPARE(startsOf(QStringLiteral("WaveTuner")).size(), 1);
+        QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")).size(), 1);
     }
     // The window is gone, its uninstaller is not.
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(slow + QStringLiteral(".done")), deadlineMs);

@@ -35,8 +35,8 @@ void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
     QCOMPARE(boxTexts.size(), 1);
     QCOMPARE(boxTitles, QStringList{QStringLiteral("Uninstallation")});
     QVERIFY(running->state() == QProcess::NotRunning || running->waitForFinished(deadlineMs));
-    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")).size(), 1);
-    QCOMPARE(startsOf(QStringLiteral("WaveTuner")).size(), 1);
+    QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")).size(), 1);
+    QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")).size(), 1);
 }
 
 void WidgetWarningTest::cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing()
@@ -135,7 +135,7 @@ void WidgetWarningTest::suiteRowAsksForApplicationsThatAreNotListed()
     QVERIFY(press(under));
     QCOMPARE(boxTexts.size(), 1);
     QVERIFY(running->state() == QProcess::NotRunning || running->waitForFinished(deadlineMs));
-    QCOMPARE(startsOf(QStringLiteral("Tessera")).size(), 1);
+    QCOMPARE(awaitedStartsOf(QStringLiteral("Tessera")).size(), 1);
 }
 
 void WidgetWarningTest::warningNamesTheInstallFolder()
