@@ -1,3 +1,4 @@
+#include "tests/support/recorded_log.h"
 #include "tests/windows/support/scratch_folder.h"
 #include "ui/common/sys/file_io.h"
 #include "ui/common/sys/file_io_open.h"
@@ -8,6 +9,7 @@
 
 #include <cerrno>
 #include <string>
+#include <vector>
 
 using windows_tests::readBytes;
 using windows_tests::ScratchFolder;
@@ -164,6 +166,35 @@ TEST(FileIo, WriteThatFailsHasItsOwnCode)
         EXPECT_EQ(sys::writeWholeFile(scratch / L"locked", "new"), 100004);
     }
     EXPECT_EQ(readBytes(scratch / L"locked"), "old");
+}
+
+TEST(FileIo, FailureToOpenIsLoggedAsThat)
+{
+    const ScratchFolder scratch;
+    writeBytes(scratch / L"locked", "x");
+    const win32::FileHandle lock = openFile(scratch / L"locked", GENERIC_READ, 0);
+    ASSERT_TRUE(lock);
+    const testing_support::RecordedLog log;
+    std::string content;
+    sys::readWholeFile(scratch / L"locked", content);
+    sys::writeWholeFile(scratch / L"locked", "new");
+    const std::vector<Keelbase::LogRecord> records = log.records();
+    ASSERT_EQ(records.size(), 2U);
+    for (const Keelbase::LogRecord& record : records) {
+        EXPECT_EQ(record.level, Keelbase::levelDetail);
+        EXPECT_EQ(record.text.rfind("CreateFileW failed: 32 ", 0), 0U) << record.text;
+    }
+}
+
+TEST(FileIo, FailureToReadIsLoggedAsThat)
+{
+    const ScratchFolder scratch;
+    writeBytes(scratch / L"file", "bytes");
+    const testing_support::RecordedLog log;
+    std::string content;
+    sys::readWholeFile(scratch / L"file", content, &openForAppending);
+    ASSERT_EQ(log.records().size(), 1U);
+    EXPECT_EQ(log.records().front().text.rfind("ReadFile failed: ", 0), 0U);
 }
 
 TEST(FileIo, ExistenceCountsFoldersToo)

@@ -48,8 +48,10 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
 {
     try {
         std::FILE* opened = nullptr;
-        if (const int error = open(&opened, path.c_str(), L"rb"); error != 0)
+        if (const int error = open(&opened, path.c_str(), L"rb"); error != 0) {
+            win32::logFailure(category, source, __LINE__, "CreateFileW", GetLastError());
             return error;
+        }
         const Stream stream(opened);
         if (!stream)
             return openedWithoutStream;
@@ -79,6 +81,10 @@ int writeWholeFile(const std::wstring& path, const std::string& text)
 {
     try {
         std::ofstream stream(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
+        if (!stream.is_open()) {
+            win32::logFailure(category, source, __LINE__, "CreateFileW", GetLastError());
+            return readOrWriteFailed;
+        }
         stream.write(text.data(), static_cast<std::streamsize>(std::strlen(text.c_str())));
         stream.close();
         if (stream)
