@@ -1,7 +1,7 @@
 // The running application of the sample suite. Installed as <IdString>.exe it holds the mutex that
 // tells the suite that the application runs, says "ready" on its standard output, and stays until
 // it is ended from outside.
-#include <windows.h>
+#include "tools/sample_suite/record_file.h"
 
 #include <cstdio>
 #include <string>
@@ -11,19 +11,11 @@ namespace {
 // Nothing ends a copy that a test forgot; it leaves by itself.
 constexpr DWORD longestLifeMs = 30 * 60 * 1000;
 
-std::wstring ownIdString()
-{
-    std::wstring path(32'768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    path.erase(0, path.find_last_of(L'\\') + 1);
-    return path.substr(0, path.find_last_of(L'.'));
-}
-
 } // namespace
 
 int main()
 {
-    const std::wstring name = L"Global\\Lumacraft_" + ownIdString();
+    const std::wstring name = L"Global\\Lumacraft_" + sample_suite::ownName();
     const HANDLE mutex = CreateMutexW(nullptr, FALSE, name.c_str());
     if (mutex == nullptr) {
         std::fprintf(stderr, "CreateMutexW failed with error %lu\n", GetLastError());

@@ -110,6 +110,13 @@ class MainWindow:
         wait_until(lambda: self._rows()[row].checked != box.checked,
                    f"row {row} did not change its state")
 
+    def press_in_list(self, *keys: str) -> None:
+        """Gives the list the keyboard by a click on a row's text, and presses keys there."""
+        box = wait_until(self._rows, "no row is shown")[0]
+        self.window.click(box.x + _BOX_COLUMNS, box.y)
+        self.window.press(*keys)
+        self.window.move_mouse(*_REST)
+
     def toggle_delete_settings(self) -> None:
         box = self._delete_box()
         self.window.click(box.x, box.y)

@@ -26,6 +26,7 @@ private slots:
     void namesThatAreNoCatalogueEntriesAreListedToo();
     void valuesThatAreNoTextAreListedToo();
     void hugeNamesAreListedWhole();
+    void namesInAnyScriptAreListedAsTheyAre();
     void pluginsAreLookedForBesideTheProgramOnly();
 };
 
@@ -246,6 +247,27 @@ void WidgetFormTest::hugeNamesAreListedWhole()
 }
 
 // The folder that the toolkit was built into may exist on a user's machine, made by anybody.
+void WidgetFormTest::namesInAnyScriptAreListedAsTheyAre()
+{
+    SuiteRegistry registry;
+    // In the list's order: an accent as a letter of its own, then the same as one with its letter;
+    // from right to left; with an override of the direction; beyond the basic plane.
+    const QStringList names{QString::fromUtf8("Cafe\u0301 Player"),
+                            QString::fromUtf8("Caf\u00e9 Player"),
+                            QString(255, QLatin1Char('N')),
+                            QString::fromUtf8("\u05de\u05e1\u05d9\u05e8 Media 2026"),
+                            QString::fromUtf8("\u202etfel ot thgir"),
+                            QString::fromUtf8("\U0001f3b5 Music")};
+    for (const QString& name : names)
+        registry.addApplication(name, QStringLiteral("c:\\a.exe /log=1"));
+    WindowUnderTest under;
+    QVERIFY(under.show());
+    QStringList listed;
+    for (int row = 0; row < under.list->count(); ++row)
+        listed.append(under.list->item(row)->text());
+    QCOMPARE(listed, names);
+}
+
 void WidgetFormTest::pluginsAreLookedForBesideTheProgramOnly()
 {
     const QString home = QCoreApplication::applicationDirPath();

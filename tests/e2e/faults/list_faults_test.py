@@ -1,0 +1,102 @@
+"""Lists that are longer, and names that are stranger, than any installer of the suite makes."""
+
+import unittest
+
+import paths  # noqa: F401  (makes the harness importable)
+import probes
+from harness.case import SuiteTestCase
+from harness.registry import Value
+from harness.suite import SUITE_KEY, Suite
+from harness.waiting import wait_until
+
+LIST_KEY = f"{SUITE_KEY}\\UninstPaths"
+SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
+MANY = 500
+SHOWN = 9
+
+# In the order of the list: by the values of their UTF-16 units.
+NAMES = [
+    "Cafe\u0301 Player",         # the accent is a letter of its own
+    "Caf\u00e9 Player",          # looks the same
+    "N" * 255,
+    "\u05de\u05e1\u05d9\u05e8 Media 2026",                   # right to left, with digits and Latin
+    "\u0645\u0634\u063a\u0651\u0644 \u0627\u0644\u0635\u0648\u062a",
+    "\u202etfel ot thgir",       # an override
+    "\U0001f3b5 Music",          # two units
+]
+PRECOMPOSED = 1
+
+
+class ListFaults(SuiteTestCase):
+    """Each row's command has a log switch of its own, by which the runs are told apart."""
+
+    def setUp(self):
+        super().setUp()
+        self.suite = Suite(self.prefix)
+        self.suite.install([])
+        self.suite.place_program()
+        probes.place_working(self.prefix, "works")
+
+    def register(self, names):
+        self.prefix.write_registry([
+            Value(LIST_KEY, name, f"{probes.path('works')} {self.log_switch(number)}")
+            for number, name in enumerate(names)])
+
+    @staticmethod
+    def log_switch(number):
+        return probes.log_switch(f"row{number}")
+
+    def assert_ran(self, *numbers):
+        """The rows' uninstallers, in this order, and no other."""
+        runs = self.suite.records.runs
+        wait_until(lambda: len(runs("works")) >= len(numbers), "an uninstaller did not begin")
+        self.assertEqual([run.arguments for run in runs("works")],
+                         [[self.log_switch(number), *SELECTIVE] for number in numbers])
+
+    def start(self, shown):
+        return self.start_program(self.suite, rows=shown)
+
+    def end_run(self, program):
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+    def test_five_hundred_rows_scroll_and_are_removed_by_choice(self):
+        self.register([f"Application {number:03}" for number in range(MANY)])
+        program = self.start(SHOWN)
+        window = program.main_window
+        window.select_all()
+        top = window.settled_picture()
+        window.press_in_list("End")
+        self.assertNotEqual(window.settled_picture(), top)
+        window.wait_for_checked_rows([True] * SHOWN)  # those that were out of sight too
+        window.press_select_button()
+        window.wait_for_checked_rows([False] * SHOWN)
+        window.toggle_row(SHOWN - 1)
+        window.press_in_list("Home")
+        window.wait_for_checked_rows([False] * SHOWN)
+        window.toggle_row(0)
+        window.toggle_row(3)
+        window.toggle_delete_settings()
+        self.end_run(program)
+        self.assert_ran(0, 3, MANY - 1)
+        self.assertEqual(len(self.suite.registered()), MANY)
+
+    def test_names_in_any_script_lead_to_their_own_commands(self):
+        self.register(NAMES)
+        program = self.start(len(NAMES))
+        chosen = [number for number in range(len(NAMES)) if number != PRECOMPOSED]
+        for number in chosen:
+            program.main_window.toggle_row(number)
+        self.end_run(program)
+        self.assert_ran(*chosen)
+
+    def test_of_two_names_that_look_the_same_each_has_its_own_command(self):
+        self.register(NAMES)
+        program = self.start(len(NAMES))
+        program.main_window.toggle_row(PRECOMPOSED)
+        self.end_run(program)
+        self.assert_ran(PRECOMPOSED)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,80 @@
+// An uninstaller that goes wrong. It records its command line as every sample uninstaller does, and
+// then does what its file name says:
+//   hangs.exe       never ends by itself
+//   crashes.exe     writes to an address that is not there
+//   hands_over.exe  starts a copy of itself and ends; the copy ends when the file
+//                   C:\records\hands_over.release is there
+//   drops_key.exe   deletes everything that the suite has in the registry
+#include "tools/sample_suite/record_file.h"
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+// What a test forgot leaves by itself.
+constexpr DWORD longestLifeMs = 30 * 60 * 1000;
+constexpr DWORD lookAgainMs = 20;
+
+constexpr const wchar_t* copyMark = L"copy of hands_over";
+
+int crash()
+{
+    int* volatile nowhere = nullptr;
+    *nowhere = 1;
+    return 0;
+}
+
+int handOver()
+{
+    std::wstring commandLine = copyMark;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION copy{};
+    if (!CreateProcessW(sample_suite::ownPath().c_str(), commandLine.data(), nullptr, nullptr,
+                        FALSE, 0, nullptr, nullptr, &startup, &copy))
+        return 1;
+    CloseHandle(copy.hThread);
+    CloseHandle(copy.hProcess);
+    return 0;
+}
+
+int workAsCopy()
+{
+    const std::wstring release =
+        std::wstring(sample_suite::recordsFolder) + L"\\hands_over.release";
+    for (DWORD waited = 0; waited < longestLifeMs; waited += lookAgainMs) {
+        if (GetFileAttributesW(release.c_str()) != INVALID_FILE_ATTRIBUTES)
+            return sample_suite::recordEnd() ? 0 : 1;
+        Sleep(lookAgainMs);
+    }
+    return 1;
+}
+
+int dropKey()
+{
+    if (RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Corvane") != ERROR_SUCCESS)
+        return 1;
+    return sample_suite::recordEnd() ? 0 : 1;
+}
+
+} // namespace
+
+int main()
+{
+    if (std::wstring(GetCommandLineW()) == copyMark)
+        return workAsCopy();
+    if (!sample_suite::recordCommandLine())
+        return 1;
+    const std::wstring behaviour = sample_suite::ownName();
+    if (behaviour == L"hangs")
+        Sleep(longestLifeMs);
+    if (behaviour == L"crashes")
+        return crash();
+    if (behaviour == L"hands_over")
+        return handOver();
+    if (behaviour == L"drops_key")
+        return dropKey();
+    std::fprintf(stderr, "%ls: no such behaviour\n", behaviour.c_str());
+    return 1;
+}

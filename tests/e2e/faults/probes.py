@@ -1,0 +1,43 @@
+"""Programs that registered commands name in these tests."""
+
+import shutil
+from pathlib import Path
+
+from harness import layout
+from harness.prefix import Prefix
+
+FOLDER = "C:\\probe dir"
+MISBEHAVING = layout.WINE_TOOLS / "misbehaving_uninstaller.exe"
+
+
+def path(name: str) -> str:
+    return f"{FOLDER}\\{name}.exe"
+
+
+def log_switch(name: str) -> str:
+    return f"/log=C:\\logs\\{name}_uninstall.log"
+
+
+def command(name: str) -> str:
+    return f"{path(name)} {log_switch(name)}"
+
+
+def _target(prefix: Prefix, name: str) -> Path:
+    file = prefix.unix_path(path(name))
+    file.parent.mkdir(exist_ok=True)
+    return file
+
+
+def place_working(prefix: Prefix, name: str) -> None:
+    """Records its arguments and ends."""
+    shutil.copy(layout.ARGUMENT_RECORDER, _target(prefix, name))
+
+
+def place_misbehaving(prefix: Prefix, name: str) -> None:
+    """Does what its name says (misbehaving_uninstaller.cpp)."""
+    shutil.copy(MISBEHAVING, _target(prefix, name))
+
+
+def place_text(prefix: Prefix, name: str) -> None:
+    """Is no program."""
+    _target(prefix, name).write_text("not a program\n")

@@ -1,0 +1,199 @@
+"""Settings that cannot be written. The program writes common.cfg in one situation only: the first
+survey of a run stores the country and then the identity. The country service is the place where
+these tests get hold of the program just before it saves."""
+
+import ctypes
+import os
+import resource
+import subprocess
+import sys
+import unittest
+
+import paths  # noqa: F401  (makes the harness importable)
+from applications import CLIP_SAVER, PARTNER
+from harness import processes, screen
+from harness.case import SuiteTestCase
+from harness.suite import SURVEY_TITLE
+from http_service import answer
+from statistics_world import ServicesMixin, event_of, proxy_values, store_settings
+
+DETAILED = {"KEELBASE_LOG_LEVEL": "7"}
+WITHOUT_LOG = {"KEELBASE_LOG_LEVEL": "0"}
+GUID = "^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$"
+SAVES = 2  # the country, the identity
+
+READ_ONLY_FOLDER, READ_ONLY_FILE = 0o555, 0o444
+FOLDER, FILE = 0o755, 0o644
+
+PR_CAPBSET_DROP = 24
+CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH = 1, 2
+
+
+def setUpModule():
+    """From here on what root starts is bound by the modes of files, as every other user is."""
+    if os.geteuid() == 0:
+        libc = ctypes.CDLL(None, use_errno=True)
+        for capability in (CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH):
+            if libc.prctl(PR_CAPBSET_DROP, capability, 0, 0, 0) != 0:
+                raise OSError(ctypes.get_errno(), "a capability could not be given up")
+
+
+class SettingsFaults(ServicesMixin, SuiteTestCase):
+
+    @classmethod
+    def setUpClass(cls):
+        cls.make_authority()
+
+    def setUp(self):
+        super().setUp()
+        self.trust_authority(self.prefix)
+        self.settings = self.prefix.unix_path(self.prefix.settings)
+        self.common = self.settings / "common.cfg"
+
+    def install_with_services(self, country=answer(200, b"NL"), **settings):
+        """Clip Saver, which has a survey, and another; `country` answers the one request."""
+        self.geo = self.service(country)
+        self.statistics = self.service(answer(200))
+        self.suite = self.install([CLIP_SAVER, PARTNER])
+        store_settings(self.common, {"EventStatEnabled": 1, "Language": "en", **settings,
+                                     **proxy_values(self.proxy(self.statistics, self.geo))})
+
+    def start(self, environment, row=0):
+        program = self.start_program(self.suite, rows=2, environment=environment)
+        program.main_window.toggle_row(row)
+        program.main_window.press_uninstall()
+        return program
+
+    def remove_clip_saver(self, events=1):
+        """Returns the last of so many events that the service then has. The survey stays until
+        they are there: an event that waits when the program ends is dropped."""
+        program = self.start(DETAILED)
+
+        def decline(survey):
+            self.statistics.wait_for(events)
+            survey.press("Escape")
+        self.assertEqual(program.attend({SURVEY_TITLE: decline}), ["Uninstall Tessera Clip Saver"])
+        self.assertEqual(program.exit_code(), 0)
+        self.assertEqual(len(self.statistics.received), events)
+        return event_of(self.statistics.received[-1]) if events else None
+
+    def remove_partner(self):
+        self.assertEqual(self.start(DETAILED, row=1).exit_code(), 0)
+        self.assert_ran(PARTNER)
+
+    def assert_ran(self, application):
+        """It and no other was removed."""
+        self.assert_arguments(self.suite, {application: [
+            self.suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        for other in {CLIP_SAVER, PARTNER} - {application}:
+            self.assert_untouched(self.suite, other)
+
+    def assert_sent_identity(self, event):
+        """What could not be stored still serves this run."""
+        self.assertRegex(event["guid"], GUID)
+        self.assertEqual(event["country_id"], "NL")
+
+    def failures(self):
+        """What the log tells about files."""
+        return [message.text for message in self.suite.log()
+                if message.source == "ui/common/sys/file_io"]
+
+    def write_protect(self, *items):
+        for item in items:
+            item.chmod(READ_ONLY_FOLDER if item.is_dir() else READ_ONLY_FILE)
+            self.addCleanup(item.chmod, FOLDER if item.is_dir() else FILE)
+        for item in items:
+            probe = f"open({str(item / 'probe' if item.is_dir() else item)!r}, 'ab')"
+            refused = subprocess.run([sys.executable, "-c", probe], check=False,
+                                     stderr=subprocess.DEVNULL)
+            self.assertNotEqual(refused.returncode, 0, f"{item} can still be written")
+
+    def test_in_a_read_only_folder_stay_as_they_are(self):
+        self.install_with_services()
+        before = self.common.read_bytes()
+        self.write_protect(self.settings, self.common)
+        self.assert_sent_identity(self.remove_clip_saver())
+        self.assert_ran(CLIP_SAVER)
+        self.assertEqual(self.common.read_bytes(), before)
+        self.assertEqual(self.failures(), ["CreateFileW failed: 5 (Access denied.)"] * SAVES)
+
+    def test_with_a_read_only_log_folder_too_the_run_is_whole(self):
+        self.install_with_services()
+        logs = self.settings / "logs"
+        before = self.common.read_bytes()
+        self.write_protect(self.settings, self.common, logs)
+        self.assert_sent_identity(self.remove_clip_saver())
+        self.assert_ran(CLIP_SAVER)
+        self.assertEqual(self.common.read_bytes(), before)
+        self.assertEqual(list(logs.iterdir()), [])
+
+    def test_that_are_missing_in_a_read_only_folder_are_not_made(self):
+        self.install_with_services()
+        self.common.unlink()
+        self.write_protect(self.settings)
+        self.remove_partner()
+        self.assertFalse(self.common.exists())
+
+    def test_on_a_full_disk_cost_the_run_nothing(self):
+        def fill_disk(connection, stopping):
+            # The device takes every opening, is empty, and has no room for a byte.
+            self.common.unlink()
+            self.common.symlink_to("/dev/full")
+            answer(200, b"NL")(connection, stopping)
+        self.install_with_services(fill_disk)
+        # Of settings that read as empty from now on, "statistics on" is gone too.
+        self.remove_clip_saver(events=0)
+        self.assert_ran(CLIP_SAVER)
+        self.assertEqual(self.failures(), ["WriteFile failed: 112 (Disk full.)"] * SAVES)
+
+    def test_with_a_full_disk_for_the_log_the_run_is_whole(self):
+        self.install_with_services()
+        (self.settings / "logs" / "Uninstall.log").symlink_to("/dev/full")
+        self.assert_sent_identity(self.remove_clip_saver())
+        self.assert_ran(CLIP_SAVER)
+
+    def install_for_an_end_in_the_save(self, **settings):
+        """The system is to end the program in its first save, at the byte `file_limit`. The limit
+        holds for every file; the program runs without a log, or that would end it."""
+        def limit_files(connection, stopping):
+            program = self.suite.program_folder / "Uninstall.exe"
+            for process in processes.find(self.prefix, program):
+                _, most = resource.prlimit(process, resource.RLIMIT_FSIZE)
+                resource.prlimit(process, resource.RLIMIT_FSIZE, (self.file_limit, most))
+            answer(200, b"NL")(connection, stopping)
+        self.install_with_services(limit_files, **settings)
+
+    def end_in_the_save(self, file_limit):
+        self.file_limit = file_limit
+        program = self.start(WITHOUT_LOG)
+        self.geo.wait_for(1)
+        program.exit_code()  # Wine knows none of a process that the system ended
+        self.assertEqual(screen.find_windows(SURVEY_TITLE), [])
+        self.assertEqual(self.suite.records.recorded(), [])
+
+    def test_are_empty_after_an_end_between_emptying_and_writing(self):
+        self.install_for_an_end_in_the_save()
+        self.end_in_the_save(0)
+        self.assertEqual(self.common.read_bytes(), b"")
+        # The next start does without them.
+        self.remove_partner()
+        self.assertEqual(self.common.read_bytes(), b"")
+
+    def test_are_torn_after_an_end_while_writing_and_serve_as_far_as_they_go(self):
+        self.install_for_an_end_in_the_save(Zoom="150")
+        lines = [*self.common.read_bytes().splitlines(keepends=True), b"Location=NL\n"]
+        torn = b"".join(sorted(line for line in lines if not line.endswith(b"=\n")))[:-2]
+        self.end_in_the_save(len(torn))
+        self.assertEqual(self.common.read_bytes(), torn)
+
+        event = self.remove_clip_saver()
+        self.assert_sent_identity(event)
+        self.assert_ran(CLIP_SAVER)
+        self.assertEqual(len(self.geo.received), 1)
+        # The line that was cut off has become a line like any other.
+        guid = f"ClientGuid={event['guid']}\n".encode()
+        self.assertEqual(self.common.read_bytes(), guid + torn + b"\n")
+
+
+if __name__ == "__main__":
+    unittest.main()

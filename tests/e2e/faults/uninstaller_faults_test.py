@@ -1,0 +1,188 @@
+"""Runs over uninstallers that go wrong. Whatever one does, the others get their turn."""
+
+import unittest
+
+import paths  # noqa: F401  (makes the harness importable)
+import probes
+from applications import SUITE
+from harness import processes
+from harness.case import SuiteTestCase
+from harness.registry import Value
+from harness.suite import SUITE_KEY, Suite
+
+LIST_KEY = f"{SUITE_KEY}\\UninstPaths"
+SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
+FULL = [*SELECTIVE, "/DISABLEREDIRECT"]
+WAIT = 2.0
+# How far the log's two times of one wait may be from its length on a busy machine.
+EARLY, LATE = 0.05, 8.0
+
+NOT_STARTED = "DoUninsstall: not started: Process failed to start: "
+DETAILED = {"KEELBASE_LOG_LEVEL": "7"}
+
+
+class UninstallerFaults(SuiteTestCase):
+
+    def setUp(self):
+        super().setUp()
+        self.suite = Suite(self.prefix)
+
+    def install_rows(self, names, applications=()):
+        """A row for each probe, named "<number> <probe>", before those of the applications."""
+        self.suite.install(applications)
+        self.suite.place_program()
+        self.prefix.write_registry([
+            Value(LIST_KEY, f"{number} {name}", probes.command(name))
+            for number, name in enumerate(names)])
+
+    def remove_all_but_the_last(self, rows):
+        program = self.start_program(self.suite, rows=rows, environment=DETAILED)
+        for row in range(rows - 1):
+            program.main_window.toggle_row(row)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+    def texts(self):
+        return [message.text for message in self.suite.log() if message.category == "MainForm"]
+
+    def removals(self):
+        """The log from the press of "Uninstall" on."""
+        texts = self.texts()
+        return texts[texts.index("--> uninstallButtonClicked") + 1:]
+
+    def seconds_of_wait(self, name):
+        """Between the line that names the uninstaller and the next one."""
+        messages = [message for message in self.suite.log() if message.category == "MainForm"]
+        texts = [message.text for message in messages]
+        position = texts.index(f"DoUninsstall: {probes.path(name)}")
+        return (messages[position + 1].time - messages[position].time).total_seconds()
+
+    def assert_ran(self, expected):
+        """Which probes were started, once each, and with which arguments."""
+        for name in expected:
+            self.suite.records.wait_for_begin(name)
+        self.assertEqual({name: [run.arguments for run in self.suite.records.runs(name)]
+                          for name in self.suite.records.recorded()},
+                         {name: [arguments] for name, arguments in expected.items()})
+
+    @staticmethod
+    def selective(*names):
+        """What is logged for them."""
+        return [line for name in names
+                for line in ("--> DoUninsstall: selective", f"DoUninsstall: {probes.path(name)}")]
+
+    def check_selective(self, place, name, started=True):
+        """The probe, one that works and one that is not checked."""
+        place(self.prefix, name)
+        probes.place_working(self.prefix, "works")
+        self.install_rows([name, "works", "stays"])
+        self.remove_all_but_the_last(3)
+        runs = {"works": [probes.log_switch("works"), *SELECTIVE]}
+        if started:
+            runs[name] = [probes.log_switch(name), *SELECTIVE]
+        self.assert_ran(runs)
+        # What was not removed is still registered, to be tried again.
+        self.assertEqual(self.suite.registered(), [f"0 {name}", "1 works", "2 stays"])
+
+    def test_one_that_hangs_is_left_behind_after_two_seconds(self):
+        self.check_selective(probes.place_misbehaving, "hangs")
+        self.assertEqual(self.removals(), [*self.selective("hangs", "works"), "~Widget()"])
+        self.assertGreater(self.seconds_of_wait("hangs"), WAIT - EARLY)
+        self.assertLess(self.seconds_of_wait("hangs"), WAIT + LATE)
+        self.assertTrue(processes.running(self.prefix, probes.path("hangs")))
+        self.assertIsNone(self.suite.records.runs("hangs")[0].exit_code)
+
+    def test_one_that_crashes_counts_as_ended(self):
+        self.check_selective(probes.place_misbehaving, "crashes")
+        self.assertEqual(self.removals(), [*self.selective("crashes", "works"), "~Widget()"])
+        self.assertIsNone(self.suite.records.runs("crashes")[0].exit_code)
+        self.assertFalse(processes.running(self.prefix, probes.path("crashes")))
+
+    def test_the_child_of_one_that_ended_is_not_waited_for(self):
+        self.check_selective(probes.place_misbehaving, "hands_over")
+        self.assertEqual(self.removals(), [*self.selective("hands_over", "works"), "~Widget()"])
+        self.assertLess(self.seconds_of_wait("hands_over"), WAIT - EARLY)
+        # The program has ended; the child has not, and completes its work.
+        self.assertIsNone(self.suite.records.runs("hands_over")[0].exit_code)
+        self.suite.records.release("hands_over")
+        self.assertEqual(self.suite.records.wait_for_end("hands_over").exit_code, 0)
+
+    def check_not_started(self, place, reason):
+        self.check_selective(place, "broken", started=False)
+        self.assertEqual(self.removals(), [
+            *self.selective("broken"), NOT_STARTED + reason, *self.selective("works"), "~Widget()"])
+        self.assertLess(self.seconds_of_wait("broken"), WAIT - EARLY)
+
+    def test_one_that_is_missing_is_told_in_the_detailed_log(self):
+        self.check_not_started(lambda prefix, name: None, "File not found.")
+
+    def test_one_that_is_no_program_is_told_in_the_detailed_log(self):
+        # Wine has no words for Windows' error 193.
+        self.check_not_started(probes.place_text, "Unknown error 0x000000c1.")
+
+    def test_a_full_run_over_all_of_them_reaches_the_suite(self):
+        names = ["crashes", "hands_over", "hangs", "missing", "text", "works"]
+        for name in names[:3]:
+            probes.place_misbehaving(self.prefix, name)
+        probes.place_text(self.prefix, "text")
+        probes.place_working(self.prefix, "works")
+        self.install_rows(names, [SUITE])
+        program = self.start_program(self.suite, rows=7, environment=DETAILED)
+        program.main_window.select_all()
+        program.main_window.toggle_delete_settings()
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+        self.suite.records.release("hands_over")
+        self.suite.records.wait_for_end("hands_over")
+
+        self.assert_ran({
+            "crashes": FULL, "hands_over": FULL, "hangs": FULL,
+            "works": [probes.log_switch("works"), *FULL],
+            SUITE.id_string: [self.suite.log_switch(SUITE), *SELECTIVE, "/LASTAPP"]})
+        lines = []
+        for name in names:
+            lines += ["--> DoUninsstall: full", f"DoUninsstall: {probes.path(name)}"]
+            if name in ("missing", "text"):
+                lines.append(NOT_STARTED)
+        lines += ["--> DoUninsstall: full", f"DoUninsstall: {self.suite.uninstaller(SUITE)}",
+                  "~Widget()"]
+        self.assertEqual([NOT_STARTED if text.startswith(NOT_STARTED) else text
+                          for text in self.removals()], lines)
+        self.assert_removed(self.suite, SUITE, with_settings=False)
+
+    def test_the_key_deleted_in_between_leaves_the_rest_alone(self):
+        probes.place_misbehaving(self.prefix, "drops_key")
+        probes.place_working(self.prefix, "works")
+        self.install_rows(["works", "drops_key", "works", "stays"])
+        self.remove_all_but_the_last(4)
+        self.assert_ran({"works": [probes.log_switch("works"), *SELECTIVE],
+                         "drops_key": [probes.log_switch("drops_key"), *SELECTIVE]})
+        self.assertEqual(self.removals(), [*self.selective("works", "drops_key"),
+                                           "--> DoUninsstall: selective", "~Widget()"])
+        self.assertEqual(self.suite.registry(), {})
+
+    def test_the_key_deleted_in_a_full_run_spares_the_suite_too(self):
+        probes.place_misbehaving(self.prefix, "drops_key")
+        probes.place_working(self.prefix, "works")
+        self.install_rows(["drops_key", "works"], [SUITE])
+        program = self.start_program(self.suite, rows=3, environment=DETAILED)
+        program.main_window.select_all()
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        self.assert_ran({"drops_key": ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES",
+                                       "/DISABLEREDIRECT"]})
+        # Without its command the suite's row is one like any other; the last step finds no suite.
+        self.assertEqual(self.removals(), [
+            "--> DoUninsstall: full", f"DoUninsstall: {probes.path('drops_key')}",
+            *["--> DoUninsstall: full"] * 3, "~Widget()"])
+        self.assertEqual(self.suite.registry(), {})
+        self.assert_untouched_on_disk(SUITE)
+
+    def assert_untouched_on_disk(self, application):
+        self.assertTrue((self.suite.folder(application) / "Uninst.exe").exists())
+        self.assertTrue(self.suite.settings_folder(application).exists())
+
+
+if __name__ == "__main__":
+    unittest.main()
