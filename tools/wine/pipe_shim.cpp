@@ -1,19 +1,15 @@
 // Supplies to one process what Windows' network redirector does and Wine has none of: opening
 // \\<computer>\pipe\NAME by the machine's own name, with the opened end in message-read mode.
 //
-// Only the main module's import of CreateFileW is replaced; libraries, and addresses taken by
-// GetProcAddress, are left alone. Loaded by launcher.exe before the program's first instruction.
-#include <windows.h>
-
-#include <cstring>
+// Loaded by launcher.exe before the program's first instruction.
 #include <cwchar>
 #include <string>
 
+#include "tools/wine/import_slot.h"
+
 namespace {
 
-using CreateFileFunction = decltype(&CreateFileW);
-
-CreateFileFunction originalCreateFile = nullptr;
+decltype(&CreateFileW) originalCreateFile = nullptr;
 
 // "\\.\pipe\NAME" for "\\<this computer>\pipe\NAME", else empty. Names of other computers stay as
 // they are: no Windows machine would answer for them here either.
@@ -57,56 +53,13 @@ HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD share, LPSECURITY_ATT
     return pipe;
 }
 
-void replaceSlot(IMAGE_THUNK_DATA& slot)
-{
-    DWORD protection = 0;
-    if (!VirtualProtect(&slot, sizeof slot, PAGE_READWRITE, &protection)) {
-        return;
-    }
-    originalCreateFile = reinterpret_cast<CreateFileFunction>(slot.u1.Function);
-    slot.u1.Function = reinterpret_cast<ULONGLONG>(&createFile);
-    VirtualProtect(&slot, sizeof slot, protection, &protection);
-}
-
-void replaceImport()
-{
-    auto* const base = reinterpret_cast<BYTE*>(GetModuleHandleW(nullptr));
-    const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-    const auto* const nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
-    const IMAGE_DATA_DIRECTORY& imports =
-        nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    if (imports.VirtualAddress == 0) {
-        return;
-    }
-    const auto* library =
-        reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + imports.VirtualAddress);
-    for (; library->Name != 0; ++library) {
-        if (library->OriginalFirstThunk == 0) {
-            continue; // without the names there is nothing to compare with
-        }
-        const auto* name =
-            reinterpret_cast<const IMAGE_THUNK_DATA*>(base + library->OriginalFirstThunk);
-        auto* slot = reinterpret_cast<IMAGE_THUNK_DATA*>(base + library->FirstThunk);
-        for (; name->u1.AddressOfData != 0; ++name, ++slot) {
-            if (IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal)) {
-                continue;
-            }
-            const auto* const import =
-                reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + name->u1.AddressOfData);
-            if (std::strcmp(reinterpret_cast<const char*>(import->Name), "CreateFileW") == 0) {
-                replaceSlot(*slot);
-            }
-        }
-    }
-}
-
 } // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
 {
     if (reason == DLL_PROCESS_ATTACH) {
         DisableThreadLibraryCalls(module);
-        replaceImport();
+        replaceImport("CreateFileW", &createFile, originalCreateFile);
     }
     return TRUE;
 }

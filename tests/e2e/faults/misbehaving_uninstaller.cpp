@@ -5,6 +5,7 @@
 //   hands_over.exe  starts a copy of itself and ends; the copy ends when the file
 //                   C:\records\hands_over.release is there
 //   drops_key.exe   deletes everything that the suite has in the registry
+// elevated_uninstaller.exe is the same program with a manifest that asks for administrator rights.
 #include "tools/sample_suite/record_file.h"
 
 #include <cstdio>

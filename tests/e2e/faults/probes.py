@@ -7,6 +7,7 @@ from harness import layout
 from harness.prefix import Prefix
 
 FOLDER = "C:\\probe dir"
+ELEVATED = layout.WINE_TOOLS / "elevated_uninstaller.exe"
 MISBEHAVING = layout.WINE_TOOLS / "misbehaving_uninstaller.exe"
 
 
@@ -36,6 +37,11 @@ def place_working(prefix: Prefix, name: str) -> None:
 def place_misbehaving(prefix: Prefix, name: str) -> None:
     """Does what its name says (misbehaving_uninstaller.cpp)."""
     shutil.copy(MISBEHAVING, _target(prefix, name))
+
+
+def place_elevated(prefix: Prefix, name: str) -> None:
+    """May only be started by an administrator."""
+    shutil.copy(ELEVATED, _target(prefix, name))
 
 
 def place_text(prefix: Prefix, name: str) -> None:

@@ -127,12 +127,17 @@ class SettingsFaults(ServicesMixin, SuiteTestCase):
         self.assertEqual(self.common.read_bytes(), before)
         self.assertEqual(list(logs.iterdir()), [])
 
-    def test_that_are_missing_in_a_read_only_folder_are_not_made(self):
-        self.install_with_services()
-        self.common.unlink()
-        self.write_protect(self.settings)
-        self.remove_partner()
+    def test_that_vanish_from_a_read_only_folder_are_not_made_anew(self):
+        def remove(connection, stopping):
+            self.common.unlink()
+            self.write_protect(self.settings)
+            answer(200, b"NL")(connection, stopping)
+        self.install_with_services(remove)
+        # With the file every setting that is not saved has gone, "statistics on" among them.
+        self.remove_clip_saver(events=0)
+        self.assert_ran(CLIP_SAVER)
         self.assertFalse(self.common.exists())
+        self.assertEqual(self.failures(), ["CreateFileW failed: 5 (Access denied.)"] * SAVES)
 
     def test_on_a_full_disk_cost_the_run_nothing(self):
         def fill_disk(connection, stopping):
@@ -141,7 +146,7 @@ class SettingsFaults(ServicesMixin, SuiteTestCase):
             self.common.symlink_to("/dev/full")
             answer(200, b"NL")(connection, stopping)
         self.install_with_services(fill_disk)
-        # Of settings that read as empty from now on, "statistics on" is gone too.
+        # Settings that read as empty from now on do not switch the statistics on either.
         self.remove_clip_saver(events=0)
         self.assert_ran(CLIP_SAVER)
         self.assertEqual(self.failures(), ["WriteFile failed: 112 (Disk full.)"] * SAVES)

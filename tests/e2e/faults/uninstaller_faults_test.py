@@ -120,14 +120,19 @@ class UninstallerFaults(SuiteTestCase):
         # Wine has no words for Windows' error 193.
         self.check_not_started(probes.place_text, "Unknown error 0x000000c1.")
 
+    def test_one_that_needs_elevation_is_told_in_the_detailed_log(self):
+        # The launcher's DLL refuses as Windows does; Wine itself would start it.
+        self.check_not_started(probes.place_elevated, "Unknown error 0x000002e4.")
+
     def test_a_full_run_over_all_of_them_reaches_the_suite(self):
-        names = ["crashes", "hands_over", "hangs", "missing", "text", "works"]
-        for name in names[:3]:
+        names = ["crashes", "elevated", "hands_over", "hangs", "missing", "text", "works"]
+        for name in ("crashes", "hands_over", "hangs"):
             probes.place_misbehaving(self.prefix, name)
+        probes.place_elevated(self.prefix, "elevated")
         probes.place_text(self.prefix, "text")
         probes.place_working(self.prefix, "works")
         self.install_rows(names, [SUITE])
-        program = self.start_program(self.suite, rows=7, environment=DETAILED)
+        program = self.start_program(self.suite, rows=8, environment=DETAILED)
         program.main_window.select_all()
         program.main_window.toggle_delete_settings()
         program.main_window.press_uninstall()
@@ -142,7 +147,7 @@ class UninstallerFaults(SuiteTestCase):
         lines = []
         for name in names:
             lines += ["--> DoUninsstall: full", f"DoUninsstall: {probes.path(name)}"]
-            if name in ("missing", "text"):
+            if name in ("elevated", "missing", "text"):
                 lines.append(NOT_STARTED)
         lines += ["--> DoUninsstall: full", f"DoUninsstall: {self.suite.uninstaller(SUITE)}",
                   "~Widget()"]

@@ -1,0 +1,67 @@
+// Supplies to one process what Windows does for a user without administrator rights and Wine does
+// not: a program whose manifest asks for these rights cannot be started by CreateProcessW. Wine
+// gives it the rights and starts it.
+//
+// Loaded by launcher.exe before the program's first instruction.
+#include <string>
+#include <string_view>
+
+#include "tools/wine/import_slot.h"
+
+namespace {
+
+// The Windows SDK's ERROR_ELEVATION_REQUIRED, which MinGW's headers lack.
+constexpr DWORD elevationRequired = 740;
+
+decltype(&CreateProcessW) originalCreateProcess = nullptr;
+
+// The first word of a command line: quotes around it, or a blank after it, end it.
+std::wstring firstWord(std::wstring_view line)
+{
+    if (!line.empty() && line.front() == L'"') {
+        line.remove_prefix(1);
+        return std::wstring(line.substr(0, line.find(L'"')));
+    }
+    return std::wstring(line.substr(0, line.find_first_of(L" \t")));
+}
+
+bool asksForAdministrator(const std::wstring& program)
+{
+    const HMODULE module = LoadLibraryExW(program.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    if (module == nullptr)
+        return false;
+    std::string_view manifest;
+    const HRSRC resource = FindResourceW(module, CREATEPROCESS_MANIFEST_RESOURCE_ID, RT_MANIFEST);
+    if (resource != nullptr) {
+        if (const HGLOBAL loaded = LoadResource(module, resource))
+            manifest = {static_cast<const char*>(LockResource(loaded)),
+                        SizeofResource(module, resource)};
+    }
+    const bool asks = manifest.find("\"requireAdministrator\"") != std::string_view::npos;
+    FreeLibrary(module);
+    return asks;
+}
+
+BOOL WINAPI createProcess(LPCWSTR program, LPWSTR commandLine, LPSECURITY_ATTRIBUTES process,
+                          LPSECURITY_ATTRIBUTES thread, BOOL inherit, DWORD flags,
+                          LPVOID environment, LPCWSTR folder, LPSTARTUPINFOW startup,
+                          LPPROCESS_INFORMATION started)
+{
+    if (asksForAdministrator(program != nullptr ? std::wstring(program) : firstWord(commandLine))) {
+        SetLastError(elevationRequired);
+        return FALSE;
+    }
+    return originalCreateProcess(program, commandLine, process, thread, inherit, flags, environment,
+                                 folder, startup, started);
+}
+
+} // namespace
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
+{
+    if (reason == DLL_PROCESS_ATTACH) {
+        DisableThreadLibraryCalls(module);
+        replaceImport("CreateProcessW", &createProcess, originalCreateProcess);
+    }
+    return TRUE;
+}

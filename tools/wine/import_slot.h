@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstring>
+#include <type_traits>
+
+#include <windows.h>
+
+// Lets the running program's calls of one system function go to `replacement`. Only the main
+// module's import is replaced; libraries, and addresses taken by GetProcAddress, are left alone.
+// `original` receives the function that was called so far, and stays as it is when the program
+// does not import the function.
+template <typename Function>
+void replaceImport(const char* name, Function replacement, Function& original)
+{
+    static_assert(std::is_pointer_v<Function>);
+    auto* const base = reinterpret_cast<BYTE*>(GetModuleHandleW(nullptr));
+    const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* const nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const IMAGE_DATA_DIRECTORY& imports =
+        nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+    if (imports.VirtualAddress == 0)
+        return;
+    const auto* library =
+        reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + imports.VirtualAddress);
+    for (; library->Name != 0; ++library) {
+        if (library->OriginalFirstThunk == 0)
+            continue; // without the names there is nothing to compare with
+        const auto* thunk =
+            reinterpret_cast<const IMAGE_THUNK_DATA*>(base + library->OriginalFirstThunk);
+        auto* slot = reinterpret_cast<IMAGE_THUNK_DATA*>(base + library->FirstThunk);
+        for (; thunk->u1.AddressOfData != 0; ++thunk, ++slot) {
+            if (IMAGE_SNAP_BY_ORDINAL(thunk->u1.Ordinal))
+                continue;
+            const auto* const import =
+                reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + thunk->u1.AddressOfData);
+            DWORD protection = 0;
+            if (std::strcmp(reinterpret_cast<const char*>(import->Name), name) != 0 ||
+                !VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &protection))
+                continue;
+            original = reinterpret_cast<Function>(slot->u1.Function);
+            slot->u1.Function = reinterpret_cast<ULONGLONG>(replacement);
+            VirtualProtect(slot, sizeof *slot, protection, &protection);
+        }
+    }
+}
