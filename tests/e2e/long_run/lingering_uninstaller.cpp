@@ -1,0 +1,17 @@
+// An uninstaller that takes longer than the program waits for it, and records its begin and its
+// end.
+#include "tools/sample_suite/record_file.h"
+
+namespace {
+
+constexpr DWORD longerThanTheWaitMs = 3500;
+
+} // namespace
+
+int main()
+{
+    if (!sample_suite::recordCommandLine())
+        return 1;
+    Sleep(longerThanTheWaitMs);
+    return sample_suite::recordEnd() ? 0 : 1;
+}

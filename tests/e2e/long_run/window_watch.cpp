@@ -1,0 +1,58 @@
+// Asks a window again and again whether it still answers, as the system does before it calls a
+// program "not responding", until the window's process has ended.
+//
+//   window_watch TITLE
+//
+// Writes "ready" after the first answer; at the end a line of numbers: how often it asked, how
+// often there was no answer in time, how often the system held the window for hung, and the longest
+// time of an answer in milliseconds.
+#include "ui/common/sys/unique_handle.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+#include <windows.h>
+
+namespace {
+
+constexpr DWORD askAgainAfterMs = 50;
+// From here on Windows calls a window hung.
+constexpr UINT longestAnswerMs = 5000;
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const HWND window = FindWindowA(nullptr, argc > 1 ? argv[1] : "");
+    DWORD pid = 0;
+    GetWindowThreadProcessId(window, &pid);
+    const win32::KernelHandle process(OpenProcess(SYNCHRONIZE, FALSE, pid));
+    if (!process) {
+        std::fprintf(stderr, "window_watch: no such window\n");
+        return 1;
+    }
+    int asked = 0;
+    int unanswered = 0;
+    int hung = 0;
+    ULONGLONG longest = 0;
+    do {
+        const ULONGLONG begun = GetTickCount64();
+        DWORD_PTR result = 0;
+        if (SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, longestAnswerMs, &result)) {
+            longest = std::max(longest, GetTickCount64() - begun);
+        } else if (IsWindow(window)) {
+            ++unanswered;
+        } else {
+            // It ends, and its window is gone already.
+            continue;
+        }
+        hung += IsHungAppWindow(window) ? 1 : 0;
+        if (++asked == 1) {
+            std::printf("ready\n");
+            std::fflush(stdout);
+        }
+    } while (WaitForSingleObject(process.get(), askAgainAfterMs) == WAIT_TIMEOUT);
+    std::printf("%d %d %d %llu\n", asked, unanswered, hung, longest);
+    return 0;
+}
