@@ -21,7 +21,7 @@ constexpr const wchar_t* copyMark = L"copy of hands_over";
 
 int crash()
 {
-    int* volatile nowhere = nullptr;
+    volatile int* volatile nowhere = nullptr;
     *nowhere = 1;
     return 0;
 }

@@ -1,5 +1,6 @@
 """Runs over uninstallers that go wrong. Whatever one does, the others get their turn."""
 
+import subprocess
 import unittest
 
 import paths  # noqa: F401  (makes the harness importable)
@@ -97,6 +98,9 @@ class UninstallerFaults(SuiteTestCase):
         self.assertEqual(self.removals(), [*self.selective("crashes", "works"), "~Widget()"])
         self.assertIsNone(self.suite.records.runs("crashes")[0].exit_code)
         self.assertFalse(processes.running(self.prefix, probes.path("crashes")))
+        self.assertLess(self.seconds_of_wait("crashes"), WAIT - EARLY)
+        with self.assertRaises(subprocess.CalledProcessError):  # it does crash
+            self.prefix.run(probes.path("crashes"))
 
     def test_the_child_of_one_that_ended_is_not_waited_for(self):
         self.check_selective(probes.place_misbehaving, "hands_over")
