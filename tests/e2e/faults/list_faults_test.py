@@ -21,7 +21,7 @@ NAMES = [
     "N" * 255,
     "\u05de\u05e1\u05d9\u05e8 Media 2026",                   # right to left, with digits and Latin
     "\u0645\u0634\u063a\u0651\u0644 \u0627\u0644\u0635\u0648\u062a",
-    "\u202etfel ot thgir",       # an override
+    "\u202ereyalP oediV",       # an override
     "\U0001f3b5 Music",          # two units
 ]
 PRECOMPOSED = 1

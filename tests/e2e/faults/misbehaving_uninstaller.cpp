@@ -1,7 +1,7 @@
 // An uninstaller that goes wrong. It records its command line as every sample uninstaller does, and
 // then does what its file name says:
 //   hangs.exe       never ends by itself
-//   crashes.exe     writes to an address that is not there
+//   crashes.exe     ends with an access violation
 //   hands_over.exe  starts a copy of itself and ends; the copy ends when the file
 //                   C:\records\hands_over.release is there
 //   drops_key.exe   deletes everything that the suite has in the registry
@@ -21,8 +21,7 @@ constexpr const wchar_t* copyMark = L"copy of hands_over";
 
 int crash()
 {
-    volatile int* volatile nowhere = nullptr;
-    *nowhere = 1;
+    RaiseException(EXCEPTION_ACCESS_VIOLATION, EXCEPTION_NONCONTINUABLE, 0, nullptr);
     return 0;
 }
 

@@ -79,6 +79,18 @@ TEST_F(UserLocation, IsStoredAsItCameAndLogged)
     EXPECT_EQ(log(), Lines{found + " dE "});
 }
 
+TEST_F(UserLocation, OfSeveralLinesBecomesSeveralLinesOfTheFile)
+{
+    scripted::answerInOrder({{0, 200, "DE\nLanguage=fr\r\nno pair"}});
+    EXPECT_EQ(getUserCountry(proxy), "DE\nLanguage=fr\r\nno pair");
+    EXPECT_EQ(contentOf(commonFile()), "Location=DE\nLanguage=fr\r\nno pair\n");
+    fs::CConfig next;
+    next.setFileName(commonFile().wstring());
+    ASSERT_EQ(next.load(), 0);
+    EXPECT_EQ(next.getValue("Location", ""), "DE");
+    EXPECT_EQ(next.getValue("Language", ""), "fr");
+}
+
 TEST_F(UserLocation, EndsAtANulByteSoThatTheKeysAfterItSurvive)
 {
     storeCommon("Version=1\n");

@@ -256,7 +256,7 @@ void WidgetFormTest::namesInAnyScriptAreListedAsTheyAre()
                             QString::fromUtf8("Caf\u00e9 Player"),
                             QString(255, QLatin1Char('N')),
                             QString::fromUtf8("\u05de\u05e1\u05d9\u05e8 Media 2026"),
-                            QString::fromUtf8("\u202etfel ot thgir"),
+                            QString::fromUtf8("\u202ereyalP oediV"),
                             QString::fromUtf8("\U0001f3b5 Music")};
     for (const QString& name : names)
         registry.addApplication(name, QStringLiteral("c:\\a.exe /log=1"));
