@@ -45,9 +45,13 @@ stress: build ## run the long variants of the tests (minutes)
 package: build ## pack the program, its notices and sums: ZIPs in build/package/
 	@tools/package/package
 
-bench: setup ## measure the logic and the message channel beside others (docs/performance.md)
+bench: setup ## measure the logic, start-up, size, runs, messages (docs/performance.md)
 	@bench/host/run.sh
-	@bench/ipc/run.sh
+	@bench/windows.sh startup
+	@WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d;d3d9=' \
+		bench/windows.sh startup 60 ', without Direct3D'
+	@bench/windows.sh run
+	@bench/windows.sh ipc
 
 fuzz: ## run each fuzz target for FUZZ_SECONDS (60) under sanitizers
 	@tools/fuzz/run.sh

@@ -5,7 +5,7 @@
 //   ipc_bench serve KIND STOP READY  the server of a measurement, in a process of its own
 
 #include "bench/ipc/bare_pipe.h"
-#include "bench/ipc/samples.h"
+#include "bench/support/samples.h"
 #include "tests/windows/ipc/child_process.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
@@ -22,6 +22,8 @@ namespace {
 using ipctest::ChildProcess;
 using ipctest::NamedEvent;
 using namespace ipcbench;
+using bench::median;
+using bench::now;
 
 constexpr DWORD longestRun = 600000; // ms
 constexpr int turns = 4;

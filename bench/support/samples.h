@@ -1,0 +1,47 @@
+#pragma once
+
+// What the measurements under Windows share: the clock, and what is said about its readings.
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+namespace bench {
+
+// Microseconds since an arbitrary moment.
+inline double now()
+{
+    LARGE_INTEGER ticks = {};
+    LARGE_INTEGER frequency = {};
+    QueryPerformanceCounter(&ticks);
+    QueryPerformanceFrequency(&frequency);
+    return static_cast<double>(ticks.QuadPart) * 1e6 / static_cast<double>(frequency.QuadPart);
+}
+
+// The sample that `share` (0 to 1) of all samples lie below. There must be at least one.
+inline double quantile(std::vector<double> samples, double share)
+{
+    const auto last = static_cast<double>(samples.size() - 1);
+    const auto wanted = samples.begin() + static_cast<std::ptrdiff_t>(last * share + 0.5);
+    std::nth_element(samples.begin(), wanted, samples.end());
+    return *wanted;
+}
+
+inline double median(const std::vector<double>& samples)
+{
+    return quantile(samples, 0.5);
+}
+
+// "1.04 (goal 1.15 met)": `ratio` is to be at most `goal`.
+inline std::string verdict(double ratio, double goal)
+{
+    char text[64] = {};
+    std::snprintf(text, sizeof(text), "%.3f (goal %.2f %s)", ratio, goal,
+                  ratio <= goal ? "met" : "missed");
+    return text;
+}
+
+} // namespace bench

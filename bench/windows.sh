@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Builds the program and one of its measurements, and runs that under Wine.
+#
+#   bench/windows.sh SUBJECT [ARGS...]   SUBJECT: a folder beside this script (ipc, run, startup);
+#                                        ARGS go to SUBJECT_bench, see there
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+subject=$1
+shift
+tools/setup/configure.sh windows-cross >/dev/null
+cmake -DTESSERA_BENCH=ON build/windows >/dev/null
+cmake --build build/windows --target "${subject}_bench" Uninstall wine_launcher
+WINEPREFIX=$PWD/build/windows/prefixes/${subject}_bench \
+    tools/wine-run "build/windows/bench/$subject/${subject}_bench.exe" "$@"
