@@ -32,6 +32,12 @@ if(WIN32)
     endif()
 endif()
 
+# For code that waits for people, disks and other programs: what counts there is its size.
+add_library(tessera_small_code INTERFACE)
+if(MINGW)
+    target_compile_options(tessera_small_code INTERFACE $<$<CONFIG:Release>:-Os>)
+endif()
+
 if(TESSERA_SANITIZE)
     # With sanitizers GCC takes the standard library's own variables for uninitialised; the plain
     # build keeps the warning.
