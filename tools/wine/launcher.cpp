@@ -1,5 +1,5 @@
 // Starts a Windows program under Wine with pipe_shim.dll, certificate_shim.dll and
-// elevation_shim.dll loaded into it, and ends with its exit code. What Wine lacks is thus supplied
+// process_shim.dll loaded into it, and ends with its exit code. What Wine lacks is thus supplied
 // by the test environment, and the program stays as it is.
 //
 //   launcher.exe PROGRAM ARGS...
@@ -155,7 +155,7 @@ int main()
     if (!job || !AssignProcessToJobObject(job.get(), process.get()) ||
         !loadInto(process.get(), besideLauncher(L"pipe_shim.dll")) ||
         !loadInto(process.get(), besideLauncher(L"certificate_shim.dll")) ||
-        !loadInto(process.get(), besideLauncher(L"elevation_shim.dll"))) {
+        !loadInto(process.get(), besideLauncher(L"process_shim.dll"))) {
         TerminateProcess(process.get(), cannotPrepare);
         return static_cast<int>(cannotPrepare);
     }

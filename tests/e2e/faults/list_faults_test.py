@@ -54,7 +54,8 @@ class ListFaults(SuiteTestCase):
                          [[self.log_switch(number), *SELECTIVE] for number in numbers])
 
     def start(self, shown):
-        return self.start_program(self.suite, rows=shown)
+        return self.start_program(self.suite, rows=shown,
+                                  environment={"KEELBASE_LOG_LEVEL": "7"})
 
     def end_run(self, program):
         program.main_window.press_uninstall()

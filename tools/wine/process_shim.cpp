@@ -1,6 +1,8 @@
-// Supplies to one process what Windows does for a user without administrator rights and Wine does
-// not: a program whose manifest asks for these rights cannot be started by CreateProcessW. Wine
-// gives it the rights and starts it.
+// Supplies to one process what Windows' CreateProcessW does and Wine's does not:
+// - for a user without administrator rights it refuses a program whose manifest asks for them; Wine
+//   gives it the rights and starts it;
+// - it never fails with an internal error; Wine does so when it loses a new process, as happens now
+//   and then on a busy machine.
 //
 // Loaded by launcher.exe before the program's first instruction.
 #include <string>
@@ -51,8 +53,13 @@ BOOL WINAPI createProcess(LPCWSTR program, LPWSTR commandLine, LPSECURITY_ATTRIB
         SetLastError(elevationRequired);
         return FALSE;
     }
-    return originalCreateProcess(program, commandLine, process, thread, inherit, flags, environment,
-                                 folder, startup, started);
+    int attemptsLeft = 5;
+    while (!originalCreateProcess(program, commandLine, process, thread, inherit, flags,
+                                  environment, folder, startup, started)) {
+        if (GetLastError() != ERROR_INTERNAL_ERROR || --attemptsLeft == 0)
+            return FALSE;
+    }
+    return TRUE;
 }
 
 } // namespace
