@@ -10,6 +10,6 @@ subject=$1
 shift
 tools/setup/configure.sh windows-cross >/dev/null
 cmake -DTESSERA_BENCH=ON build/windows >/dev/null
-cmake --build build/windows --target "${subject}_bench" Uninstall wine_launcher
+cmake --build build/windows --target "${subject}_bench" Uninstall wine_launcher -- --quiet
 WINEPREFIX=$PWD/build/windows/prefixes/${subject}_bench \
     tools/wine-run "build/windows/bench/$subject/${subject}_bench.exe" "$@"
