@@ -37,6 +37,26 @@ void handleWaitingMessages()
         DispatchMessageW(&message);
 }
 
+// Handles messages until none has come for a moment. The screen's window manager gives every new
+// window the focus in turn, and does so late.
+void settle()
+{
+    constexpr DWORD quiet = 200;         // ms
+    constexpr ULONGLONG longest = 10000; // ms
+    const ULONGLONG end = GetTickCount64() + longest;
+    do {
+        handleWaitingMessages();
+    } while (GetTickCount64() < end &&
+             MsgWaitForMultipleObjects(0, nullptr, FALSE, quiet, QS_ALLINPUT) != WAIT_TIMEOUT);
+}
+
+// The foreground window once the system has come to rest.
+HWND settledForeground()
+{
+    settle();
+    return GetForegroundWindow();
+}
+
 std::vector<HWND> topLevelWindows()
 {
     std::vector<HWND> windows;
@@ -93,14 +113,12 @@ TEST_P(BringWindowToTop, TakesAWindowWhoseTitleContainsTheOwn)
     const TitledWindow other(GetParam().other);
     const TitledWindow own(GetParam().own);
     const TitledWindow front(L"~");
-    handleWaitingMessages();
+    settle();
     SetForegroundWindow(front.handle());
-    handleWaitingMessages();
-    ASSERT_EQ(GetForegroundWindow(), front.handle());
+    ASSERT_EQ(settledForeground(), front.handle());
 
     sys::bringWindowToTop(own.number());
-    handleWaitingMessages();
-    EXPECT_EQ(GetForegroundWindow(), GetParam().broughtForward ? other.handle() : front.handle());
+    EXPECT_EQ(settledForeground(), GetParam().broughtForward ? other.handle() : front.handle());
 }
 
 INSTANTIATE_TEST_SUITE_P(Titles, BringWindowToTop,
@@ -115,17 +133,16 @@ TEST(BringWindowToTopOrder, FirstMatchInTheSystemsOrderWins)
     const TitledWindow own(L"Tessera bench");
     const TitledWindow one(L"Tessera bench 1");
     const TitledWindow two(L"Tessera bench 2");
-    handleWaitingMessages();
+    settle();
     SetForegroundWindow(own.handle());
-    handleWaitingMessages();
+    settle();
     const std::vector<HWND> all = topLevelWindows();
     const auto first = std::find_if(all.begin(), all.end(), [&](HWND window) {
         return window == one.handle() || window == two.handle();
     });
     ASSERT_NE(first, all.end());
     sys::bringWindowToTop(own.number());
-    handleWaitingMessages();
-    EXPECT_EQ(GetForegroundWindow(), *first);
+    EXPECT_EQ(settledForeground(), *first);
 }
 
 TEST(BringWindowToTopOrder, EmptyOwnTitleTakesTheFirstOtherWindowOfAll)
@@ -133,13 +150,12 @@ TEST(BringWindowToTopOrder, EmptyOwnTitleTakesTheFirstOtherWindowOfAll)
     const TitledWindow own(L"");
     const TitledWindow front(L"~");
     const TitledWindow topmost(L"any title", WS_EX_TOPMOST);
-    handleWaitingMessages();
+    settle();
     SetForegroundWindow(front.handle());
-    handleWaitingMessages();
+    settle();
     ASSERT_EQ(topLevelWindows().front(), topmost.handle());
     sys::bringWindowToTop(own.number());
-    handleWaitingMessages();
-    EXPECT_EQ(GetForegroundWindow(), topmost.handle());
+    EXPECT_EQ(settledForeground(), topmost.handle());
 }
 
 } // namespace

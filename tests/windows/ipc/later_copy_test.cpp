@@ -160,7 +160,7 @@ void LaterCopyTest::withAParentBringsItsNamesakeForward()
         arguments.push_back(argument.toStdString());
     const Window window(arguments, &parent);
     const QWidget& expected = forward ? namesake : front;
-    QCOMPARE(GetForegroundWindow(), reinterpret_cast<HWND>(expected.winId()));
+    QTRY_COMPARE(GetForegroundWindow(), reinterpret_cast<HWND>(expected.winId()));
 }
 
 QTEST_MAIN(LaterCopyTest)

@@ -66,7 +66,7 @@ TEST_F(StartedProgram, SecondStartShowsTheFirstsWindowAndEnds)
 {
     const SecondStart second = startSecond(first, {});
     expectHandedOver(second);
-    EXPECT_EQ(GetForegroundWindow(), first.window());
+    EXPECT_TRUE(becomesTrue([this] { return GetForegroundWindow() == first.window(); }));
     EXPECT_EQ(programWindows(), std::vector<HWND>{first.window()});
     EXPECT_THAT(programLogs(), HasSubstr(". MSG: /show\n"));
 }
