@@ -59,8 +59,11 @@ class Window:
         _xdotool("key", "--clearmodifiers", *keys)
 
     def activate(self) -> None:
+        """Brings it forward and waits until it has the keyboard, which a program takes a moment
+        after the window manager has given it; a key pressed in between reaches nobody."""
         def active() -> bool:
-            if (_xdotool("getactivewindow") or "").strip() == self.identifier:
+            if all((_xdotool(command) or "").strip() == self.identifier
+                   for command in ("getactivewindow", "getwindowfocus")):
                 return True
             _xdotool("windowactivate", self.identifier)
             return not self.exists()
