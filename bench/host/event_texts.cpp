@@ -1,32 +1,8 @@
 #include "bench/host/event_texts.h"
 
+#include "tests/support/event_members.h"
+
 namespace bench {
-namespace {
-
-// The body's members in order; "pid" takes no parameter.
-const std::vector<std::pair<std::string, std::string>> members = {
-    {"guid", "GUID"},
-    {"country_id", "COUNTRY_ID"},
-    {"pid", ""},
-    {"adv_type", "ADVTYPE"},
-    {"camp_type", "CAMPTYPE"},
-    {"appid", "APPID"},
-    {"ver", "VER"},
-    {"event_type", "EVENT_TYPE"},
-    {"event_number", "EVENT_NUMBER"},
-    {"src", "SRC"},
-    {"info_type", "INFO_TYPE"},
-    {"info", "INFO"},
-    {"inst_type", "INSTTYPE"},
-    {"inst_ch", "INSTCH"},
-    {"inst_ref", "INSTREF"},
-    {"test", "TEST"},
-    {"tc_build_num", "TC_BUILD_NUM"},
-    {"product_name", "PRODUCT_NAME"},
-    {"id_lmc_keys", "ID_LMC_KEYS"},
-};
-
-} // namespace
 
 const std::vector<std::pair<std::string, std::string>>& bodyValues()
 {
@@ -69,10 +45,10 @@ stats::EventTexts eventTexts()
 std::string bodyTemplate(const std::string& open, const std::string& close)
 {
     std::string text = "{";
-    for (const auto& [member, parameter] : members) {
-        text += (text.size() > 1 ? ",\"" : "\"") + member + "\":\"";
+    for (const auto& [key, parameter] : testing_support::eventMembers) {
+        text.append(text.size() > 1 ? ",\"" : "\"").append(key).append("\":\"");
         if (!parameter.empty())
-            text += open + parameter + close;
+            text.append(open).append(parameter).append(close);
         text += '"';
     }
     return text + "}";

@@ -4,6 +4,7 @@
 // Input: the template, then names and values in turn, kept apart by the separator.
 
 #include "tests/fuzz/fuzz_support.h"
+#include "tests/support/event_members.h"
 #include "ui/common/stat/event_body.h"
 #include "ui/common/stat/template_params.h"
 #include "ui/common/stat/url_encode.h"
@@ -132,37 +133,16 @@ void checkExpansion(const std::string& text, const TemplateParams& params, const
 
 void checkBody(const TemplateParams& params, const Values& values)
 {
-    constexpr const char* members[][2] = {
-        {"guid", "GUID"},
-        {"country_id", "COUNTRY_ID"},
-        {"pid", nullptr},
-        {"adv_type", "ADVTYPE"},
-        {"camp_type", "CAMPTYPE"},
-        {"appid", "APPID"},
-        {"ver", "VER"},
-        {"event_type", "EVENT_TYPE"},
-        {"event_number", "EVENT_NUMBER"},
-        {"src", "SRC"},
-        {"info_type", "INFO_TYPE"},
-        {"info", "INFO"},
-        {"inst_type", "INSTTYPE"},
-        {"inst_ch", "INSTCH"},
-        {"inst_ref", "INSTREF"},
-        {"test", "TEST"},
-        {"tc_build_num", "TC_BUILD_NUM"},
-        {"product_name", "PRODUCT_NAME"},
-        {"id_lmc_keys", "ID_LMC_KEYS"},
-    };
     const stats::EventTexts texts{"type", "src", "kind", "a&b"};
     Values all = values;
     all.insert({{"EVENT_TYPE", "type"}, {"SRC", "src"}, {"INFO_TYPE", "kind"}, {"INFO", "a&b"}});
 
     std::string expected;
-    for (const auto& [key, name] : members) {
+    for (const auto& [key, parameter] : testing_support::eventMembers) {
         expected += expected.empty() ? "{\"" : ",\"";
         expected.append(key).append("\":\"");
-        if (name != nullptr) {
-            const auto value = all.find(name);
+        if (!parameter.empty()) {
+            const auto value = all.find(std::string(parameter));
             if (value != all.end())
                 expected += value->second;
             else
