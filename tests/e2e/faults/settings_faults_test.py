@@ -12,10 +12,9 @@ import unittest
 import paths  # noqa: F401  (makes the harness importable)
 from applications import CLIP_SAVER, PARTNER
 from harness import processes, screen
-from harness.case import SuiteTestCase
 from harness.suite import SURVEY_TITLE
 from http_service import answer
-from statistics_world import ServicesMixin, event_of, proxy_values, store_settings
+from statistics_world import SuiteWithServices, event_of, proxy_values, store_settings
 
 DETAILED = {"KEELBASE_LOG_LEVEL": "7"}
 WITHOUT_LOG = {"KEELBASE_LOG_LEVEL": "0"}
@@ -38,24 +37,18 @@ def setUpModule():
                 raise OSError(ctypes.get_errno(), "a capability could not be given up")
 
 
-class SettingsFaults(ServicesMixin, SuiteTestCase):
-
-    @classmethod
-    def setUpClass(cls):
-        cls.make_authority()
+class SettingsFaults(SuiteWithServices):
 
     def setUp(self):
         super().setUp()
-        self.trust_authority(self.prefix)
         self.settings = self.prefix.unix_path(self.prefix.settings)
-        self.common = self.settings / "common.cfg"
 
     def install_with_services(self, country=answer(200, b"NL"), **settings):
         """Clip Saver, which has a survey, and another; `country` answers the one request."""
         self.geo = self.service(country)
         self.statistics = self.service(answer(200))
         self.suite = self.install([CLIP_SAVER, PARTNER])
-        store_settings(self.common, {"EventStatEnabled": 1, "Language": "en", **settings,
+        store_settings(self.common_file, {"EventStatEnabled": 1, "Language": "en", **settings,
                                      **proxy_values(self.proxy(self.statistics, self.geo))})
 
     def start(self, environment, row=0):
@@ -110,40 +103,40 @@ class SettingsFaults(ServicesMixin, SuiteTestCase):
 
     def test_in_a_read_only_folder_stay_as_they_are(self):
         self.install_with_services()
-        before = self.common.read_bytes()
-        self.write_protect(self.settings, self.common)
+        before = self.common_file.read_bytes()
+        self.write_protect(self.settings, self.common_file)
         self.assert_sent_identity(self.remove_clip_saver())
         self.assert_ran(CLIP_SAVER)
-        self.assertEqual(self.common.read_bytes(), before)
+        self.assertEqual(self.common_file.read_bytes(), before)
         self.assertEqual(self.failures(), ["CreateFileW failed: 5 (Access denied.)"] * SAVES)
 
     def test_with_a_read_only_log_folder_too_the_run_is_whole(self):
         self.install_with_services()
         logs = self.settings / "logs"
-        before = self.common.read_bytes()
-        self.write_protect(self.settings, self.common, logs)
+        before = self.common_file.read_bytes()
+        self.write_protect(self.settings, self.common_file, logs)
         self.assert_sent_identity(self.remove_clip_saver())
         self.assert_ran(CLIP_SAVER)
-        self.assertEqual(self.common.read_bytes(), before)
+        self.assertEqual(self.common_file.read_bytes(), before)
         self.assertEqual(list(logs.iterdir()), [])
 
     def test_that_vanish_from_a_read_only_folder_are_not_made_anew(self):
         def remove(connection, stopping):
-            self.common.unlink()
+            self.common_file.unlink()
             self.write_protect(self.settings)
             answer(200, b"NL")(connection, stopping)
         self.install_with_services(remove)
         # With the file every setting that is not saved has gone, "statistics on" among them.
         self.remove_clip_saver(events=0)
         self.assert_ran(CLIP_SAVER)
-        self.assertFalse(self.common.exists())
+        self.assertFalse(self.common_file.exists())
         self.assertEqual(self.failures(), ["CreateFileW failed: 5 (Access denied.)"] * SAVES)
 
     def test_on_a_full_disk_cost_the_run_nothing(self):
         def fill_disk(connection, stopping):
             # The device takes every opening, is empty, and has no room for a byte.
-            self.common.unlink()
-            self.common.symlink_to("/dev/full")
+            self.common_file.unlink()
+            self.common_file.symlink_to("/dev/full")
             answer(200, b"NL")(connection, stopping)
         self.install_with_services(fill_disk)
         # Settings that read as empty from now on do not switch the statistics on either.
@@ -179,17 +172,17 @@ class SettingsFaults(ServicesMixin, SuiteTestCase):
     def test_are_empty_after_an_end_between_emptying_and_writing(self):
         self.install_for_an_end_in_the_save()
         self.end_in_the_save(0)
-        self.assertEqual(self.common.read_bytes(), b"")
+        self.assertEqual(self.common_file.read_bytes(), b"")
         # The next start does without them.
         self.remove_partner()
-        self.assertEqual(self.common.read_bytes(), b"")
+        self.assertEqual(self.common_file.read_bytes(), b"")
 
     def test_are_torn_after_an_end_while_writing_and_serve_as_far_as_they_go(self):
         self.install_for_an_end_in_the_save(Zoom="150")
-        lines = [*self.common.read_bytes().splitlines(keepends=True), b"Location=NL\n"]
+        lines = [*self.common_file.read_bytes().splitlines(keepends=True), b"Location=NL\n"]
         torn = b"".join(sorted(line for line in lines if not line.endswith(b"=\n")))[:-2]
         self.end_in_the_save(len(torn))
-        self.assertEqual(self.common.read_bytes(), torn)
+        self.assertEqual(self.common_file.read_bytes(), torn)
 
         event = self.remove_clip_saver()
         self.assert_sent_identity(event)
@@ -197,7 +190,7 @@ class SettingsFaults(ServicesMixin, SuiteTestCase):
         self.assertEqual(len(self.geo.received), 1)
         # The line that was cut off has become a line like any other.
         guid = f"ClientGuid={event['guid']}\n".encode()
-        self.assertEqual(self.common.read_bytes(), guid + torn + b"\n")
+        self.assertEqual(self.common_file.read_bytes(), guid + torn + b"\n")
 
 
 if __name__ == "__main__":

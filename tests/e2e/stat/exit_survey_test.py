@@ -6,11 +6,10 @@ import unittest
 from pathlib import PureWindowsPath
 
 from http_service import answer
-from statistics_world import ServicesMixin, event_of, proxy_values, store_settings
+from statistics_world import SuiteWithServices, event_of, proxy_values, store_settings
 
 from applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 from harness import layout, screen
-from harness.case import SuiteTestCase
 from harness.registry import Value
 from harness.suite import SURVEY_TITLE, WARNING_TITLE
 from harness.waiting import wait_until
@@ -86,18 +85,13 @@ def closed(offer):
     return [("show", offer), ("close", offer)]
 
 
-class ExitSurvey(ServicesMixin, SuiteTestCase):
+class ExitSurvey(SuiteWithServices):
     """Each test removes both surveyed applications in one run, and then one that is running: its
     warning keeps the program until the service has what was queued, for the program drops what
     still waits when it ends."""
 
-    @classmethod
-    def setUpClass(cls):
-        cls.make_authority()
-
     def setUp(self):
         super().setUp()
-        self.trust_authority(self.prefix)
         handler = PureWindowsPath("C:/handler") / f"{STORE_HANDLER}.exe"
         target = self.prefix.unix_path(handler)
         target.parent.mkdir()

@@ -4,12 +4,11 @@ import threading
 import unittest
 
 from http_service import answer
-from statistics_world import (ServicesMixin, event_of, proxy_values, store_settings,
+from statistics_world import (SuiteWithServices, event_of, proxy_values, store_settings,
                               stored_settings)
 
 from applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 from harness import screen
-from harness.case import SuiteTestCase
 from harness.suite import SURVEY_TITLE, WARNING_TITLE
 
 OFFER_TITLE = "Tessera (Clip|Track) Saver"
@@ -22,16 +21,7 @@ def skip_and_decline(survey):
     screen.wait_for_window(OFFER_TITLE).press("Escape")
 
 
-class ProgramStatistics(ServicesMixin, SuiteTestCase):
-
-    @classmethod
-    def setUpClass(cls):
-        cls.make_authority()
-
-    def setUp(self):
-        super().setUp()
-        self.trust_authority(self.prefix)
-        self.common_file = self.prefix.unix_path(self.prefix.settings / "common.cfg")
+class ProgramStatistics(SuiteWithServices):
 
     def application_file(self, application):
         return self.prefix.unix_path(

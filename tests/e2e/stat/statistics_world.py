@@ -19,6 +19,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 from certificates import Authority  # noqa: E402
 from connect_proxy import ConnectProxy  # noqa: E402
 from harness import layout  # noqa: E402
+from harness.case import SuiteTestCase  # noqa: E402
 from harness.prefix import Prefix  # noqa: E402
 from http_service import HttpService, Received  # noqa: E402
 
@@ -153,6 +154,19 @@ def stored_settings(file: Path) -> Dict[str, str]:
     pairs = [line.split("=", 1) for line in text[:-1].split("\n")]
     assert len(pairs) == len(dict(pairs)), f"a repeated key: {text}"
     return dict(pairs)
+
+
+class SuiteWithServices(ServicesMixin, SuiteTestCase):
+    """The sample suite on a computer that trusts the services' authority."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.make_authority()
+
+    def setUp(self):
+        super().setUp()
+        self.trust_authority(self.prefix)
+        self.common_file = self.prefix.unix_path(self.prefix.settings / "common.cfg")
 
 
 class StatisticsCase(ServicesMixin, unittest.TestCase):
