@@ -6,9 +6,7 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <optional>
 #include <sstream>
-#include <unistd.h>
 
 namespace {
 
@@ -65,25 +63,9 @@ int createdGuids()
     return guidCount;
 }
 
-void RecordingLogger::write(const Keelbase::LogRecord& record) noexcept
-{
-    const std::lock_guard lock(mutex);
-    written.push_back(std::to_string(record.level) + " " + record.category + " " +
-                      record.sourceFile + ":" + std::to_string(record.sourceLine) + " " +
-                      record.text);
-}
-
-std::vector<std::string> RecordingLogger::lines() const
-{
-    const std::lock_guard lock(mutex);
-    return written;
-}
-
 StatTest::StatTest()
 {
-    std::string pattern = (std::filesystem::temp_directory_path() / "stat-XXXXXX").string();
-    folder = mkdtemp(pattern.data());
-    settingsFolder = folder;
+    settingsFolder = folder.narrowPath("");
     nextGuid.reset();
     guidCount = 0;
     common().setFileName(commonFile().wstring());
@@ -95,14 +77,21 @@ StatTest::~StatTest()
 {
     for (const std::string& name : environment)
         unsetenv(name.c_str());
-    Keelbase::setLogger(nullptr);
-    std::filesystem::remove_all(folder);
+}
+
+std::vector<std::string> StatTest::log() const
+{
+    std::vector<std::string> lines;
+    for (const Keelbase::LogRecord& record : recordedLog->records())
+        lines.push_back(std::to_string(record.level) + " " + record.category + " " +
+                        record.sourceFile + ":" + std::to_string(record.sourceLine) + " " +
+                        record.text);
+    return lines;
 }
 
 void StatTest::setLogLevel(int level)
 {
-    logger = std::make_shared<RecordingLogger>(level);
-    Keelbase::setLogger(logger);
+    recordedLog.emplace(level);
 }
 
 void StatTest::setEnvironment(const std::string& name, const std::string& value)
