@@ -246,7 +246,6 @@ void WidgetFormTest::hugeNamesAreListedWhole()
     QCOMPARE(under.list->item(0)->text(), huge);
 }
 
-// The folder that the toolkit was built into may exist on a user's machine, made by anybody.
 void WidgetFormTest::namesInAnyScriptAreListedAsTheyAre()
 {
     SuiteRegistry registry;
@@ -268,6 +267,7 @@ void WidgetFormTest::namesInAnyScriptAreListedAsTheyAre()
     QCOMPARE(listed, names);
 }
 
+// The folder that the toolkit was built into may exist on a user's machine, made by anybody.
 void WidgetFormTest::pluginsAreLookedForBesideTheProgramOnly()
 {
     const QString home = QCoreApplication::applicationDirPath();

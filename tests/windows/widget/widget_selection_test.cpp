@@ -1,5 +1,7 @@
 // The list's check boxes and the controls that follow them, driven by mouse and keyboard.
 
+#include <memory>
+
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
@@ -39,12 +41,12 @@ private slots:
     void closingTheWindowEndsTheEventLoop();
 
 private:
-    SuiteRegistry* registry = nullptr;
+    std::unique_ptr<SuiteRegistry> registry;
 };
 
 void WidgetSelectionTest::init()
 {
-    registry = new SuiteRegistry;
+    registry = std::make_unique<SuiteRegistry>();
     registry->addApplication(QStringLiteral("Clip Saver 2026"), QString());
     registry->addApplication(QStringLiteral("Screen Taker"), QString());
     registry->addApplication(suiteName, QString());
@@ -53,8 +55,7 @@ void WidgetSelectionTest::init()
 
 void WidgetSelectionTest::cleanup()
 {
-    delete registry;
-    registry = nullptr;
+    registry.reset();
 }
 
 void WidgetSelectionTest::checkingOneRowEnablesUninstallAndDeleteSettings()

@@ -1,23 +1,18 @@
 // An uninstaller that removes nothing: it appends the arguments it was started with, one line of
 // UTF-8 a start, to "<own path>.args". A copy named "slow.exe" then stays for ten seconds and
 // writes "<own path>.done".
-#include <windows.h>
-
-#include <shellapi.h>
+#include "tools/sample_suite/record_file.h"
 
 #include <cstdio>
 #include <string>
 
+#include <windows.h>
+
+#include <shellapi.h>
+
 namespace {
 
 constexpr DWORD slowMs = 10'000;
-
-std::wstring ownPath()
-{
-    std::wstring path(32'768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return path;
-}
 
 std::string utf8(const std::wstring& text)
 {
@@ -49,12 +44,10 @@ int main()
         line += (i > 1 ? "|" : "") + utf8(arguments[i]);
     LocalFree(arguments);
 
-    const std::wstring path = ownPath();
+    const std::wstring path = sample_suite::ownPath();
     if (!appendLine(path + L".args", line))
         return 1;
-    const std::wstring slow = L"slow.exe";
-    if (path.size() >= slow.size() &&
-        path.compare(path.size() - slow.size(), slow.size(), slow) == 0) {
+    if (sample_suite::ownName() == L"slow") {
         Sleep(slowMs);
         return appendLine(path + L".done", "done") ? 0 : 1;
     }
