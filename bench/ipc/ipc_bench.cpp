@@ -6,10 +6,11 @@
 
 #include "bench/ipc/bare_pipe.h"
 #include "bench/support/samples.h"
-#include "tests/windows/ipc/child_process.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
 #include "tests/windows/ipc/running_program.h"
+#include "tests/windows/support/child_process.h"
+#include "tests/windows/support/unique_name.h"
 #include "ui/common/sys/interprocess_communication_win.h"
 
 #include <cstdio>

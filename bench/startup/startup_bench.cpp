@@ -8,8 +8,8 @@
 
 #include "bench/startup/shown_window.h"
 #include "bench/support/samples.h"
-#include "tests/windows/ipc/child_process.h"
 #include "tests/windows/ipc/running_program.h"
+#include "tests/windows/support/child_process.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,6 +1,7 @@
 #include "support/keelbase/file_logger.h"
 
 #include "tests/host/support/temp_folder.h"
+#include "tests/support/lines.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,7 +9,6 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -16,15 +16,6 @@
 using Keelbase::FileLogger;
 
 namespace {
-
-std::vector<std::string> split(const std::string& text)
-{
-    std::istringstream stream(text);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    return lines;
-}
 
 class LogFile : public testing::Test
 {
@@ -41,7 +32,7 @@ protected:
     std::vector<std::string> texts(const std::string& name = "logs/Program.log") const
     {
         std::vector<std::string> found;
-        for (const std::string& line : split(folder.read(name)))
+        for (const std::string& line : testing_support::linesOf(folder.read(name)))
             found.push_back(line.substr(line.find(" | ") + 3));
         return found;
     }

@@ -5,9 +5,11 @@
 // - saves that do overlap may lose pairs (the last one wins with what it read), but each of them
 //   succeeds, every line that the file holds was written by somebody, and the next save is sound.
 
+#include "tests/support/lines.h"
 #include "tests/windows/config/turns.h"
 #include "tests/windows/support/child_process.h"
 #include "tests/windows/support/scratch_folder.h"
+#include "tests/windows/support/unique_name.h"
 #include "ui/common/config/config.h"
 
 #include <gtest/gtest.h>
@@ -15,12 +17,11 @@
 #include <cstdio>
 #include <map>
 #include <regex>
-#include <sstream>
 #include <string>
 
 using windows_tests::ChildProcess;
-using windows_tests::helperProgram;
 using windows_tests::ScratchFolder;
+using windows_tests::siblingProgram;
 
 namespace {
 
@@ -29,15 +30,6 @@ std::string keyOf(char prefix, int number)
     char text[16] = {};
     std::snprintf(text, sizeof(text), "%c%04d", prefix, number);
     return text;
-}
-
-std::vector<std::string> linesOf(const std::filesystem::path& file)
-{
-    std::istringstream stream(windows_tests::readBytes(file));
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    return lines;
 }
 
 } // namespace
@@ -50,7 +42,7 @@ TEST(ConfigProcesses, SavesInTurnLoseNoKey)
     windows_tests::writeBytes(file, "kept=from before\n");
     const std::wstring name = windows_tests::uniqueName(L"turns");
     const windows_tests::Turns turns(name, true);
-    const ChildProcess writer(helperProgram(L"config_writer"),
+    const ChildProcess writer(siblingProgram(L"config_writer"),
                               {file, L"b", std::to_wstring(rounds), name, L"-"});
     // Neither process reads the file again on its own: only save() brings the other's keys in.
     fs::CConfig config;
@@ -62,7 +54,7 @@ TEST(ConfigProcesses, SavesInTurnLoseNoKey)
         ASSERT_EQ(config.save(), 0) << round;
         turns.handOver();
     }
-    ASSERT_EQ(writer.waitForEnd(), 0U);
+    ASSERT_EQ(writer.waitForExit(), 0U);
 
     std::string expected;
     for (const char prefix : {'a', 'b'}) {
@@ -80,8 +72,8 @@ TEST(ConfigProcesses, LastToSaveWinsForTheSameKey)
     fs::CConfig config;
     config.setFileName(file);
     config.setValue("b0000", "parent");
-    const ChildProcess writer(helperProgram(L"config_writer"), {file, L"b", L"1", L"-", L"-"});
-    ASSERT_EQ(writer.waitForEnd(), 0U);
+    const ChildProcess writer(siblingProgram(L"config_writer"), {file, L"b", L"1", L"-", L"-"});
+    ASSERT_EQ(writer.waitForExit(), 0U);
     EXPECT_EQ(windows_tests::readBytes(file), "b0000=b0000\n");
     EXPECT_EQ(config.save(), 0);
     EXPECT_EQ(windows_tests::readBytes(file), "b0000=parent\n");
@@ -97,14 +89,14 @@ TEST(ConfigProcesses, OverlappingSavesSucceedAndWriteOnlyWholeLines)
     const std::wstring start = windows_tests::uniqueName(L"start");
     const win32::KernelHandle startEvent(CreateEventW(nullptr, TRUE, FALSE, start.c_str()));
     const std::wstring count = std::to_wstring(rounds);
-    const ChildProcess first(helperProgram(L"config_writer"), {file, L"a", count, L"-", start});
-    const ChildProcess second(helperProgram(L"config_writer"), {file, L"b", count, L"-", start});
+    const ChildProcess first(siblingProgram(L"config_writer"), {file, L"a", count, L"-", start});
+    const ChildProcess second(siblingProgram(L"config_writer"), {file, L"b", count, L"-", start});
     SetEvent(startEvent.get());
-    EXPECT_EQ(first.waitForEnd(), 0U);
-    EXPECT_EQ(second.waitForEnd(), 0U);
+    EXPECT_EQ(first.waitForExit(), 0U);
+    EXPECT_EQ(second.waitForExit(), 0U);
 
     const std::regex whole("([ab][0-9]{4})=\\1");
-    const std::vector<std::string> lines = linesOf(file);
+    const std::vector<std::string> lines = testing_support::linesOf(windows_tests::readBytes(file));
     EXPECT_FALSE(lines.empty());
     for (const std::string& line : lines)
         EXPECT_TRUE(std::regex_match(line, whole)) << line;

@@ -2,8 +2,8 @@
 
 // The channel's client end in the test process.
 
-#include "tests/windows/ipc/child_process.h"
 #include "tests/windows/ipc/pipe_stranger.h"
+#include "tests/windows/support/child_process.h"
 #include "ui/common/sys/interprocess_communication_win.h"
 
 #include <ostream>

@@ -3,6 +3,7 @@
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
+#include "tests/windows/support/unique_name.h"
 
 #include <gtest/gtest.h>
 

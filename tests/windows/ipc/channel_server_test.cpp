@@ -4,6 +4,7 @@
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
 #include "tests/windows/ipc/serving_peer.h"
+#include "tests/windows/support/unique_name.h"
 
 #include <gtest/gtest.h>
 

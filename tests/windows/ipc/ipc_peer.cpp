@@ -12,6 +12,7 @@
 // With TESSERA_IPC_UNINSTALLER=NAME in its environment it is an application's uninstaller that
 // takes its time, whatever its arguments: signals NAME_removing and ends on NAME_removed.
 
+#include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
 #include "ui/common/sys/interprocess_communication_win.h"
@@ -33,7 +34,6 @@ namespace {
 using ipctest::NamedEvent;
 
 constexpr int badUsage = 200;
-constexpr DWORD deadline = 60000;    // ms
 constexpr DWORD longestRun = 600000; // ms
 
 // Set for the time of createServer by "client-before-first-wait": every new thread then first runs
@@ -147,16 +147,7 @@ int serve(const std::wstring& name, bool withEarlyClient)
 
 int send(const std::string& text)
 {
-    CInterprocessCommunicationWin channel;
-    channel.claimMutex();
-    channel.firstInstance = false;
-    const ULONGLONG end = GetTickCount64() + deadline;
-    int result = 0;
-    while ((result = channel.connectToServer()) == ERROR_PIPE_BUSY && GetTickCount64() < end)
-        WaitNamedPipeW(ipctest::pipePath, 1000);
-    if (result == 0)
-        result = channel.sendMessage(text);
-    const std::string answer = channel.getAnswer();
+    const auto [result, answer] = ipctest::exchange(text);
     std::fwrite(answer.data(), 1, answer.size(), stdout);
     return result;
 }

@@ -1,6 +1,7 @@
 // The main window's base class in a later copy. Once this process has been one, it keeps the
 // mutex; the first copy's tests are in a process of their own.
 
+#include "tests/windows/ipc/claiming_peer.h"
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/ipc/serving_peer.h"
 
@@ -8,32 +9,8 @@ using namespace ipctest;
 
 namespace {
 
-// A child process that has the mutex and does not serve.
-class OtherCopy
-{
-public:
-    OtherCopy()
-        : name(uniqueName(L"tessera_ipc_copy")), first(name + L"_first"), later(name + L"_later"),
-          stop(name + L"_stop"), process(siblingProgram(L"ipc_peer"), {L"claim", name})
-    {
-        const HANDLE any[] = {first.handle(), later.handle(), process.handle()};
-        WaitForMultipleObjects(3, any, FALSE, waitTime(patience));
-    }
-    ~OtherCopy()
-    {
-        stop.set();
-        process.waitForExit();
-    }
-
-private:
-    std::wstring name;
-    NamedEvent first;
-    NamedEvent later;
-    NamedEvent stop;
-    ChildProcess process;
-};
-
-QString deliveriesOf(ServingPeer&)
+// How many messages the serving peer has been given, this question among them.
+QString deliveriesSoFar()
 {
     Stranger client;
     const Bytes answer = client.transact(frame(1, "#deliveries"));
@@ -64,7 +41,7 @@ void LaterCopyTest::sendsItsArgumentsAndIsAnotherInstance()
     QVERIFY(peer.ready());
     Window window({"/app", "Some Id"});
     QVERIFY(window.isAnotherInstanceRunning());
-    QCOMPARE(deliveriesOf(peer), QStringLiteral("2"));
+    QCOMPARE(deliveriesSoFar(), QStringLiteral("2"));
     // A copy does not wait for a busy pipe, so the server must have let the last client go.
     QVERIFY(WaitNamedPipeW(pipePath, waitTime(patience)));
     // What arrived last is what a request too short for delivery is answered with.
@@ -99,7 +76,7 @@ void LaterCopyTest::doesNotServe()
 
 void LaterCopyTest::withoutAServerIsAnotherInstanceAllTheSame()
 {
-    OtherCopy other;
+    const ClaimingPeer other; // whoever has the mutex, nobody serves
     QElapsedTimer timer;
     timer.start();
     Window window;
@@ -124,7 +101,7 @@ void LaterCopyTest::withoutTheCheckOpensItsWindow()
     QVERIFY(peer.ready());
     Window window({}, nullptr, false);
     QVERIFY(!window.isAnotherInstanceRunning());
-    QCOMPARE(deliveriesOf(peer), QStringLiteral("1")); // that question itself
+    QCOMPARE(deliveriesSoFar(), QStringLiteral("1")); // that question itself
 }
 
 void LaterCopyTest::withAParentBringsItsNamesakeForward_data()

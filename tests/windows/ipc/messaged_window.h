@@ -2,9 +2,9 @@
 
 // A window on the main window's base class, and senders of messages to it.
 
-#include "tests/windows/ipc/child_process.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
+#include "tests/windows/support/child_process.h"
 #include "ui/common/sys/interprocess_communication_app.h"
 
 #include <QtTest>

@@ -2,7 +2,7 @@
 
 // The pipe as a program of other origin sees it: the platform's calls only, no class of ours.
 
-#include "tests/windows/ipc/child_process.h"
+#include "tests/windows/support/child_process.h"
 #include "ui/common/sys/interprocess_communication_win.h"
 
 #include <cstdint>
@@ -10,6 +10,8 @@
 #include <vector>
 
 namespace ipctest {
+
+using namespace windows_tests;
 
 using Bytes = std::vector<std::uint8_t>;
 

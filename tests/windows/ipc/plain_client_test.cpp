@@ -1,7 +1,7 @@
 // The channel as an independent program in C sees it.
 
-#include "tests/windows/ipc/child_process.h"
 #include "tests/windows/ipc/serving_peer.h"
+#include "tests/windows/support/child_process.h"
 
 #include <gtest/gtest.h>
 

@@ -2,13 +2,15 @@
 
 // The real program, started as a user would start it, and what can be seen of it from outside.
 
-#include "tests/windows/ipc/child_process.h"
+#include "tests/windows/support/child_process.h"
 
 #include <functional>
 #include <string>
 #include <vector>
 
 namespace ipctest {
+
+using namespace windows_tests;
 
 // Waits for a condition that gives no event to wait for. False after a minute without it.
 bool becomesTrue(const std::function<bool()>& condition);

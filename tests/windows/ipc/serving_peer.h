@@ -3,12 +3,14 @@
 // A child process that serves the pipe, for one test. Its answers: see ScriptedReceiver in
 // ipc_peer.cpp.
 
-#include "tests/windows/ipc/child_process.h"
 #include "tests/windows/ipc/peer_events.h"
+#include "tests/windows/support/child_process.h"
 
 #include <string>
 
 namespace ipctest {
+
+using namespace windows_tests;
 
 class ServingPeer
 {

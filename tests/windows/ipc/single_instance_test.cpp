@@ -1,8 +1,7 @@
 // Who is the first copy: the mutex between real processes. This process never takes the mutex, so
 // that each test starts without one.
 
-#include "tests/windows/ipc/child_process.h"
-#include "tests/windows/ipc/peer_events.h"
+#include "tests/windows/ipc/claiming_peer.h"
 
 #include <gtest/gtest.h>
 
@@ -14,43 +13,6 @@ namespace {
 
 const wchar_t* const mutexName = L"Global\\LUMACRAFT_UNINSTALL";
 
-// A child that holds what it got of the mutex until stop().
-class Claimer
-{
-public:
-    explicit Claimer(const std::vector<std::wstring>& more = {})
-        : name(uniqueName(L"tessera_ipc_claimer")), first(name + L"_first"),
-          later(name + L"_later"), stopEvent(name + L"_stop"),
-          process(siblingProgram(L"ipc_peer"), arguments(name, more))
-    {
-        const HANDLE any[] = {first.handle(), later.handle(), process.handle()};
-        WaitForMultipleObjects(3, any, FALSE, waitTime(patience));
-    }
-
-    bool isFirst() const { return first.isSet(); }
-    bool isLater() const { return later.isSet(); }
-    bool stop()
-    {
-        stopEvent.set();
-        return process.waitForExit() == 0u;
-    }
-
-private:
-    static std::vector<std::wstring> arguments(const std::wstring& name,
-                                               const std::vector<std::wstring>& more)
-    {
-        std::vector<std::wstring> all = {L"claim", name};
-        all.insert(all.end(), more.begin(), more.end());
-        return all;
-    }
-
-    std::wstring name;
-    NamedEvent first;
-    NamedEvent later;
-    NamedEvent stopEvent;
-    ChildProcess process;
-};
-
 bool mutexExists()
 {
     const win32::KernelHandle mutex(OpenMutexW(SYNCHRONIZE, FALSE, mutexName));
@@ -60,7 +22,7 @@ bool mutexExists()
 TEST(SingleInstance, FirstCopyMakesTheMutexAndTakesItAway)
 {
     ASSERT_FALSE(mutexExists());
-    Claimer copy;
+    ClaimingPeer copy;
     EXPECT_TRUE(copy.isFirst());
     EXPECT_TRUE(mutexExists());
     EXPECT_TRUE(copy.stop());
@@ -69,32 +31,32 @@ TEST(SingleInstance, FirstCopyMakesTheMutexAndTakesItAway)
 
 TEST(SingleInstance, LaterCopiesFindIt)
 {
-    Claimer first;
+    ClaimingPeer first;
     ASSERT_TRUE(first.isFirst());
-    Claimer second;
-    Claimer third;
+    ClaimingPeer second;
+    ClaimingPeer third;
     EXPECT_TRUE(second.isLater());
     EXPECT_TRUE(third.isLater());
 }
 
 TEST(SingleInstance, ALaterCopyKeepsTheNameTakenWhenTheFirstEnds)
 {
-    Claimer first;
-    Claimer second;
+    ClaimingPeer first;
+    ClaimingPeer second;
     ASSERT_TRUE(second.isLater());
     ASSERT_TRUE(first.stop());
-    Claimer third;
+    ClaimingPeer third;
     EXPECT_TRUE(third.isLater());
     EXPECT_TRUE(second.stop());
     EXPECT_TRUE(third.stop());
-    Claimer fourth;
+    ClaimingPeer fourth;
     EXPECT_TRUE(fourth.isFirst());
 }
 
 TEST(SingleInstance, ALaterCopyKeepsTheNameTakenUntilItsProcessEnds)
 {
-    Claimer first;
-    Claimer second({L"forget"});
+    ClaimingPeer first;
+    ClaimingPeer second({L"forget"});
     ASSERT_TRUE(second.isLater());
     ASSERT_TRUE(first.stop());
     EXPECT_TRUE(mutexExists());
@@ -104,7 +66,7 @@ TEST(SingleInstance, ALaterCopyKeepsTheNameTakenUntilItsProcessEnds)
 
 TEST(SingleInstance, AFirstCopyGivesTheNameUpWithItsChannel)
 {
-    Claimer first({L"forget"});
+    ClaimingPeer first({L"forget"});
     ASSERT_TRUE(first.isFirst());
     EXPECT_FALSE(mutexExists());
 }
@@ -113,7 +75,7 @@ TEST(SingleInstance, MutexOwnedByAThreadIsNotWaitedFor)
 {
     const win32::KernelHandle owned(CreateMutexW(nullptr, TRUE, mutexName));
     ASSERT_TRUE(owned);
-    Claimer copy;
+    ClaimingPeer copy;
     EXPECT_TRUE(copy.isLater());
     EXPECT_TRUE(copy.stop());
 }
@@ -135,7 +97,7 @@ TEST(SingleInstance, MutexWithoutAccessMeansALaterCopy)
     ASSERT_TRUE(closed);
     const win32::KernelHandle opened(CreateMutexW(nullptr, FALSE, mutexName));
     ASSERT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
-    Claimer copy;
+    ClaimingPeer copy;
     EXPECT_TRUE(copy.isLater());
     EXPECT_TRUE(copy.stop());
 }
@@ -144,7 +106,7 @@ TEST(SingleInstance, AnotherKindOfObjectWithTheNameDoesNotStopTheProgram)
 {
     const win32::KernelHandle event(CreateEventW(nullptr, TRUE, FALSE, mutexName));
     ASSERT_TRUE(event);
-    Claimer copy;
+    ClaimingPeer copy;
     EXPECT_TRUE(copy.isFirst());
     EXPECT_TRUE(copy.stop());
 }

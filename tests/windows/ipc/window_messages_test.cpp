@@ -1,6 +1,7 @@
 // What the main window's base class does with messages.
 
 #include "tests/windows/ipc/messaged_window.h"
+#include "tests/windows/support/unique_name.h"
 #include "tests/windows/widget/captured_log.h"
 
 #include <QSignalSpy>

@@ -1,5 +1,8 @@
+#include "tests/support/lines.h"
 #include "tests/windows/support/child_process.h"
+#include "tests/windows/support/scoped_variable.h"
 #include "tests/windows/support/scratch_folder.h"
+#include "tests/windows/support/unique_name.h"
 #include "ui/common/sys/known_folders.h"
 #include "ui/common/sys/unique_handle.h"
 
@@ -8,24 +11,15 @@
 #include <filesystem>
 #include <map>
 #include <regex>
-#include <sstream>
 #include <string>
 #include <vector>
 
+using testing_support::linesOf;
 using windows_tests::ChildProcess;
 using windows_tests::readBytes;
 using windows_tests::ScopedVariable;
 
 namespace {
-
-std::vector<std::string> linesOf(const std::string& text)
-{
-    std::istringstream stream(text);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    return lines;
-}
 
 // A settings name that nothing else uses, and its folder below the roaming application data.
 class LogFile : public testing::Test
@@ -43,7 +37,7 @@ protected:
                         const std::wstring& end = L"return", const std::wstring& start = L"-") const
     {
         return ChildProcess(
-            windows_tests::helperProgram(L"log_writer"),
+            windows_tests::siblingProgram(L"log_writer"),
             {name, letter, std::to_wstring(count), std::to_wstring(size), end, start});
     }
     std::filesystem::path file() const { return folder / L"logs" / L"log_writer.log"; }
@@ -102,26 +96,26 @@ TEST_F(LogFile, LiesInTheRoamingLogFolderUnderTheProgramsName)
 {
     ASSERT_FALSE(std::filesystem::exists(folder));
     const ChildProcess process = writer(L"a", 1);
-    ASSERT_EQ(process.waitForEnd(), 0U);
+    ASSERT_EQ(process.waitForExit(), 0U);
     const std::string line = readBytes(file());
     const std::regex shape("[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3} "
                            "([0-9]+):([0-9]+) 3 Writer tests/log_writer:1 \\| a0\n");
     std::smatch parts;
     ASSERT_TRUE(std::regex_match(line, parts, shape)) << line;
-    EXPECT_EQ(parts[1].str(), std::to_string(process.id()));
+    EXPECT_EQ(parts[1].str(), std::to_string(process.pid()));
     EXPECT_NE(parts[2].str(), parts[1].str());
 }
 
 TEST_F(LogFile, LevelIsSixWithoutTheVariable)
 {
-    ASSERT_EQ(writer(L"a", 6).waitForEnd(), 0U);
+    ASSERT_EQ(writer(L"a", 6).waitForExit(), 0U);
     EXPECT_EQ(messages(), (std::vector<std::string>{"3 a0", "6 a1", "3 a3", "6 a4"}));
 }
 
 TEST_F(LogFile, VariableRaisesTheLevel)
 {
     const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"7");
-    ASSERT_EQ(writer(L"a", 3).waitForEnd(), 0U);
+    ASSERT_EQ(writer(L"a", 3).waitForExit(), 0U);
     EXPECT_EQ(messages(), (std::vector<std::string>{"3 a0", "6 a1", "7 a2"}));
 }
 
@@ -129,12 +123,12 @@ TEST_F(LogFile, VariableLowersTheLevel)
 {
     {
         const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"3");
-        ASSERT_EQ(writer(L"a", 6).waitForEnd(), 0U);
+        ASSERT_EQ(writer(L"a", 6).waitForExit(), 0U);
         EXPECT_EQ(messages(), (std::vector<std::string>{"3 a0", "3 a3"}));
     }
     std::filesystem::remove_all(folder);
     const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"0");
-    ASSERT_EQ(writer(L"a", 6).waitForEnd(), 0U);
+    ASSERT_EQ(writer(L"a", 6).waitForExit(), 0U);
     EXPECT_FALSE(std::filesystem::exists(folder));
 }
 
@@ -142,7 +136,7 @@ TEST_F(LogFile, AnythingElseInTheVariableLeavesTheDefault)
 {
     for (const wchar_t* const value : {L"seven", L"7x", L" 7", L"-1", L"7.0", L"99999999999"}) {
         const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", value);
-        ASSERT_EQ(writer(L"a", 3).waitForEnd(), 0U);
+        ASSERT_EQ(writer(L"a", 3).waitForExit(), 0U);
         EXPECT_EQ(messages(), (std::vector<std::string>{"3 a0", "6 a1"}));
         std::filesystem::remove_all(folder);
     }
@@ -151,7 +145,7 @@ TEST_F(LogFile, AnythingElseInTheVariableLeavesTheDefault)
 TEST_F(LogFile, CrashLosesNothing)
 {
     const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"7");
-    ASSERT_EQ(writer(L"a", 100, 0, L"crash").waitForEnd(), 9U);
+    ASSERT_EQ(writer(L"a", 100, 0, L"crash").waitForExit(), 9U);
     const std::vector<std::string> written = messages();
     ASSERT_EQ(written.size(), 100U);
     EXPECT_EQ(written.back(), "3 a99");
@@ -164,8 +158,8 @@ TEST_F(LogFile, TwoProcessesShareOneFile)
     const ChildProcess first = writer(L"a", 400, 100, L"return", start.name);
     const ChildProcess second = writer(L"b", 400, 100, L"return", start.name);
     start.give();
-    ASSERT_EQ(first.waitForEnd(), 0U);
-    ASSERT_EQ(second.waitForEnd(), 0U);
+    ASSERT_EQ(first.waitForExit(), 0U);
+    ASSERT_EQ(second.waitForExit(), 0U);
     expectInOrder(linesOf(readBytes(file())), 400, 100);
 }
 
@@ -178,8 +172,8 @@ TEST_F(LogFile, TwoProcessesRotateOneFile)
     const ChildProcess first = writer(L"a", messagesEach, size, L"return", start.name);
     const ChildProcess second = writer(L"b", messagesEach, size, L"return", start.name);
     start.give();
-    ASSERT_EQ(first.waitForEnd(), 0U);
-    ASSERT_EQ(second.waitForEnd(), 0U);
+    ASSERT_EQ(first.waitForExit(), 0U);
+    ASSERT_EQ(second.waitForExit(), 0U);
 
     EXPECT_FALSE(std::filesystem::exists(olderFile(3)));
     std::string all;
@@ -194,7 +188,7 @@ TEST_F(LogFile, TwoProcessesRotateOneFile)
 
 TEST_F(LogFile, ThreeOlderFilesAreKept)
 {
-    ASSERT_EQ(writer(L"a", 90, 100000).waitForEnd(), 0U); // 6 MB at the levels up to 6
+    ASSERT_EQ(writer(L"a", 90, 100000).waitForExit(), 0U); // 6 MB at the levels up to 6
     for (int number = 1; number <= 3; ++number)
         EXPECT_TRUE(std::filesystem::exists(olderFile(number))) << number;
     EXPECT_FALSE(std::filesystem::exists(olderFile(4)));
@@ -205,14 +199,14 @@ TEST_F(LogFile, ProgramRunsWithoutALogFolder)
 {
     std::filesystem::create_directories(folder);
     windows_tests::writeBytes(folder / L"logs", "somebody's file");
-    EXPECT_EQ(writer(L"a", 100).waitForEnd(), 0U);
+    EXPECT_EQ(writer(L"a", 100).waitForExit(), 0U);
     EXPECT_EQ(readBytes(folder / L"logs"), "somebody's file");
 }
 
 TEST_F(LogFile, ProgramRunsWithAFolderInPlaceOfTheFile)
 {
     std::filesystem::create_directories(file());
-    EXPECT_EQ(writer(L"a", 100).waitForEnd(), 0U);
+    EXPECT_EQ(writer(L"a", 100).waitForExit(), 0U);
     EXPECT_TRUE(std::filesystem::is_empty(file()));
 }
 
@@ -224,7 +218,7 @@ TEST_F(LogFile, ProgramRunsWhenTheFileIsLockedByAnother)
         const win32::FileHandle lock(
             CreateFileW(file().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
         ASSERT_TRUE(lock);
-        EXPECT_EQ(writer(L"a", 100).waitForEnd(), 0U);
+        EXPECT_EQ(writer(L"a", 100).waitForExit(), 0U);
     }
     EXPECT_EQ(readBytes(file()), "");
 }
@@ -238,7 +232,7 @@ TEST_F(LogFile, MessagesGoOnWhileAnotherKeepsAnOlderFileOpen)
                                                FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                                OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(viewer);
-    ASSERT_EQ(writer(L"a", 45, 100000).waitForEnd(), 0U); // 3 MB at the levels up to 6
+    ASSERT_EQ(writer(L"a", 45, 100000).waitForExit(), 0U); // 3 MB at the levels up to 6
     EXPECT_LE(std::filesystem::file_size(file()), 1048576U);
     EXPECT_EQ(messages().back(), "6 a43");
 }

@@ -1,6 +1,5 @@
 #include "support/keelbase/platform.h"
-#include "tests/windows/support/child_process.h"
-#include "tests/windows/support/scratch_folder.h"
+#include "tests/windows/support/unique_name.h"
 #include "ui/common/sys/unique_handle.h"
 
 #include <gtest/gtest.h>

@@ -2,56 +2,119 @@
 
 #include "ui/common/sys/module_path.h"
 
-#include <stdexcept>
+#include <cstdio>
 
 namespace windows_tests {
 
-ChildProcess::ChildProcess(const std::filesystem::path& program,
-                           const std::vector<std::wstring>& arguments)
+namespace {
+
+std::wstring quoted(const std::wstring& argument)
 {
-    std::wstring commandLine = L"\"" + program.native() + L"\"";
+    if (!argument.empty() && argument.find_first_of(L" \t\"") == std::wstring::npos)
+        return argument;
+    std::wstring text = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t letter : argument) {
+        if (letter == L'"')
+            text.append(backslashes + 1, L'\\');
+        backslashes = letter == L'\\' ? backslashes + 1 : 0;
+        text += letter;
+    }
+    text.append(backslashes, L'\\');
+    return text + L'"';
+}
+
+win32::KernelHandle jobThatEndsWithItsOwner()
+{
+    win32::KernelHandle job(CreateJobObjectW(nullptr, nullptr));
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof(limits));
+    return job;
+}
+
+} // namespace
+
+DWORD waitTime(milliseconds time)
+{
+    return static_cast<DWORD>(time.count());
+}
+
+ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::wstring>& arguments,
+                           ChildOptions options)
+    : job(jobThatEndsWithItsOwner())
+{
+    std::wstring line;
+#ifdef TESSERA_LAUNCHER
+    if (options.withEnvironment)
+        line = quoted(TESSERA_LAUNCHER) + L' ';
+#endif
+    line += quoted(program);
     for (const std::wstring& argument : arguments)
-        commandLine += L" \"" + argument + L"\"";
-    STARTUPINFOW start = {};
-    start.cb = sizeof(start);
-    PROCESS_INFORMATION started = {};
-    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                        nullptr, &start, &started))
-        throw std::runtime_error("cannot start " + program.u8string() + ": error " +
-                                 std::to_string(GetLastError()));
-    process.reset(started.hProcess);
-    processId = started.dwProcessId;
-    const win32::KernelHandle thread(started.hThread);
+        line += L' ' + quoted(argument);
+
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    win32::FileHandle childEnd;
+    if (options.captureOutput) {
+        HANDLE read = nullptr;
+        HANDLE write = nullptr;
+        CreatePipe(&read, &write, nullptr, 1 << 20);
+        outputEnd.reset(read);
+        childEnd.reset(write);
+        SetHandleInformation(write, HANDLE_FLAG_INHERIT, HANDLE_FLAG_INHERIT);
+        startup.dwFlags = STARTF_USESTDHANDLES;
+        startup.hStdOutput = write;
+        startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+    }
+    PROCESS_INFORMATION information = {};
+    // With dozens of processes starting at once Wine now and then loses one before its first
+    // instruction, and says so with this error only.
+    int attemptsLeft = 5;
+    while (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, options.captureOutput,
+                           CREATE_SUSPENDED, nullptr, nullptr, &startup, &information)) {
+        if (GetLastError() != ERROR_INTERNAL_ERROR || --attemptsLeft == 0) {
+            std::fprintf(stderr, "CreateProcessW(%ls): error %lu\n", line.c_str(), GetLastError());
+            return;
+        }
+    }
+    process.reset(information.hProcess);
+    processId = information.dwProcessId;
+    const win32::KernelHandle mainThread(information.hThread);
+    if (!AssignProcessToJobObject(job.get(), process.get())) {
+        std::fprintf(stderr, "AssignProcessToJobObject: error %lu\n", GetLastError());
+        kill();
+    }
+    ResumeThread(mainThread.get());
 }
 
-ChildProcess::~ChildProcess()
-{
-    TerminateProcess(process.get(), 255); // does nothing when it has ended
-    WaitForSingleObject(process.get(), patienceMs);
-}
-
-std::optional<DWORD> ChildProcess::waitForEnd(DWORD timeoutMs) const
+std::optional<DWORD> ChildProcess::waitForExit(milliseconds deadline) const
 {
     DWORD code = 0;
-    if (WaitForSingleObject(process.get(), timeoutMs) != WAIT_OBJECT_0 ||
+    if (!process || WaitForSingleObject(process.get(), waitTime(deadline)) != WAIT_OBJECT_0 ||
         !GetExitCodeProcess(process.get(), &code))
         return std::nullopt;
     return code;
 }
 
-std::filesystem::path helperProgram(const std::wstring& name)
+void ChildProcess::kill()
 {
-    return std::filesystem::path(sys::moduleFolder()) / (name + L".exe");
+    TerminateJobObject(job.get(), 1);
 }
 
-ScopedVariable::ScopedVariable(const wchar_t* name, const wchar_t* value) : variable(name)
+std::string ChildProcess::output()
 {
-    SetEnvironmentVariableW(name, value);
+    std::string text;
+    char buffer[4096];
+    DWORD read = 0;
+    while (outputEnd && ReadFile(outputEnd.get(), buffer, sizeof(buffer), &read, nullptr) && read)
+        text.append(buffer, read);
+    return text;
 }
 
-ScopedVariable::~ScopedVariable()
+std::wstring siblingProgram(const std::wstring& name)
 {
-    SetEnvironmentVariableW(variable, nullptr);
+    return sys::moduleFolder() + L'\\' + name + L".exe";
 }
 
 } // namespace windows_tests

@@ -1,52 +1,64 @@
 #pragma once
 
+// Child processes of a test, which never outlive it.
+
 #include "ui/common/sys/unique_handle.h"
 
-#include <filesystem>
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include <windows.h>
+
 namespace windows_tests {
 
-// How long a test waits for something that takes milliseconds when all is well.
-constexpr DWORD patienceMs = 60000;
+using std::chrono::milliseconds;
 
-// A program that the test starts, ended with the scope at the latest.
+// How long a test waits for what should happen at once.
+constexpr milliseconds patience{60000};
+
+// A number of `milliseconds` as Win32 calls take it.
+DWORD waitTime(milliseconds time);
+
+struct ChildOptions
+{
+    // Start it with what the environment lends to programs: needed by whoever opens a pipe by the
+    // computer's name.
+    bool withEnvironment = false;
+    // Its standard output goes to ChildProcess::output().
+    bool captureOutput = false;
+};
+
 class ChildProcess
 {
 public:
-    // Throws when the program cannot be started. Arguments must not hold quotes or end with a
-    // backslash. Environment variables are inherited.
-    ChildProcess(const std::filesystem::path& program, const std::vector<std::wstring>& arguments);
-    ~ChildProcess();
-    ChildProcess(const ChildProcess&) = delete;
-    ChildProcess& operator=(const ChildProcess&) = delete;
+    ChildProcess(const std::wstring& program, const std::vector<std::wstring>& arguments,
+                 ChildOptions options = {});
+    // Ends the process, and all that it started, when it still runs.
+    ~ChildProcess() = default;
+    ChildProcess(ChildProcess&&) = default;
+    ChildProcess& operator=(ChildProcess&&) = default;
 
-    // Its exit code, or nothing when it has not ended in time.
-    std::optional<DWORD> waitForEnd(DWORD timeoutMs = patienceMs) const;
+    bool started() const { return static_cast<bool>(process); }
+    // Of the process that was started; with an environment that is not the program itself.
+    DWORD pid() const { return processId; }
+    HANDLE handle() const { return process.get(); }
 
-    DWORD id() const { return processId; }
+    // The exit code, or nothing when it still runs after `deadline`.
+    std::optional<DWORD> waitForExit(milliseconds deadline = patience) const;
+    void kill();
+    // What the process wrote until it ended. Call after waitForExit.
+    std::string output();
 
 private:
+    win32::KernelHandle job; // ends with this object, and the process with it
     win32::KernelHandle process;
+    win32::FileHandle outputEnd;
     DWORD processId = 0;
 };
 
-// A program that is built beside the test.
-std::filesystem::path helperProgram(const std::wstring& name);
-
-// Sets an environment variable for this process and its children while in scope.
-class ScopedVariable
-{
-public:
-    ScopedVariable(const wchar_t* name, const wchar_t* value);
-    ~ScopedVariable();
-    ScopedVariable(const ScopedVariable&) = delete;
-    ScopedVariable& operator=(const ScopedVariable&) = delete;
-
-private:
-    const wchar_t* variable;
-};
+// The program `name`.exe beside the running test.
+std::wstring siblingProgram(const std::wstring& name);
 
 } // namespace windows_tests

@@ -1,21 +1,13 @@
 #include "tests/windows/support/scratch_folder.h"
 
-#include <atomic>
+#include "tests/windows/support/unique_name.h"
+
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <system_error>
 
-#include <windows.h>
-
 namespace windows_tests {
-
-std::wstring uniqueName(const std::wstring& start)
-{
-    static std::atomic<unsigned> counter{0};
-    return start + L"_" + std::to_wstring(GetCurrentProcessId()) + L"_" +
-           std::to_wstring(GetTickCount64()) + L"_" + std::to_wstring(++counter);
-}
 
 ScratchFolder::ScratchFolder()
     : root(std::filesystem::temp_directory_path() /

@@ -23,9 +23,6 @@ private:
     std::filesystem::path root;
 };
 
-// A text that no other test, process or run uses.
-std::wstring uniqueName(const std::wstring& start);
-
 // Bytes as they are. Reading a file that is not there throws, so that its test fails.
 std::string readBytes(const std::filesystem::path& file);
 void writeBytes(const std::filesystem::path& file, std::string_view bytes);

@@ -1,4 +1,4 @@
-#include "tests/windows/support/child_process.h"
+#include "tests/windows/support/scoped_variable.h"
 #include "ui/common/sys/environment.h"
 
 #include <gtest/gtest.h>
