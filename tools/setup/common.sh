@@ -1,9 +1,10 @@
 # shellcheck shell=bash
 # Shared by the set-up scripts: where the cache is, one-at-a-time locks, stages with visible
-# progress, and Debian source packages. Sourced, never run. The caller sets $setupName (shown in
-# front of every line) and, before its first stage, $setupLog.
+# progress, Debian source packages, and libraries built from them. Sourced, never run. The caller
+# sets $setupName (shown in front of every line) and, before its first stage, $setupLog.
 # shellcheck disable=SC2154
 
+setupFolder=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 setupStart=$SECONDS
 stagePid=""
 
@@ -134,4 +135,47 @@ fetchDebianSource() {
         return 1
     fi
     dpkg-source --no-check -x ./*.dsc "$folder/source"
+}
+
+# buildLibrary NAME TITLE SOURCE_PACKAGE VERSION COMPILER_CALLS [--print-prefix]: cross-builds a
+# library from Debian's source package by recipes/NAME.sh, once. The result is kept outside the
+# tree, in a folder named by the version and a hash of the recipe; the option prints that folder and
+# does nothing else.
+#
+# The caller has sourced the recipe. Its functions NAMEConfigure, NAMECompile and NAMEInstall get
+# their folders in $NAMESource, $NAMEBuild, $NAMEPrefix and $NAMEStage, and the number of parallel
+# compilers in $NAMEJobs.
+buildLibrary() {
+    local name=$1 title=$2 package=$3 version=$4 compilerCalls=$5 cache key prefix work
+    cache=$(cacheRoot)
+    key=$name-$(upstreamVersion "$version")
+    key+=-$(hashOf "$setupFolder/recipes/$name.sh" <(echo "$version"))
+    prefix="$cache/$key"
+    if [[ ${6:-} == --print-prefix ]]; then
+        printf '%s\n' "$prefix"
+        return
+    fi
+    [[ -e $prefix ]] && return
+    takeLock "$cache/$name.lock"
+    [[ -e $prefix ]] && return
+
+    work="$cache/work-$name"
+    setupLog="$cache/$key.log"
+    declare -g "${name}Jobs=${SETUP_JOBS:-$(nproc)}" "${name}Prefix=$prefix" \
+        "${name}Source=$work/source" "${name}Build=$work/build" "${name}Stage=$work/stage"
+
+    # A tree that was left half-built cannot be trusted to resume: it is quicker to start over than
+    # to find out why a later stage fails.
+    rm -rf "$work"
+    mkdir -p "$work"
+    : >"$setupLog"
+
+    say "building $title $version for Windows once (log: $setupLog)"
+    runStage "fetching the source" 0 fetchDebianSource "$package" "$version" "$work"
+    runStage "configuring" 0 "${name}Configure"
+    runStage "compiling" "$compilerCalls" "${name}Compile"
+    runStage "installing" 0 "${name}Install"
+    mv "$work/stage$prefix" "$prefix"
+    rm -rf "$work"
+    say "$title is ready in $prefix ($(du -sh "$prefix" | cut -f1))"
 }
