@@ -1,17 +1,11 @@
 """Uninstall lists that no installer of the suite would write."""
 
-import shutil
-
-from harness import layout
+from harness import probes
 from harness.case import SuiteTestCase
 from harness.registry import (REG_BINARY, REG_DWORD, REG_EXPAND_SZ, REG_MULTI_SZ, Value,
                               text_bytes)
-from harness.suite import SUITE_KEY, Suite
+from harness.suite import LIST_KEY, SELECTIVE, SUITE_KEY, Suite
 from applications import PARTNER, RUNNING
-
-LIST_KEY = f"{SUITE_KEY}\\UninstPaths"
-PROBES = "C:\\probe dir"
-SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
 
 # As long as a command may be that Windows still starts, with the other switches added.
 LONG = 30_000
@@ -29,25 +23,14 @@ class BadRegistry(SuiteTestCase):
 
     def place_probe(self, name):
         """Its Windows path."""
-        folder = self.prefix.unix_path(PROBES)
-        folder.mkdir(exist_ok=True)
-        shutil.copy(layout.ARGUMENT_RECORDER, folder / f"{name}.exe")
-        return f"{PROBES}\\{name}.exe"
+        return probes.place_working(self.prefix, name)
+
+    def remove(self, checked, rows):
+        self.remove_rows(self.suite, checked, rows)
 
     def assert_probes(self, expected):
         """Which probes ran, once each, and with which arguments."""
-        for name in expected:
-            self.suite.records.wait_for_end(name)
-        self.assertEqual({name: [run.arguments for run in self.suite.records.runs(name)]
-                          for name in self.suite.records.recorded()},
-                         {name: [arguments] for name, arguments in expected.items()})
-
-    def remove_rows(self, checked, rows):
-        program = self.start_program(self.suite, rows=rows)
-        for row in checked:
-            program.main_window.toggle_row(row)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.assert_recorded(self.suite, expected)
 
     def test_commands_of_other_shapes_run_as_far_as_they_name_a_program(self):
         no_switch = self.place_probe("no_switch")
@@ -71,7 +54,7 @@ class BadRegistry(SuiteTestCase):
         self.prefix.write_registry([Value(LIST_KEY, f"{number} command", command)
                                     for number, command in enumerate(commands)] +
                                    [Value(LIST_KEY, "stays", no_switch)])
-        self.remove_rows(range(len(commands)), rows=len(commands) + 1)
+        self.remove(range(len(commands)), rows=len(commands) + 1)
         self.assert_probes({
             "no_switch": [f"/log{no_switch}", *SELECTIVE],
             "no_folder": ["/log=C:\\old_uninstall.log", *SELECTIVE],
@@ -90,7 +73,7 @@ class BadRegistry(SuiteTestCase):
             Value(LIST_KEY, "4 empty", ""),
             Value(LIST_KEY, "5 blank", " "),
             Value(LIST_KEY, "6 stays", probe)])
-        self.remove_rows(range(5), rows=6)
+        self.remove(range(5), rows=6)
         self.assert_probes({"after": ["/log=C:\\logs\\After_uninstall.log", *SELECTIVE]})
 
     def test_values_that_are_not_text_run_nothing(self):
@@ -105,7 +88,7 @@ class BadRegistry(SuiteTestCase):
                   REG_EXPAND_SZ),
             Value(LIST_KEY, "6 text", last),
             Value(LIST_KEY, "7 stays", command)])
-        self.remove_rows(range(6), rows=7)
+        self.remove(range(6), rows=7)
         self.assert_probes({"last": ["/log=C:\\logs\\Last_uninstall.log", *SELECTIVE]})
 
     def test_unusual_value_names_are_rows_like_others(self):
@@ -115,11 +98,7 @@ class BadRegistry(SuiteTestCase):
                   for name, probe in zip(names, probes)]
         self.prefix.write_registry(values + [Value(LIST_KEY, "~ stays", "C:\\nothing.exe")])
         # The rows are sorted; the one that stays comes before the accented letter.
-        program = self.start_program(self.suite, rows=6)
-        for row in (0, 1, 2, 3, 5):
-            program.main_window.toggle_row(row)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove([0, 1, 2, 3, 5], rows=6)
         self.assert_probes({probe: ["/log=C:\\logs\\Some_uninstall", *SELECTIVE]
                             for probe in probes})
 
@@ -128,7 +107,7 @@ class BadRegistry(SuiteTestCase):
         self.prefix.write_registry([
             Value(LIST_KEY, "a\\b", self.place_probe("backslash") + " /log=C:\\logs\\B_uninstall"),
             Value(LIST_KEY, "stays", "C:\\nothing.exe")])
-        self.remove_rows([0], rows=2)
+        self.remove([0], rows=2)
         self.assert_probes({})
 
     def test_a_damaged_install_path_does_not_disturb_the_question(self):

@@ -71,10 +71,6 @@ class BadSettings(SuiteTestCase):
         self.common.mkdir()
         self.assertEqual(self.face(), english)
 
-        program = self.start_program(self.suite, rows=2)
-        program.main_window.toggle_row(0)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
-        self.assert_arguments(self.suite, {
-            PARTNER: [self.suite.log_switch(PARTNER), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        self.remove_rows(self.suite, [0], rows=2)
+        self.assert_ran_selectively(self.suite, PARTNER)
         self.assertTrue(self.common.is_dir())

@@ -2,8 +2,8 @@
 
 from pathlib import PureWindowsPath
 
-from harness.case import COMPANY_BRAND, PRODUCT_BRAND, SuiteTestCase
-from harness.suite import PROGRAM_FILES, Suite
+from harness.case import SuiteTestCase
+from harness.suite import COMPANY_BRAND, PRODUCT_BRAND, PROGRAM_FILES, Suite
 from applications import AWKWARD_FOLDER, PARTNER, SUITE, UNKNOWN
 
 # As many applications as tell the two lists apart.
@@ -38,10 +38,7 @@ class Brand(SuiteTestCase):
         self.assertEqual(program.exit_code(), 0)
 
     def check_removal(self, suite, application):
-        program = self.start_program(suite, rows=ROWS[suite.brand])
-        program.main_window.toggle_row(0)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(suite, [0], rows=ROWS[suite.brand])
         self.assert_removed(suite, application, with_settings=False)
 
     def test_by_the_company_folder(self):

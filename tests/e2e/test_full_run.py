@@ -1,7 +1,7 @@
 """Runs with every row checked."""
 
 from harness.case import SuiteTestCase
-from harness.suite import SUITE_KEY
+from harness.suite import START_OF_LOG, SUITE_KEY
 from applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, HOLDING, PARTNER,
                           RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
 
@@ -95,13 +95,10 @@ class FullRun(SuiteTestCase):
             SUITE: [suite.log_switch(SUITE), "/SILENT", "/SUPPRESSMSGBOXES", "/LASTAPP"],
         })
         self.assert_log(suite, [
-            "-->Widget::Widget()",
-            "Try to fill list widget (runtime brand: Lumacraft)",
+            *START_OF_LOG,
             "--> uninstallButtonClicked",
-            "--> DoUninsstall: full",
-            f"DoUninsstall: {suite.uninstaller(PARTNER)}",
-            "--> DoUninsstall: full",
-            f"DoUninsstall: {suite.uninstaller(SUITE)}",
+            *suite.removal_log(PARTNER, "full"),
+            *suite.removal_log(SUITE, "full"),
             "~Widget()",
         ])
         # The suite's uninstaller could remove the program, because that had ended.
@@ -109,10 +106,7 @@ class FullRun(SuiteTestCase):
 
     def test_of_the_suite_alone_does_not_announce_a_full_run(self):
         suite = self.install([SUITE])
-        program = self.start_program(suite, rows=1)
-        program.main_window.toggle_row(0)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(suite, [0], rows=1)
 
         self.assert_arguments(suite, {
             SUITE: [suite.log_switch(SUITE), "/SILENT", "/SUPPRESSMSGBOXES", "/LASTAPP"]})
@@ -121,11 +115,7 @@ class FullRun(SuiteTestCase):
 
     def test_without_a_suite_row_ends_well_after_the_last_application(self):
         suite = self.install([PARTNER, UNKNOWN])
-        program = self.start_program(suite, rows=2)
-        program.main_window.toggle_row(0)
-        program.main_window.toggle_row(1)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(suite, [0, 1], rows=2)
 
         self.assert_arguments(suite, {
             PARTNER: [suite.log_switch(PARTNER), "/SILENT", "/SUPPRESSMSGBOXES",

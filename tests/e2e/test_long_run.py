@@ -10,11 +10,10 @@ from typing import Callable, List, NamedTuple, Set
 from harness import layout, screen
 from harness.case import SuiteTestCase
 from harness.registry import Value
-from harness.suite import MAIN_TITLE, SUITE_KEY, RunningProgram, Suite
+from harness.suite import LIST_KEY, MAIN_TITLE, START_OF_LOG, RunningProgram, Suite
 from harness.waiting import PATIENCE
 from applications import SUITE
 
-LIST_KEY = f"{SUITE_KEY}\\UninstPaths"
 FOLDER = "C:\\Program Files\\Lumacraft\\Long run"
 VISIBLE_ROWS = 9
 
@@ -31,8 +30,7 @@ LONGEST_ANSWER_MS = 1500
 # No second start is put off until the run is over, and most are not until a row's wait is.
 LONGEST_SECOND_START, USUAL_SECOND_START = 6.0, 1.0
 # What the second starts log as well.
-OF_EVERY_COPY = {"-->Widget::Widget()", "Try to fill list widget (runtime brand: Lumacraft)",
-                 "~Widget()"}
+OF_EVERY_COPY = {*START_OF_LOG, "~Widget()"}
 # While as many rows are left, the window still has time to be looked at.
 LAST_LOOK = 3
 

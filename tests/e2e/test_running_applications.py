@@ -5,19 +5,14 @@ import shutil
 from harness import layout
 from harness.case import SuiteTestCase
 from harness.screen import pressing
-from harness.suite import WARNING_TITLE
+from harness.suite import START_OF_LOG, WARNING_TITLE
 from applications import AWKWARD_FOLDER, PARTNER, RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, UNKNOWN
 
-START_OF_LOG = ["-->Widget::Widget()", "Try to fill list widget (runtime brand: Lumacraft)"]
 BEGUN = "--> uninstallButtonClicked"
 
 
 def warning(application):
     return f"--> showWarningAndKillApp: {application.id_string}"
-
-
-def removal(suite, application, mode="selective"):
-    return [f"--> DoUninsstall: {mode}", f"DoUninsstall: {suite.uninstaller(application)}"]
 
 
 class RunningApplications(SuiteTestCase):
@@ -35,12 +30,11 @@ class RunningApplications(SuiteTestCase):
         self.assertEqual(program.exit_code(), 0)
 
         karaoke.wait_until_ended()
-        self.assert_arguments(suite, {
-            RUNNING: [suite.log_switch(RUNNING), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        self.assert_ran_selectively(suite, RUNNING)
         self.assertEqual(suite.registered(), ["Vidalo Downloader", "Zebra Player"])
         self.assert_untouched(suite, PARTNER)
         self.assert_log(suite, START_OF_LOG + [BEGUN, warning(RUNNING)] +
-                        removal(suite, RUNNING) + ["~Widget()"])
+                        suite.removal_log(RUNNING) + ["~Widget()"])
 
     def check_cancelled(self, key):
         suite = self.install([RUNNING, PARTNER, UNKNOWN])
@@ -82,7 +76,7 @@ class RunningApplications(SuiteTestCase):
             self.assert_untouched(suite, application)
         self.assert_log(suite, START_OF_LOG + [
             "allApplicationsSelButtonClicked", "changeItemsState: 1", BEGUN,
-            *removal(suite, AWKWARD_FOLDER, "full"), warning(RUNNING), "changeItemsState: 0",
+            *suite.removal_log(AWKWARD_FOLDER, "full"), warning(RUNNING), "changeItemsState: 0",
             "allApplicationsSelButtonClicked", "changeItemsState: 0", "~Widget()"])
 
     def test_two_are_asked_about_one_after_the_other_in_row_order(self):
@@ -99,12 +93,10 @@ class RunningApplications(SuiteTestCase):
 
         karaoke.wait_until_ended()
         tuner.wait_until_ended()
-        self.assert_arguments(suite, {
-            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
-            for application in (RUNNING, SECOND_RUNNING)})
+        self.assert_ran_selectively(suite, RUNNING, SECOND_RUNNING)
         self.assert_log(suite, START_OF_LOG + [
-            BEGUN, warning(RUNNING), *removal(suite, RUNNING), warning(SECOND_RUNNING),
-            *removal(suite, SECOND_RUNNING), "~Widget()"])
+            BEGUN, warning(RUNNING), *suite.removal_log(RUNNING), warning(SECOND_RUNNING),
+            *suite.removal_log(SECOND_RUNNING), "~Widget()"])
 
     def test_cancel_on_the_second_keeps_what_follows(self):
         suite = self.install([AWKWARD_FOLDER, RUNNING, SECOND_RUNNING, UNKNOWN])
@@ -120,8 +112,7 @@ class RunningApplications(SuiteTestCase):
         self.assertEqual(program.exit_code(), 0)
 
         self.assertTrue(tuner.running)
-        self.assert_arguments(suite, {
-            RUNNING: [suite.log_switch(RUNNING), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        self.assert_ran_selectively(suite, RUNNING)
         for application in (AWKWARD_FOLDER, SECOND_RUNNING, UNKNOWN):
             self.assert_untouched(suite, application)
 
@@ -145,7 +136,7 @@ class RunningApplications(SuiteTestCase):
         # The suite's row comes first in the list, its removal last.
         self.assert_log(suite, START_OF_LOG + [
             "allApplicationsSelButtonClicked", "changeItemsState: 1", BEGUN, warning(RUNNING),
-            *removal(suite, PARTNER, "full"), *removal(suite, SUITE, "full"), "~Widget()"])
+            *suite.removal_log(PARTNER, "full"), *suite.removal_log(SUITE, "full"), "~Widget()"])
 
     def test_the_slideshow_maker_is_never_seen_running(self):
         # Its instance is looked for under its spaced name, which no instance ever had.
@@ -158,8 +149,7 @@ class RunningApplications(SuiteTestCase):
         self.assertEqual(program.exit_code(), 0)
 
         self.assertTrue(slideshow.running)
-        self.assert_arguments(suite, {
-            SLIDESHOW: [suite.log_switch(SLIDESHOW), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        self.assert_ran_selectively(suite, SLIDESHOW)
 
     def test_an_application_that_nobody_removes_is_left_alone(self):
         suite = self.install([RUNNING, PARTNER])

@@ -1,32 +1,20 @@
 """Runs that leave at least one application where it is."""
 
 from harness.case import SuiteTestCase
-from harness.suite import SUITE_KEY
+from harness.suite import START_OF_LOG, SUITE_KEY
 from applications import (AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, FAILURE_CODE, HOLDING,
                           PARTNER, SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
 
-START_OF_LOG = ["-->Widget::Widget()", "Try to fill list widget (runtime brand: Lumacraft)"]
-
-
-def removal(suite, application):
-    """The log of one uninstaller's start."""
-    return ["--> DoUninsstall: selective", f"DoUninsstall: {suite.uninstaller(application)}"]
 
 
 class SelectiveRun(SuiteTestCase):
 
     def test_removes_exactly_the_checked_applications(self):
         suite = self.install([AWKWARD_FOLDER, SLIDESHOW, PARTNER, SECOND_RUNNING, UNKNOWN])
-        program = self.start_program(suite, rows=5)
-        for row in (0, 1, 4):
-            program.main_window.toggle_row(row)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(suite, [0, 1, 4], rows=5)
 
         chosen = [AWKWARD_FOLDER, SLIDESHOW, UNKNOWN]
-        self.assert_arguments(suite, {
-            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
-            for application in chosen})
+        self.assert_ran_selectively(suite, *chosen)
         for application in chosen:
             self.assert_removed(suite, application, with_settings=False)
             self.assertTrue(suite.uninstall_log(application).exists())
@@ -35,7 +23,8 @@ class SelectiveRun(SuiteTestCase):
         self.assertEqual(suite.registered(), ["Vidalo Downloader", "Wave Tuner"])
         self.assertNotIn("UninstallMode", suite.registry()[SUITE_KEY])
         self.assert_log(suite, START_OF_LOG + ["--> uninstallButtonClicked"] +
-                        [line for application in chosen for line in removal(suite, application)] +
+                        [line for application in chosen
+                         for line in suite.removal_log(application)] +
                         ["~Widget()"])
 
     def test_delete_settings_and_history_adds_its_switch_and_keeps_the_log_switch(self):
@@ -66,9 +55,7 @@ class SelectiveRun(SuiteTestCase):
 
         self.assertEqual(surveys, ["Uninstall Tessera Clip Saver",
                                    "Uninstall Tessera Track Saver"])
-        self.assert_arguments(suite, {
-            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
-            for application in (CLIP_SAVER, TRACK_SAVER)})
+        self.assert_ran_selectively(suite, CLIP_SAVER, TRACK_SAVER)
         self.assert_removed(suite, CLIP_SAVER, with_settings=False)
         self.assert_removed(suite, TRACK_SAVER, with_settings=False)
         self.assert_untouched(suite, PARTNER)
@@ -76,29 +63,18 @@ class SelectiveRun(SuiteTestCase):
     def test_goes_on_after_an_uninstaller_that_is_missing(self):
         suite = self.install([DAMAGED, PARTNER, UNKNOWN])
         suite.damage(DAMAGED)
-        program = self.start_program(suite, rows=3)
-        program.main_window.toggle_row(0)
-        program.main_window.toggle_row(1)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(suite, [0, 1], rows=3)
 
-        self.assert_arguments(suite, {
-            PARTNER: [suite.log_switch(PARTNER), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        self.assert_ran_selectively(suite, PARTNER)
         self.assertEqual(suite.registered(), ["Light Table", "Zebra Player"])
         self.assert_log(suite, START_OF_LOG + ["--> uninstallButtonClicked"] +
-                        removal(suite, DAMAGED) + removal(suite, PARTNER) + ["~Widget()"])
+                        suite.removal_log(DAMAGED) + suite.removal_log(PARTNER) + ["~Widget()"])
 
     def test_goes_on_after_an_uninstaller_that_fails(self):
         suite = self.install([FAILING, PARTNER, UNKNOWN])
-        program = self.start_program(suite, rows=3)
-        program.main_window.toggle_row(0)
-        program.main_window.toggle_row(1)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(suite, [0, 1], rows=3)
 
-        self.assert_arguments(suite, {
-            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
-            for application in (FAILING, PARTNER)})
+        self.assert_ran_selectively(suite, FAILING, PARTNER)
         self.assertEqual(suite.records.runs(FAILING.id_string)[0].exit_code, FAILURE_CODE)
         self.assertTrue((suite.folder(FAILING) / FAILING.process_name).exists())
         self.assert_removed(suite, PARTNER, with_settings=False)
@@ -106,11 +82,7 @@ class SelectiveRun(SuiteTestCase):
 
     def test_waits_two_seconds_for_an_uninstaller_and_leaves_it_running(self):
         suite = self.install([HOLDING, PARTNER, UNKNOWN])
-        program = self.start_program(suite, rows=3)
-        program.main_window.toggle_row(0)
-        program.main_window.toggle_row(1)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(suite, [0, 1], rows=3)
 
         # The program has ended, and the slow uninstaller has not.
         held = suite.records.wait_for_begin(HOLDING.id_string)
@@ -123,9 +95,7 @@ class SelectiveRun(SuiteTestCase):
         self.assertLess(waited, 10.0)
 
         suite.records.release(HOLDING.id_string)
-        self.assert_arguments(suite, {
-            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
-            for application in (HOLDING, PARTNER)})
+        self.assert_ran_selectively(suite, HOLDING, PARTNER)
         self.assertEqual(suite.records.runs(HOLDING.id_string)[0].exit_code, 0)
         self.assertFalse((suite.folder(HOLDING) / HOLDING.process_name).exists())
         self.assertEqual(suite.registered(), ["Zebra Player"])
@@ -140,12 +110,11 @@ class SelectiveRun(SuiteTestCase):
         self.assertEqual(program.exit_code(), 0)
 
         chosen = [AWKWARD_FOLDER, PARTNER]
-        self.assert_arguments(suite, {
-            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
-            for application in chosen})
+        self.assert_ran_selectively(suite, *chosen)
         self.assert_untouched(suite, SUITE)
         self.assert_log(suite, START_OF_LOG + ["--> uninstallButtonClicked"] +
-                        [line for application in chosen for line in removal(suite, application)] +
+                        [line for application in chosen
+                         for line in suite.removal_log(application)] +
                         ["~Widget()"])
 
     def test_with_nothing_but_the_suites_row_checked_removes_nothing(self):

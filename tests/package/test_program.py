@@ -3,6 +3,7 @@
 from pathlib import PureWindowsPath
 
 from harness.case import SuiteTestCase
+from harness.suite import START_OF_LOG
 from applications import AWKWARD_FOLDER, PARTNER, SECOND_RUNNING
 from packing import only, pack, unpack
 
@@ -26,22 +27,14 @@ class PackagedProgram(SuiteTestCase):
         program = self.start_program(suite, rows=0)
         program.main_window.close()
         self.assertEqual(program.exit_code(), 0)
-        self.assert_log(suite, ["-->Widget::Widget()",
-                                "Try to fill list widget (runtime brand: Lumacraft)",
-                                "~Widget()"])
+        self.assert_log(suite, [*START_OF_LOG, "~Widget()"])
 
     def test_removes_exactly_the_checked_applications(self):
         suite = self.unpacked_suite([AWKWARD_FOLDER, PARTNER, SECOND_RUNNING])
-        program = self.start_program(suite, rows=3)
-        program.main_window.toggle_row(0)
-        program.main_window.toggle_row(1)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(suite, [0, 1], rows=3)
 
         chosen = [AWKWARD_FOLDER, PARTNER]
-        self.assert_arguments(suite, {
-            application: [suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]
-            for application in chosen})
+        self.assert_ran_selectively(suite, *chosen)
         for application in chosen:
             self.assert_removed(suite, application, with_settings=False)
         self.assert_untouched(suite, SECOND_RUNNING)

@@ -1,5 +1,5 @@
-"""The suite's statistics and country services for the demo: on this machine, behind a proxy that the
-program's settings name, under certificates that only the demo's computer trusts."""
+"""The suite's statistics and country services for the demo: on this machine, behind a proxy that
+the program's settings name, under certificates that only the demo's computer trusts."""
 
 import contextlib
 import sys

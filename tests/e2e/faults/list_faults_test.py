@@ -3,14 +3,12 @@
 import unittest
 
 import paths  # noqa: F401  (makes the harness importable)
-import probes
+from harness import probes
 from harness.case import SuiteTestCase
 from harness.registry import Value
-from harness.suite import SUITE_KEY, Suite
+from harness.suite import LIST_KEY, SELECTIVE, Suite
 from harness.waiting import wait_until
 
-LIST_KEY = f"{SUITE_KEY}\\UninstPaths"
-SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
 MANY = 500
 SHOWN = 9
 

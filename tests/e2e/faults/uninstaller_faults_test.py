@@ -4,15 +4,12 @@ import subprocess
 import unittest
 
 import paths  # noqa: F401  (makes the harness importable)
-import probes
 from applications import SUITE
-from harness import processes
+from harness import probes, processes
 from harness.case import SuiteTestCase
 from harness.registry import Value
-from harness.suite import SUITE_KEY, Suite
+from harness.suite import LIST_KEY, SELECTIVE, Suite
 
-LIST_KEY = f"{SUITE_KEY}\\UninstPaths"
-SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
 FULL = [*SELECTIVE, "/DISABLEREDIRECT"]
 WAIT = 2.0
 # How far the log's two times of one wait may be from its length on a busy machine.
@@ -37,11 +34,7 @@ class UninstallerFaults(SuiteTestCase):
             for number, name in enumerate(names)])
 
     def remove_all_but_the_last(self, rows):
-        program = self.start_program(self.suite, rows=rows, environment=DETAILED)
-        for row in range(rows - 1):
-            program.main_window.toggle_row(row)
-        program.main_window.press_uninstall()
-        self.assertEqual(program.exit_code(), 0)
+        self.remove_rows(self.suite, range(rows - 1), rows, DETAILED)
 
     def texts(self):
         return [message.text for message in self.suite.log() if message.category == "MainForm"]
@@ -58,14 +51,6 @@ class UninstallerFaults(SuiteTestCase):
         position = texts.index(f"DoUninsstall: {probes.path(name)}")
         return (messages[position + 1].time - messages[position].time).total_seconds()
 
-    def assert_ran(self, expected):
-        """Which probes were started, once each, and with which arguments."""
-        for name in expected:
-            self.suite.records.wait_for_begin(name)
-        self.assertEqual({name: [run.arguments for run in self.suite.records.runs(name)]
-                          for name in self.suite.records.recorded()},
-                         {name: [arguments] for name, arguments in expected.items()})
-
     @staticmethod
     def selective(*names):
         """What is logged for them."""
@@ -81,7 +66,7 @@ class UninstallerFaults(SuiteTestCase):
         runs = {"works": [probes.log_switch("works"), *SELECTIVE]}
         if started:
             runs[name] = [probes.log_switch(name), *SELECTIVE]
-        self.assert_ran(runs)
+        self.assert_recorded(self.suite, runs)
         # What was not removed is still registered, to be tried again.
         self.assertEqual(self.suite.registered(), [f"0 {name}", "1 works", "2 stays"])
 
@@ -144,7 +129,7 @@ class UninstallerFaults(SuiteTestCase):
         self.suite.records.release("hands_over")
         self.suite.records.wait_for_end("hands_over")
 
-        self.assert_ran({
+        self.assert_recorded(self.suite, {
             "crashes": FULL, "hands_over": FULL, "hangs": FULL,
             "works": [probes.log_switch("works"), *FULL],
             SUITE.id_string: [self.suite.log_switch(SUITE), *SELECTIVE, "/LASTAPP"]})
@@ -164,8 +149,9 @@ class UninstallerFaults(SuiteTestCase):
         probes.place_working(self.prefix, "works")
         self.install_rows(["works", "drops_key", "works", "stays"])
         self.remove_all_but_the_last(4)
-        self.assert_ran({"works": [probes.log_switch("works"), *SELECTIVE],
-                         "drops_key": [probes.log_switch("drops_key"), *SELECTIVE]})
+        self.assert_recorded(self.suite, {
+            "works": [probes.log_switch("works"), *SELECTIVE],
+            "drops_key": [probes.log_switch("drops_key"), *SELECTIVE]})
         self.assertEqual(self.removals(), [*self.selective("works", "drops_key"),
                                            "--> DoUninsstall: selective", "~Widget()"])
         self.assertEqual(self.suite.registry(), {})
@@ -179,8 +165,8 @@ class UninstallerFaults(SuiteTestCase):
         program.main_window.press_uninstall()
         self.assertEqual(program.exit_code(), 0)
 
-        self.assert_ran({"drops_key": ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES",
-                                       "/DISABLEREDIRECT"]})
+        self.assert_recorded(self.suite, {
+            "drops_key": ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/DISABLEREDIRECT"]})
         # Without its command the suite's row is one like any other; the last step finds no suite.
         self.assertEqual(self.removals(), [
             "--> DoUninsstall: full", f"DoUninsstall: {probes.path('drops_key')}",

@@ -9,12 +9,10 @@ from typing import Dict, Iterable, List, Optional
 
 from harness import layout, screen
 from harness.prefix import Prefix
-from harness.suite import (COMPANY_BRAND, MAIN_TITLE, PRODUCT_BRAND, RunningApplication,
+from harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, RunningApplication,
                            RunningProgram, Suite)
 from harness.waiting import wait_until
 from applications import Application
-
-__all__ = ["COMPANY_BRAND", "PRODUCT_BRAND", "SuiteTestCase"]
 
 
 class SuiteTestCase(unittest.TestCase):
@@ -73,6 +71,16 @@ class SuiteTestCase(unittest.TestCase):
             program.main_window.wait_for_rows(rows)
         return program
 
+    def remove_rows(self, suite: Suite, checked: Iterable[int], rows: int,
+                    environment: Optional[Dict[str, str]] = None) -> None:
+        """Starts the program, which shows so many rows, checks some of them, and sees the run to
+        its end. Nothing may have to be answered on the way."""
+        program = self.start_program(suite, rows=rows, environment=environment)
+        for row in checked:
+            program.main_window.toggle_row(row)
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
     @staticmethod
     def _stop(process: subprocess.Popen):
         process.kill()
@@ -85,10 +93,23 @@ class SuiteTestCase(unittest.TestCase):
         ended by now."""
         for application in expected:
             suite.records.wait_for_end(application.id_string)
-        found = {id_string: [run.arguments for run in suite.records.runs(id_string)]
-                 for id_string in suite.records.recorded()}
-        self.assertEqual(found, {application.id_string: [arguments]
-                                 for application, arguments in expected.items()})
+        self.assert_recorded(suite, {application.id_string: arguments
+                                     for application, arguments in expected.items()})
+
+    def assert_ran_selectively(self, suite: Suite, *applications: Application):
+        """Exactly their uninstallers ran, with the switches of a selective run."""
+        self.assert_arguments(suite, {
+            application: [suite.log_switch(application), *SELECTIVE]
+            for application in applications})
+
+    def assert_recorded(self, suite: Suite, expected: Dict[str, List[str]]):
+        """Exactly these programs have begun, by their names in the records, each once, with
+        exactly these arguments."""
+        for name in expected:
+            suite.records.wait_for_begin(name)
+        self.assertEqual({name: [run.arguments for run in suite.records.runs(name)]
+                          for name in suite.records.recorded()},
+                         {name: [arguments] for name, arguments in expected.items()})
 
     def assert_log(self, suite: Suite, expected: List[str]):
         """The program's messages of the main form, all of them, in order."""

@@ -6,8 +6,9 @@ from datetime import datetime
 from pathlib import Path
 from typing import List, Optional
 
-_LINE = re.compile(r"(?P<time>\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3}) (?P<process>\d+):\d+ "
-                   r"(?P<level>\d) (?P<category>\S+) (?P<source>\S+):\d+ \| (?P<text>.*)$")
+_LINE = re.compile(
+    r"(?P<time>\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3}) (?P<process>\d+):\d+ "
+    r"(?P<level>\d) (?P<category>\S+) (?P<source>\S+):(?P<line>\d+) \| (?P<text>.*)$")
 
 
 @dataclass(frozen=True)
@@ -16,6 +17,7 @@ class Message:
     level: int
     category: str
     source: str
+    line: int
     text: str
 
 
@@ -27,5 +29,6 @@ def read(file: Path) -> List[Message]:
         if match is None:
             raise ValueError(f"not a log line: {line!r}")
         messages.append(Message(datetime.fromisoformat(match["time"]), int(match["level"]),
-                                match["category"], match["source"], match["text"]))
+                                match["category"], match["source"], int(match["line"]),
+                                match["text"]))
     return messages

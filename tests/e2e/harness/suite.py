@@ -18,11 +18,20 @@ COMPANY_BRAND = "Corvane"
 PRODUCT_BRAND = "Lumacraft"
 LIST_NAMES = {COMPANY_BRAND: "UninstallPaths", PRODUCT_BRAND: "UninstPaths"}
 SUITE_KEY = "HKEY_CURRENT_USER\\Software\\Corvane"
+# The product brand's list.
+LIST_KEY = f"{SUITE_KEY}\\{LIST_NAMES[PRODUCT_BRAND]}"
 PROGRAM_FILES = PureWindowsPath("C:/Program Files")
 
 MAIN_TITLE = "Uninstall"
 SURVEY_TITLE = "Uninstall .+"
+OFFER_TITLE = "Tessera (Clip|Track) Saver"
 WARNING_TITLE = "Uninstallation"
+
+# What an uninstaller receives after its log switch in a selective run.
+SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
+
+# What the program logs before its window is used.
+START_OF_LOG = ["-->Widget::Widget()", "Try to fill list widget (runtime brand: Lumacraft)"]
 
 # What a suite in use has in its settings; the place is known, so no survey asks a server for it.
 COMMON_SETTINGS = "EventStatEnabled=0\nLanguage=en\nLocation=US\n"
@@ -77,6 +86,10 @@ class Suite:
 
     def log_switch(self, application: Application) -> str:
         return f"/log={self.prefix.logs}\\{application.id_string}_uninstall.log"
+
+    def removal_log(self, application: Application, mode: str = "selective") -> List[str]:
+        """What the program logs when it starts the application's uninstaller."""
+        return [f"--> DoUninsstall: {mode}", f"DoUninsstall: {self.uninstaller(application)}"]
 
     def uninstall_log(self, application: Application) -> Path:
         return self.prefix.unix_path(

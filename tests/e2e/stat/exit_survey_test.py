@@ -11,13 +11,12 @@ from statistics_world import SuiteWithServices, event_of, proxy_values, store_se
 from applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 from harness import layout, screen
 from harness.registry import Value
-from harness.suite import SURVEY_TITLE, WARNING_TITLE
+from harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
 from harness.waiting import wait_until
 
 # Middles of the survey's answers and of the offer's button.
 ANSWERS = {"license": (244, 87), "quality": (244, 137), "features": (244, 187)}
 STORE_BUTTON = (279, 308)
-OFFER_TITLE = "Tessera (Clip|Track) Saver"
 
 VIDEO_OFFER = "offer_install_ms_store"
 MUSIC_OFFER = "offer_install_ms_store_msldl"

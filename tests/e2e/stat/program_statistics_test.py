@@ -9,9 +9,8 @@ from statistics_world import (SuiteWithServices, event_of, proxy_values, store_s
 
 from applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 from harness import screen
-from harness.suite import SURVEY_TITLE, WARNING_TITLE
+from harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
 
-OFFER_TITLE = "Tessera (Clip|Track) Saver"
 SECOND_START_LIMIT = 10.0
 
 

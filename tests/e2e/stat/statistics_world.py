@@ -18,7 +18,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 
 from certificates import Authority  # noqa: E402
 from connect_proxy import ConnectProxy  # noqa: E402
-from harness import layout  # noqa: E402
+from harness import layout, log_file  # noqa: E402
 from harness.case import SuiteTestCase  # noqa: E402
 from harness.prefix import Prefix  # noqa: E402
 from http_service import HttpService, Received  # noqa: E402
@@ -193,12 +193,8 @@ class StatisticsCase(ServicesMixin, unittest.TestCase):
         """The log so far."""
         if not self.log_file.exists():
             return []
-        lines = []
-        for line in self.log_file.read_text("utf-8").splitlines():
-            head, text = line.split(" | ", 1)
-            _, _, _, level, category, place = head.split()
-            lines.append(LogLine(int(level), category, place, text))
-        return lines
+        return [LogLine(message.level, message.category, f"{message.source}:{message.line}",
+                        message.text) for message in log_file.read(self.log_file)]
 
     def store_common(self, **values: object) -> None:
         store_settings(self.settings / "common.cfg", values)

@@ -152,7 +152,8 @@ class Answers(unittest.TestCase):
         self.check(lambda *_: None, GOT_NOTHING, 0)
 
     def test_an_answer_without_headers_is_an_error(self):
-        self.check(lambda connection, _: connection.sendall(b"hello, world\n"), UNSUPPORTED_PROTOCOL, 0)
+        self.check(lambda connection, _: connection.sendall(b"hello, world\n"),
+                   UNSUPPORTED_PROTOCOL, 0)
 
 
 class Limits(unittest.TestCase):

@@ -1,4 +1,5 @@
-"""Programs that registered commands name in these tests."""
+"""Programs that stand in for uninstallers in registered commands: one that works, and those that go
+wrong (tests/e2e/faults)."""
 
 import shutil
 from pathlib import Path
@@ -29,9 +30,10 @@ def _target(prefix: Prefix, name: str) -> Path:
     return file
 
 
-def place_working(prefix: Prefix, name: str) -> None:
-    """Records its arguments and ends."""
+def place_working(prefix: Prefix, name: str) -> str:
+    """Records its arguments and ends. Returns its Windows path."""
     shutil.copy(layout.ARGUMENT_RECORDER, _target(prefix, name))
+    return path(name)
 
 
 def place_misbehaving(prefix: Prefix, name: str) -> None:
