@@ -1,7 +1,8 @@
 #include "ui/common/config/brand.h"
 
+#include "ui/common/config/config_line.h"
+
 #include <algorithm>
-#include <cstddef>
 
 namespace fs {
 
@@ -28,17 +29,11 @@ std::optional<std::string> brandFromFolderName(std::string_view name)
 
 std::string brandFromGlobalConfig(std::string_view text)
 {
+    ConfigLine line;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        const std::string_view line = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
-
-        const std::size_t equals = line.find('=');
-        if (equals == std::string_view::npos)
+        if (!takeConfigLine(text, line) || withoutTrailing(line.key, " \t") != "CompanyBrandMode")
             continue;
-        if (withoutTrailing(line.substr(0, equals), " \t") != "CompanyBrandMode")
-            continue;
-        std::string_view value = withoutTrailing(line.substr(equals + 1), "\r\n \t");
+        std::string_view value = withoutTrailing(line.value, "\r\n \t");
         value = withoutLeading(value, " \t");
         return value == "1" ? companyBrand : defaultBrand;
     }

@@ -1,5 +1,7 @@
 #include "ui/common/config/config_text.h"
 
+#include "ui/common/config/config_line.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -7,13 +9,7 @@ namespace fs {
 
 namespace {
 
-struct Line
-{
-    std::string_view key;
-    std::string_view value;
-};
-
-bool keyLess(const Line& left, const Line& right)
+bool keyLess(const ConfigLine& left, const ConfigLine& right)
 {
     return left.key < right.key;
 }
@@ -38,29 +34,15 @@ std::string_view withoutCarriageReturns(std::string_view text, std::string& stor
     return storage;
 }
 
-// Takes the first line off the text. False for a line without "=".
-bool takeLine(std::string_view& text, Line& line)
-{
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    const std::string_view whole = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-
-    const std::size_t equals = whole.find('=');
-    if (equals == std::string_view::npos)
-        return false;
-    line = {whole.substr(0, equals), whole.substr(equals + 1)};
-    return true;
-}
-
 // Files are written in the order of their keys, so that usually every pair goes right behind the
 // one before it. Returns the text from the first line on that does not.
 std::string_view insertWhileAscending(std::string_view text, ConfigValues& values)
 {
     auto next = values.end();
     const std::string* last = nullptr;
-    Line line;
+    ConfigLine line;
     for (std::string_view rest = text; !text.empty(); text = rest) {
-        if (!takeLine(rest, line))
+        if (!takeConfigLine(rest, line))
             continue;
         if (last == nullptr)
             next = values.lower_bound(std::string(line.key));
@@ -75,13 +57,13 @@ std::string_view insertWhileAscending(std::string_view text, ConfigValues& value
 
 // Sorting the lines of any other file costs less than finding each one's place in the map. The
 // sort is stable: the first line of a repeated key stays first.
-void insertSorted(std::vector<Line>& lines, ConfigValues& values)
+void insertSorted(std::vector<ConfigLine>& lines, ConfigValues& values)
 {
     if (lines.empty())
         return;
     std::stable_sort(lines.begin(), lines.end(), keyLess);
     auto next = values.lower_bound(std::string(lines.front().key));
-    for (const Line& line : lines)
+    for (const ConfigLine& line : lines)
         next = std::next(values.try_emplace(next, std::string(line.key), line.value));
     lines.clear();
 }
@@ -96,10 +78,10 @@ void parseConfigText(std::string_view text, ConfigValues& values)
     text = withoutCarriageReturns(text, storage);
 
     text = insertWhileAscending(text, values);
-    std::vector<Line> lines;
-    Line line;
+    std::vector<ConfigLine> lines;
+    ConfigLine line;
     while (!text.empty()) {
-        if (!takeLine(text, line))
+        if (!takeConfigLine(text, line))
             continue;
         if (lines.size() == batchSize)
             insertSorted(lines, values);
