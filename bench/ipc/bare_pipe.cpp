@@ -1,6 +1,6 @@
 #include "bench/ipc/bare_pipe.h"
 
-namespace ipcbench {
+namespace bench {
 
 namespace {
 
@@ -68,4 +68,4 @@ DWORD BareClient::exchange(std::vector<unsigned char>& request)
     return size;
 }
 
-} // namespace ipcbench
+} // namespace bench

@@ -10,7 +10,7 @@
 
 #include <windows.h>
 
-namespace ipcbench {
+namespace bench {
 
 // Echoes each frame, one client at a time, until `stop` is signalled.
 void serveBare(HANDLE stop, HANDLE ready);
@@ -31,4 +31,4 @@ private:
     win32::FileHandle pipe;
 };
 
-} // namespace ipcbench
+} // namespace bench

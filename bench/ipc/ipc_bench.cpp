@@ -5,6 +5,7 @@
 //   ipc_bench serve KIND STOP READY  the server of a measurement, in a process of its own
 
 #include "bench/ipc/bare_pipe.h"
+#include "bench/support/give_up.h"
 #include "bench/support/samples.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
@@ -22,9 +23,7 @@ namespace {
 
 using ipctest::ChildProcess;
 using ipctest::NamedEvent;
-using namespace ipcbench;
-using bench::median;
-using bench::now;
+using namespace bench;
 
 constexpr DWORD longestRun = 600000; // ms
 constexpr int turns = 4;
@@ -60,7 +59,7 @@ public:
           process(ipctest::siblingProgram(L"ipc_bench"), {L"serve", kind, stop, ready})
     {
         if (!readyEvent.wait())
-            std::exit(2);
+            giveUp("a server does not start");
     }
     ~Server()
     {
@@ -95,8 +94,7 @@ void measure(int count, const std::function<bool()>& connect, const std::functio
         }
         const double connected = now();
         if (!exchange()) {
-            std::fprintf(stderr, "an exchange failed\n");
-            std::exit(2);
+            giveUp("an exchange failed");
         }
         const double answered = now();
         close();
@@ -126,8 +124,7 @@ void measureChannel(std::size_t textSize, int count, Times& times)
         count, [&] { return client.connectToServer() == 0; },
         [&] { return client.sendMessage(text) == 0; }, [&] { client.close(); }, times);
     if (client.getAnswer() != text) {
-        std::fprintf(stderr, "the answer is not the text\n");
-        std::exit(2);
+        giveUp("the answer is not the text");
     }
 }
 
@@ -169,8 +166,7 @@ double startToExit(const std::wstring& program, const std::vector<std::wstring>&
     const double begun = now();
     const ChildProcess process(program, arguments, {true, false});
     if (process.waitForExit() != 0u) {
-        std::fprintf(stderr, "a start failed\n");
-        std::exit(2);
+        giveUp("a start failed");
     }
     return (now() - begun) / 1000;
 }
@@ -179,8 +175,7 @@ void compareStarts()
 {
     const ipctest::RunningProgram first;
     if (!first.ready()) {
-        std::fprintf(stderr, "the program does not start\n");
-        std::exit(2);
+        giveUp("the program does not start");
     }
     std::vector<double> bare;
     std::vector<double> answered;

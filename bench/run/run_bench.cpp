@@ -6,6 +6,7 @@
 //                                       an uninstaller that takes its time), each over
 //                                       APPLICATIONS rows (default 10)
 
+#include "bench/support/give_up.h"
 #include "bench/support/samples.h"
 #include "support/keelbase/keelbase.h"
 #include "tests/windows/widget/suite_registry.h"
@@ -22,6 +23,7 @@
 
 namespace {
 
+using bench::giveUp;
 using bench::median;
 using bench::now;
 
@@ -30,12 +32,6 @@ constexpr DWORD longestWait = 2000; // ms, as in the window
 constexpr int warmUps = 2;
 // Hardly an uninstaller is quicker.
 constexpr int typicalUninstallerMs = 100;
-
-[[noreturn]] void give(const char* up)
-{
-    std::fprintf(stderr, "run_bench: %s\n", up);
-    std::exit(2);
-}
 
 QString uninstaller()
 {
@@ -63,12 +59,12 @@ double bareRun(int applications)
         while (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                                &startup, &information)) {
             if (GetLastError() != ERROR_INTERNAL_ERROR || --attemptsLeft == 0)
-                give("CreateProcessW failed");
+                giveUp("CreateProcessW failed");
         }
         const win32::KernelHandle process(information.hProcess);
         const win32::KernelHandle thread(information.hThread);
         if (WaitForSingleObject(process.get(), longestWait) != WAIT_OBJECT_0)
-            give("an uninstaller did not end");
+            giveUp("an uninstaller did not end");
     }
     return now() - begun;
 }
@@ -88,7 +84,7 @@ double windowsRun()
         ended = now();
     });
     if (QApplication::exec() != 0 || window.isAnotherInstanceRunning())
-        give("the run did not end as it should");
+        giveUp("the run did not end as it should");
     return ended - begun;
 }
 

@@ -2,11 +2,11 @@
 // from outside and started in turns, so that what else the machine does hits both. Prints a table;
 // see docs/performance.md. Run by "make bench".
 //
-//   startup_bench [STARTS [REMARK]]   STARTS of each program (default 60); the table's title has
-//   the
-//                                     REMARK
+//   startup_bench [STARTS [REMARK]]   STARTS of each program (default 60); the REMARK stands in the
+//                                     table's title
 
 #include "bench/startup/shown_window.h"
+#include "bench/support/give_up.h"
 #include "bench/support/samples.h"
 #include "tests/windows/ipc/running_program.h"
 #include "tests/windows/support/child_process.h"
@@ -19,6 +19,7 @@
 
 namespace {
 
+using bench::giveUp;
 using bench::median;
 using bench::now;
 using bench::quantile;
@@ -30,7 +31,6 @@ constexpr double memoryGoal = 1.15;
 
 struct Subject
 {
-    const char* name;
     std::wstring program;
     std::vector<double> shown;      // ms from the start to the window
     std::vector<double> ended;      // ms from closing the window to the end of the process
@@ -38,36 +38,30 @@ struct Subject
     std::vector<double> committed;  // KiB at the peak
 };
 
-[[noreturn]] void give(const char* up)
-{
-    std::fprintf(stderr, "startup_bench: %s\n", up);
-    std::exit(2);
-}
-
 void startOnce(Subject& subject)
 {
     bench::ShownWindow shown;
     const double begun = now();
     const ipctest::ChildProcess process(subject.program, {});
     if (!process.started())
-        give("a program does not start");
+        giveUp("a program does not start");
     const HWND window = shown.wait(process.pid(), ipctest::waitTime(ipctest::patience));
     const double seen = now();
     if (window == nullptr)
-        give("a program shows no window");
+        giveUp("a program shows no window");
     // The answer comes from its event loop, so the start is over.
     DWORD_PTR answer = 0;
     if (!SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL,
                              ipctest::waitTime(ipctest::patience), &answer))
-        give("a window does not answer");
+        giveUp("a window does not answer");
     WaitForInputIdle(process.handle(), ipctest::waitTime(ipctest::patience));
     PROCESS_MEMORY_COUNTERS memory = {};
     if (!GetProcessMemoryInfo(process.handle(), &memory, sizeof(memory)))
-        give("GetProcessMemoryInfo failed");
+        giveUp("GetProcessMemoryInfo failed");
     const double closed = now();
     PostMessageW(window, WM_CLOSE, 0, 0);
     if (process.waitForExit() != 0u)
-        give("a program does not end well");
+        giveUp("a program does not end well");
     subject.ended.push_back((now() - closed) / 1000);
     subject.shown.push_back((seen - begun) / 1000);
     subject.workingSet.push_back(static_cast<double>(memory.PeakWorkingSetSize) / 1024);
@@ -131,13 +125,13 @@ void print(const Subject& ours, const Subject& bare, const char* remark)
 int main(int argc, char** argv)
 {
     const int starts = argc > 1 ? std::atoi(argv[1]) : 60;
-    Subject ours{"Uninstall.exe", ipctest::programPath(), {}, {}, {}, {}};
-    Subject bare{"bare window", ipctest::siblingProgram(L"bare_window"), {}, {}, {}, {}};
+    Subject ours{ipctest::programPath(), {}, {}, {}, {}};
+    Subject bare{ipctest::siblingProgram(L"bare_window"), {}, {}, {}, {}};
     registerApplications();
     for (int i = 0; i < warmUps + starts; ++i) {
         if (i == warmUps) {
             for (Subject* subject : {&ours, &bare})
-                *subject = {subject->name, subject->program, {}, {}, {}, {}};
+                *subject = {subject->program, {}, {}, {}, {}};
         }
         // Neither always follows the other.
         startOnce(i % 2 == 0 ? ours : bare);
