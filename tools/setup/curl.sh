@@ -6,11 +6,11 @@
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-# shellcheck disable=SC2034 # common.sh shows it
 setupName=curl
 # shellcheck source=tools/setup/common.sh
 source "$here/common.sh"
-# shellcheck source=tools/setup/recipes/curl.sh
+# The recipe's variables are set by buildLibrary.
+# shellcheck source=tools/setup/recipes/curl.sh disable=SC2154
 source "$here/recipes/curl.sh"
 
 # The host tests link this package, so both builds talk through the same release.

@@ -6,11 +6,11 @@
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-# shellcheck disable=SC2034 # common.sh shows it
 setupName=qt
 # shellcheck source=tools/setup/common.sh
 source "$here/common.sh"
-# shellcheck source=tools/setup/recipes/qt.sh
+# The recipe's variables are set by buildLibrary.
+# shellcheck source=tools/setup/recipes/qt.sh disable=SC2154
 source "$here/recipes/qt.sh"
 
 # The host's moc, rcc and uic come from this package, so its version is Qt's version here.

@@ -100,8 +100,6 @@ std::string usage()
 class ScriptedReceiver : public IMessageFromOtherProcess
 {
 public:
-    explicit ScriptedReceiver(const std::wstring& name) : name(name) {}
-
     void onMessageFromOtherProcess(unsigned long pid, const std::string& text) override
     {
         ++deliveries;
@@ -115,23 +113,19 @@ public:
             answerText = usage();
         } else if (text.compare(0, 6, "#size ") == 0) { // that many bytes
             answerText.assign(std::strtoul(text.c_str() + 6, nullptr, 10), 'x');
-        } else if (text == "#block") { // only after NAME_release
-            NamedEvent(name + L"_entered").set();
-            answerText = NamedEvent(name + L"_release").wait() ? "released" : "not released";
         } else {
             answerText = text;
         }
     }
 
 private:
-    std::wstring name;
     unsigned long deliveries = 0;
 };
 
 int serve(const std::wstring& name, bool withEarlyClient)
 {
     const NamedEvent stop(name + L"_stop");
-    ScriptedReceiver receiver(name);
+    ScriptedReceiver receiver;
     CInterprocessCommunicationWin channel;
     channel.claimMutex();
     channel.receiver = &receiver;

@@ -19,9 +19,6 @@ public:
     explicit ServingPeer(const std::vector<std::wstring>& moreArguments = {});
 
     bool ready() const { return isReady; }
-    // For the message "#block": waits until it is delivered; lets its handling go on.
-    bool waitUntilBlocked() const { return entered.wait(); }
-    void release() const { released.set(); }
     // Makes it close its channel; gives what createServer returned there.
     std::optional<DWORD> stop(milliseconds deadline = patience);
     DWORD pid() const { return process.pid(); }
@@ -30,8 +27,6 @@ private:
     std::wstring name;
     NamedEvent readyEvent;
     NamedEvent stopEvent;
-    NamedEvent entered;
-    NamedEvent released;
     ChildProcess process;
     bool isReady = false;
 };
