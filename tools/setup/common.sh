@@ -139,17 +139,21 @@ fetchDebianSource() {
 
 # buildLibrary NAME TITLE SOURCE_PACKAGE VERSION COMPILER_CALLS [--print-prefix]: cross-builds a
 # library from Debian's source package by recipes/NAME.sh, once. The result is kept outside the
-# tree, in a folder named by the version and a hash of the recipe; the option prints that folder and
-# does nothing else.
+# tree, in a folder named by the version and a hash of the recipe and of patches/NAME/*.patch; the
+# option prints that folder and does nothing else.
 #
 # The caller has sourced the recipe. Its functions NAMEConfigure, NAMECompile and NAMEInstall get
-# their folders in $NAMESource, $NAMEBuild, $NAMEPrefix and $NAMEStage, and the number of parallel
-# compilers in $NAMEJobs.
+# their folders in $NAMESource, $NAMEBuild, $NAMEPrefix, $NAMEStage and $NAMEPatches, and the number
+# of parallel compilers in $NAMEJobs.
 buildLibrary() {
     local name=$1 title=$2 package=$3 version=$4 compilerCalls=$5 cache key prefix work
+    local -a patches=()
+    if [[ -d $setupFolder/patches/$name ]]; then
+        patches=("$setupFolder/patches/$name"/*.patch)
+    fi
     cache=$(cacheRoot)
     key=$name-$(upstreamVersion "$version")
-    key+=-$(hashOf "$setupFolder/recipes/$name.sh" <(echo "$version"))
+    key+=-$(hashOf "$setupFolder/recipes/$name.sh" <(echo "$version") "${patches[@]}")
     prefix="$cache/$key"
     if [[ ${6:-} == --print-prefix ]]; then
         printf '%s\n' "$prefix"
@@ -162,6 +166,7 @@ buildLibrary() {
     work="$cache/work-$name"
     setupLog="$cache/$key.log"
     declare -g "${name}Jobs=${SETUP_JOBS:-$(nproc)}" "${name}Prefix=$prefix" \
+        "${name}Patches=$setupFolder/patches/$name" \
         "${name}Source=$work/source" "${name}Build=$work/build" "${name}Stage=$work/stage"
 
     # A tree that was left half-built cannot be trusted to resume: it is quicker to start over than

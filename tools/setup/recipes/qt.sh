@@ -1,7 +1,7 @@
 # shellcheck shell=bash
-# How Qt is built for 64-bit Windows. The install is keyed by a hash of this file: any change here
-# builds Qt again. The functions are run as stages by tools/setup/qt.sh, which sets $qtSource,
-# $qtBuild, $qtPrefix and $qtStage.
+# How Qt is built for 64-bit Windows. The install is keyed by a hash of this file and of the patches:
+# any change of them builds Qt again. The functions are run as stages by tools/setup/qt.sh, which
+# sets $qtSource, $qtBuild, $qtPrefix, $qtStage and $qtPatches.
 
 # The expected number of compiler calls, for the progress display only.
 qtCompilerCalls=1400
@@ -17,7 +17,7 @@ qtOptions=(
     -no-opengl -no-angle -no-vulkan -no-feature-direct2d -no-dbus -no-icu -no-glib
     -no-openssl -no-schannel -no-sql-odbc -no-sql-sqlite -no-cups -no-fontconfig
     -qt-zlib -qt-pcre -qt-libpng -no-libjpeg -no-gif -qt-harfbuzz -no-freetype
-    -qt-doubleconversion -no-libmd4c
+    -qt-doubleconversion -no-libmd4c -external-hostbindir /usr/lib/qt5/bin
 )
 
 qtUnusedFeatures=(
@@ -28,7 +28,7 @@ qtUnusedFeatures=(
     undocommand datawidgetmapper splashscreen syntaxhighlighter treewidget tablewidget fontcombobox
     commandlinkbutton textbrowser scroller gestures filedialog dirmodel filesystemmodel
     concatenatetablesproxymodel transposeproxymodel imageformat_ppm imageformat_xbm sessionmanager
-    movie big_codecs style-fusion tabletevent
+    movie big_codecs style-fusion tabletevent regularexpression timezone codecs completer fscompleter
 )
 
 # The compilers are taken by the names without "-posix" inside Qt's makefiles, so a folder of links
@@ -43,6 +43,10 @@ qtLinkCompilers() {
 }
 
 qtConfigure() {
+    local patch
+    for patch in "$qtPatches"/*.patch; do
+        patch -d "$qtSource" -p1 <"$patch"
+    done
     qtLinkCompilers "$qtBuild/../compilers"
     mkdir -p "$qtBuild"
     cd "$qtBuild"
@@ -59,4 +63,16 @@ qtCompile() {
 qtInstall() {
     qtLinkCompilers "$qtBuild/../compilers"
     make -C "$qtBuild" INSTALL_ROOT="$qtStage" install
+    # CMake's files expect the host's tools beside Qt.
+    ln -s /usr/lib/qt5/bin/{moc,rcc,uic,qlalr} "$qtStage$qtPrefix/bin/"
+    qtInstallUnpatchedWindowsPlugin
+}
+
+# For the measurements: the platform plugin as Qt ships it, which asks Direct3D at every start.
+qtInstallUnpatchedWindowsPlugin() {
+    local plugin=src/plugins/platforms/windows unpatched="$qtStage$qtPrefix/unpatched"
+    patch -d "$qtSource" -p1 -R <"$qtPatches/no-graphics-card-query.patch"
+    make -C "$qtBuild/$plugin" -j"$qtJobs"
+    mkdir -p "$unpatched"
+    cp "$qtBuild/plugins/platforms/libqwindows.a" "$unpatched/"
 }
