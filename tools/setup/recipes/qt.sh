@@ -45,7 +45,7 @@ qtLinkCompilers() {
 qtConfigure() {
     local patch
     for patch in "$qtPatches"/*.patch; do
-        patch -d "$qtSource" -p1 <"$patch"
+        patch -s -d "$qtSource" -p1 <"$patch"
     done
     qtLinkCompilers "$qtBuild/../compilers"
     mkdir -p "$qtBuild"
@@ -71,7 +71,7 @@ qtInstall() {
 # For the measurements: the platform plugin as Qt ships it, which asks Direct3D at every start.
 qtInstallUnpatchedWindowsPlugin() {
     local plugin=src/plugins/platforms/windows unpatched="$qtStage$qtPrefix/unpatched"
-    patch -d "$qtSource" -p1 -R <"$qtPatches/no-graphics-card-query.patch"
+    patch -s -d "$qtSource" -p1 -R <"$qtPatches/no-graphics-card-query.patch"
     make -C "$qtBuild/$plugin" -j"$qtJobs"
     mkdir -p "$unpatched"
     cp "$qtBuild/plugins/platforms/libqwindows.a" "$unpatched/"
