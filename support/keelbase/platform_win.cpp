@@ -2,7 +2,7 @@
 
 #include "ui/common/sys/known_folders.h"
 #include "ui/common/sys/module_path.h"
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <functional>
 

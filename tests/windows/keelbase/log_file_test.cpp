@@ -4,7 +4,7 @@
 #include "tests/windows/support/scratch_folder.h"
 #include "tests/windows/support/unique_name.h"
 #include "ui/common/sys/known_folders.h"
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "tests/windows/support/scratch_folder.h"
 #include "ui/common/stat/exclusive_save.h"
 #include "ui/common/sys/result_codes.h"
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <chrono>
 #include <future>

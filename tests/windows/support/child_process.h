@@ -2,7 +2,7 @@
 
 // Child processes of a test, which never outlive it.
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <chrono>
 #include <optional>

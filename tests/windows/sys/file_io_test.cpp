@@ -3,7 +3,7 @@
 #include "ui/common/sys/file_io.h"
 #include "ui/common/sys/file_io_open.h"
 #include "ui/common/sys/result_codes.h"
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <gtest/gtest.h>
 

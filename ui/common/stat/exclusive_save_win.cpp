@@ -1,6 +1,6 @@
 #include "ui/common/stat/exclusive_save.h"
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 #include "ui/common/sys/win32_error.h"
 
 #include <windows.h>

@@ -2,7 +2,7 @@
 
 // Threads and locks on the Win32 primitives, without C++ exceptions crossing a thread's start.
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <windows.h>
 

@@ -1,6 +1,7 @@
 #include "ui/common/sys/file_io.h"
 
 #include "ui/common/sys/result_codes.h"
+#include "ui/common/sys/text_convert.h"
 
 #include <cerrno>
 #include <cstddef>
@@ -18,33 +19,9 @@ struct FileCloser
 };
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
-// Paths are UTF-8 here whatever the locale. A wide character is a whole code point.
-std::string utf8(const std::wstring& text)
-{
-    std::string bytes;
-    const auto append = [&bytes](unsigned lead, unsigned point, int continuationBytes) {
-        bytes += static_cast<char>(lead | (point >> (6 * continuationBytes)));
-        while (continuationBytes-- > 0)
-            bytes += static_cast<char>(0x80U | ((point >> (6 * continuationBytes)) & 0x3FU));
-    };
-    for (const wchar_t character : text) {
-        // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character is no char
-        const auto point = static_cast<unsigned>(character);
-        if (point < 0x80)
-            append(0, point, 0);
-        else if (point < 0x800)
-            append(0xC0, point, 1);
-        else if (point < 0x10000)
-            append(0xE0, point, 2);
-        else
-            append(0xF0, point, 3);
-    }
-    return bytes;
-}
-
 FileHandle openFile(const std::wstring& path, const char* mode)
 {
-    return FileHandle(std::fopen(utf8(path).c_str(), mode));
+    return FileHandle(std::fopen(toNarrow(path).c_str(), mode));
 }
 
 } // namespace
@@ -75,7 +52,7 @@ int writeWholeFile(const std::wstring& path, const std::string& text)
 bool fileExists(const std::wstring& path)
 {
     struct stat status = {};
-    return stat(utf8(path).c_str(), &status) == 0;
+    return stat(toNarrow(path).c_str(), &status) == 0;
 }
 
 } // namespace sys
