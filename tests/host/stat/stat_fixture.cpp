@@ -1,7 +1,6 @@
 #include "tests/host/stat/stat_fixture.h"
 
 #include "ui/common/config/common_config.h"
-#include "ui/common/stat/exclusive_save.h"
 #include "ui/common/stat/guid.h"
 
 #include <cstdlib>
@@ -39,11 +38,6 @@ std::wstring applicationConfigPath(int appId)
 } // namespace fs
 
 namespace stats {
-
-int saveExclusively(fs::CConfig& common)
-{
-    return common.save();
-}
 
 std::string createGuid()
 {

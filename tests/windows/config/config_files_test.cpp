@@ -5,8 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <future>
 #include <string>
 
+using namespace std::chrono_literals;
 using fs::CConfig;
 using windows_tests::readBytes;
 using windows_tests::ScratchFolder;
@@ -85,6 +87,33 @@ TEST_F(ConfigFiles, UnreadableFile)
     EXPECT_EQ(readBytes(file), "a=1\nb=2\n");
     EXPECT_EQ(config.save(), 0);
     EXPECT_EQ(readBytes(file), "a=changed\nb=2\n");
+}
+
+// A save that took a file in use for an unreadable one would write its own key and nothing else.
+TEST_F(ConfigFiles, SaveKeepsWhatIsInAFileThatSomebodyHasOpenForAMoment)
+{
+    struct Hold
+    {
+        const char* how;
+        DWORD access;
+        DWORD sharing;
+    };
+    for (const Hold& hold :
+         {Hold{"for itself alone", GENERIC_READ, 0},
+          Hold{"for writing", GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE}}) {
+        SCOPED_TRACE(hold.how);
+        writeBytes(file, "a=1\nb=2\n");
+        win32::FileHandle other(CreateFileW(file.c_str(), hold.access, hold.sharing, nullptr,
+                                            OPEN_EXISTING, 0, nullptr));
+        ASSERT_TRUE(other);
+        config.setValue("c", "3");
+        std::future<int> result = std::async(std::launch::async, [&] { return config.save(); });
+        if (hold.sharing == 0)
+            EXPECT_EQ(result.wait_for(100ms), std::future_status::timeout) << "it is still trying";
+        other.reset();
+        EXPECT_EQ(result.get(), 0);
+        EXPECT_EQ(readBytes(file), "a=1\nb=2\nc=3\n");
+    }
 }
 
 TEST_F(ConfigFiles, WriteProtectedFileKeepsItsContent)

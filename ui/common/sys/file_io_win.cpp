@@ -26,9 +26,28 @@ struct StreamCloser
 };
 using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
+// _wfopen_s refuses a file that anybody has open for writing: other applications of the suite,
+// protection software and backups do, mostly for a moment.
+constexpr ULONGLONG patienceMs = 500;
+constexpr DWORD pauseMs = 10;
+
 int openStream(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
 {
     return _wfopen_s(stream, path, mode);
+}
+
+// Opens for reading, again and again while others have the file open. `systemError` receives the
+// system's number for the failure, 0 for none.
+int openPatiently(OpenFile open, std::FILE** stream, const wchar_t* path, DWORD& systemError)
+{
+    const ULONGLONG begun = GetTickCount64();
+    for (;;) {
+        const int error = open(stream, path, L"rb");
+        systemError = error != 0 ? _doserrno : ERROR_SUCCESS;
+        if (systemError != ERROR_SHARING_VIOLATION || GetTickCount64() - begun >= patienceMs)
+            return error;
+        Sleep(pauseMs);
+    }
 }
 
 // The stream's size in bytes; the stream stands at its start again.
@@ -48,8 +67,9 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
 {
     try {
         std::FILE* opened = nullptr;
-        if (const int error = open(&opened, path.c_str(), L"rb"); error != 0) {
-            win32::logFailure(category, source, __LINE__, "CreateFileW", GetLastError());
+        DWORD systemError = ERROR_SUCCESS;
+        if (const int error = openPatiently(open, &opened, path.c_str(), systemError); error != 0) {
+            win32::logFailure(category, source, __LINE__, "CreateFileW", systemError);
             return error;
         }
         const Stream stream(opened);

@@ -24,12 +24,14 @@ void startStatistics(int applicationId, bool suiteFlag, const BlockingRunner& ru
 {
     fs::CConfig& common = fs::commonConfig();
     const ProxySettings proxy = readProxySettings();
-    runBlocking([&proxy] { getUserCountry(proxy); });
-    const std::string guid = getOrCreateClientGuid(common);
-
+    std::string guid;
     fs::CConfig application;
-    application.setFileName(fs::applicationConfigPath(applicationId));
-    application.load();
+    runBlocking([&] {
+        getUserCountry(proxy);
+        guid = getOrCreateClientGuid(common);
+        application.setFileName(fs::applicationConfigPath(applicationId));
+        application.load();
+    });
 
     const auto params = std::make_shared<TemplateParams>();
     params->set("GUID", guid, true);
