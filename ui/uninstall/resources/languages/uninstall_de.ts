@@ -35,7 +35,7 @@
     <message>
         <source>Download 100% Free </source>
         <extracomment>The name of the offered application follows.</extracomment>
-        <translation>100&#xa0;% Gratis-Download: </translation>
+        <translation>100&#xa0;% gratis herunterladen: </translation>
     </message>
     <message>
         <source>Fast, simple and reliable</source>
@@ -44,7 +44,7 @@
     <message>
         <source> — a 100% free app from our trusted&lt;br/&gt; partners, available on the Microsoft Store.</source>
         <extracomment>The name of the offered application stands before it, in bold.</extracomment>
-        <translation>100&#xa0;% gratis herunterladen: </translation>
+        <translation> – eine zu 100&#xa0;% kostenlose App unserer&lt;br/&gt; vertrauenswürdigen Partner, erhältlich im Microsoft Store.</translation>
     </message>
 </context>
 <context>

@@ -35,7 +35,7 @@
     <message>
         <source>Download 100% Free </source>
         <extracomment>The name of the offered application follows.</extracomment>
-        <translation>100&#xa0;% gratuit&#xa0;: </translation>
+        <translation>Téléchargement 100&#xa0;% gratuit&#xa0;: </translation>
     </message>
     <message>
         <source>Fast, simple and reliable</source>
@@ -44,7 +44,7 @@
     <message>
         <source> — a 100% free app from our trusted&lt;br/&gt; partners, available on the Microsoft Store.</source>
         <extracomment>The name of the offered application stands before it, in bold.</extracomment>
-        <translation>Téléchargement 100&#xa0;% gratuit&#xa0;: </translation>
+        <translation> — une application 100&#xa0;% gratuite de nos&lt;br/&gt; partenaires de confiance, disponible sur le Microsoft Store.</translation>
     </message>
 </context>
 <context>
