@@ -1,10 +1,9 @@
 # tessera_add_host_test(NAME SOURCES ... [LIBRARIES ...])
-#   One GoogleTest executable on the logic library, with the host's stand-ins for the seams
-#   that Windows code fills in the program.
+#   One GoogleTest executable on what the program decides.
 function(tessera_add_host_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE tessera_build_options tessera_logic tessera_host_seams
+    target_link_libraries(${name} PRIVATE tessera_build_options tessera_uninstall tessera_host_test_support
         ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
@@ -20,9 +19,9 @@ function(tessera_add_windows_test name)
     target_link_libraries(${name} PRIVATE tessera_build_options ${ARG_LIBRARIES})
     if(ARG_QT_TEST)
         set_target_properties(${name} PROPERTIES AUTOMOC ON)
-        target_link_libraries(${name} PRIVATE tessera_ui tessera_resources Qt5::Test)
+        target_link_libraries(${name} PRIVATE tessera_window tessera_resources Qt5::Test)
     else()
-        target_link_libraries(${name} PRIVATE tessera_platform tessera_logic
+        target_link_libraries(${name} PRIVATE tessera_uninstall
             GTest::gmock GTest::gtest_main)
     endif()
     add_test(NAME ${name} COMMAND ${name})

@@ -1,4 +1,5 @@
 #include "support/netpull/netpull.h"
+#include "support/netpull/transfer.h"
 
 #include <algorithm>
 #include <curl/curl.h>
@@ -141,7 +142,7 @@ void init()
     std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
 }
 
-Response fetch(const Request& request)
+Response transfer(const Request& request)
 {
     init();
     Response response;

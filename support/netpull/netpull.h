@@ -11,6 +11,7 @@
 // answer is complete or has failed. Nothing throws except std::bad_alloc.
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -55,5 +56,10 @@ struct Response
 void init();
 
 Response fetch(const Request& request);
+
+// Answers all following requests by `replacement` instead of the network, on the thread that
+// fetches; null brings the network back. For tests and measurements.
+using Fetch = std::function<Response(const Request&)>;
+void setFetch(Fetch replacement);
 
 } // namespace netpull

@@ -1,10 +1,10 @@
 #include "tests/host/stat/stat_fixture.h"
 #include "ui/common/stat/app_event_stat.h"
-#include "ui/common/stat/stat_startup.h"
+#include "ui/uninstall/src/stat_startup.h"
 
-using stats::applicationCode;
 using stats::AppStatHelper;
-using stats::startStatistics;
+using uninstall::applicationCode;
+using uninstall::startStatistics;
 
 namespace {
 

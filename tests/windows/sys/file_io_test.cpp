@@ -1,7 +1,7 @@
 #include "tests/support/recorded_log.h"
 #include "tests/windows/support/scratch_folder.h"
 #include "ui/common/sys/file_io.h"
-#include "ui/common/sys/file_io_open.h"
+#include "ui/common/sys/replaceable.h"
 #include "ui/common/sys/result_codes.h"
 #include "support/win32/unique_handle.h"
 

@@ -1,5 +1,4 @@
-#include "ui/common/sys/file_io.h"
-
+#include "ui/common/sys/replaceable.h"
 #include "ui/common/sys/result_codes.h"
 #include "ui/common/sys/text_convert.h"
 
@@ -24,9 +23,7 @@ FileHandle openFile(const std::wstring& path, const char* mode)
     return FileHandle(std::fopen(toNarrow(path).c_str(), mode));
 }
 
-} // namespace
-
-int readWholeFile(const std::wstring& path, std::string& content)
+int readFile(const std::wstring& path, std::string& content)
 {
     const FileHandle file = openFile(path, "rb");
     if (!file)
@@ -41,7 +38,7 @@ int readWholeFile(const std::wstring& path, std::string& content)
     return success;
 }
 
-int writeWholeFile(const std::wstring& path, const std::string& text)
+int writeFile(const std::wstring& path, const std::string& text)
 {
     const FileHandle file = openFile(path, "wb");
     if (!file || std::fputs(text.c_str(), file.get()) < 0 || std::fflush(file.get()) != 0)
@@ -49,10 +46,17 @@ int writeWholeFile(const std::wstring& path, const std::string& text)
     return success;
 }
 
-bool fileExists(const std::wstring& path)
+bool exists(const std::wstring& path)
 {
     struct stat status = {};
     return stat(toNarrow(path).c_str(), &status) == 0;
+}
+
+} // namespace
+
+FileFunctions systemFiles()
+{
+    return {&readFile, &writeFile, &exists};
 }
 
 } // namespace sys

@@ -1,6 +1,5 @@
-#include "ui/common/sys/file_io.h"
+#include "ui/common/sys/replaceable.h"
 
-#include "ui/common/sys/file_io_open.h"
 #include "ui/common/sys/result_codes.h"
 #include "ui/common/sys/win32_error.h"
 
@@ -92,12 +91,14 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
     }
 }
 
-int readWholeFile(const std::wstring& path, std::string& content)
+namespace {
+
+int readFile(const std::wstring& path, std::string& content)
 {
     return readWholeFile(path, content, &openStream);
 }
 
-int writeWholeFile(const std::wstring& path, const std::string& text)
+int writeFile(const std::wstring& path, const std::string& text)
 {
     try {
         std::ofstream stream(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
@@ -116,9 +117,16 @@ int writeWholeFile(const std::wstring& path, const std::string& text)
     return readOrWriteFailed;
 }
 
-bool fileExists(const std::wstring& path)
+bool exists(const std::wstring& path)
 {
     return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+} // namespace
+
+FileFunctions systemFiles()
+{
+    return {&readFile, &writeFile, &exists};
 }
 
 } // namespace sys

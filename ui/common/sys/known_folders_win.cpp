@@ -1,6 +1,6 @@
 #include "ui/common/sys/known_folders.h"
 
-#include "ui/common/sys/known_folders_lookup.h"
+#include "ui/common/sys/replaceable.h"
 #include "support/win32/unique_handle.h"
 
 #include <iostream>

@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-namespace stats {
+namespace uninstall {
 
 // Runs a call that may block for seconds and returns when the call has returned. A caller with
 // windows passes a function that keeps them alive meanwhile; the call itself touches no window,
@@ -19,4 +19,4 @@ void startStatistics(int applicationId, bool suiteFlag, const BlockingRunner& ru
 // The APPID of an application: its short code, for the suite itself with "_qx" or "_a".
 std::string applicationCode(int applicationId, bool suiteFlag);
 
-} // namespace stats
+} // namespace uninstall
