@@ -23,7 +23,7 @@ ALLOWED = {
     "ui/uninstall/resources": [],
     "tests": [*PRODUCT, "tests"],
     "bench": [*PRODUCT, "tests", "bench"],
-    "tools": [*PRODUCT, "tools"],
+    "tools": [*PRODUCT, "tests", "tools"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+/[^"]+)"', re.MULTILINE)
 
