@@ -34,6 +34,7 @@ private slots:
     void controlsFollowASpaceBarHeldWhileTheFocusMovesOn();
     void controlsFollowARowToggledWithoutAClick();
     void selectButtonWorksFromTheKeyboard();
+    void enterPressesNoButton();
     void slotOnAnEmptyListCountsAsAllChecked();
     void setSelectButtonModeSetsTextAndState();
     void appArgumentChecksItsRowAndLeavesTheSelectButton();
@@ -234,6 +235,16 @@ void WidgetSelectionTest::selectButtonWorksFromTheKeyboard()
     under.select->setFocus();
     QTest::keyClick(under.select, Qt::Key_Space);
     QCOMPARE(under.checkedRows(), 4);
+}
+
+void WidgetSelectionTest::enterPressesNoButton()
+{
+    WindowUnderTest under;
+    QVERIFY(under.show());
+    under.select->setFocus();
+    QTest::keyClick(under.select, Qt::Key_Return);
+    QTest::keyClick(under.select, Qt::Key_Enter);
+    QCOMPARE(under.checkedRows(), 0);
 }
 
 void WidgetSelectionTest::slotOnAnEmptyListCountsAsAllChecked()
