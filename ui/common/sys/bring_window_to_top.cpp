@@ -65,8 +65,8 @@ void bringWindowToTop(std::int64_t ownWindow)
 
 void passForegroundOn()
 {
-    // The first copy's process is not known: its pipe is opened as if on another computer, and
-    // the system then does not tell who serves it. So any process may.
+    // To any process: the first copy's number is not known, because its pipe is opened as if it
+    // were on another computer, where process numbers mean nothing.
     if (!AllowSetForegroundWindow(ASFW_ANY))
         win32::logFailure("IPC", "ui/common/sys/bring_window_to_top", __LINE__,
                           "AllowSetForegroundWindow", GetLastError());
