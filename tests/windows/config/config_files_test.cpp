@@ -108,8 +108,9 @@ TEST_F(ConfigFiles, SaveKeepsWhatIsInAFileThatSomebodyHasOpenForAMoment)
         ASSERT_TRUE(other);
         config.setValue("c", "3");
         std::future<int> result = std::async(std::launch::async, [&] { return config.save(); });
-        if (hold.sharing == 0)
+        if (hold.sharing == 0) {
             EXPECT_EQ(result.wait_for(100ms), std::future_status::timeout) << "it is still trying";
+        }
         other.reset();
         EXPECT_EQ(result.get(), 0);
         EXPECT_EQ(readBytes(file), "a=1\nb=2\nc=3\n");

@@ -148,8 +148,9 @@ TEST(FileIo, ReadsOnceOthersHaveClosedTheFile)
         std::string content;
         std::future<int> result =
             std::async(std::launch::async, [&] { return sys::readWholeFile(file, content); });
-        if (hold.sharing == 0)
+        if (hold.sharing == 0) {
             EXPECT_EQ(result.wait_for(100ms), std::future_status::timeout) << "it is still trying";
+        }
         other.reset();
         EXPECT_EQ(result.get(), 0);
         EXPECT_EQ(content, "bytes");
