@@ -29,9 +29,7 @@ std::filesystem::path logFilePath(const std::string& settingsName)
 {
     std::wstring roaming;
     sys::knownFolderPath(sys::KnownFolder::roamingAppData, roaming);
-    std::filesystem::path name = std::filesystem::path(sys::modulePath()).filename();
-    name.replace_extension(L".log");
-    return std::filesystem::path(roaming) / settingsName / L"logs" / name;
+    return logFileBelow(roaming, settingsName, sys::modulePath());
 }
 
 struct WriteGate::State
