@@ -56,7 +56,7 @@ void FileLogger::write(const LogRecord& record) noexcept
 
 // Opening the file makes missing folders. Whoever removed them, an uninstaller told to delete the
 // user's history among them, must not find them again.
-bool FileLogger::folderWasRemoved() const noexcept
+bool FileLogger::folderWasRemoved() const
 {
     std::error_code ignored;
     return opened && !std::filesystem::is_directory(file.parent_path(), ignored);

@@ -33,7 +33,7 @@ public:
     void write(const LogRecord& record) noexcept override;
 
 private:
-    bool folderWasRemoved() const noexcept;
+    bool folderWasRemoved() const;
     void append(const std::string& line);
 
     const std::filesystem::path file;
