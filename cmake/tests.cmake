@@ -12,11 +12,13 @@ endfunction()
 # tessera_add_windows_test(NAME SOURCES ... [LIBRARIES ...] [QT_TEST] [TIMEOUT seconds])
 #   One test executable for Windows; CTest runs it through the cross-compiling emulator.
 #   Each CTest entry has its own Wine prefix, so registry, mutexes and pipes never meet.
+#   Runs only where the user's settings may be changed: tests/windows/support/settings_guard.h.
 #   With QT_TEST the source brings its own main (QTEST_MAIN); otherwise GoogleTest's is used.
 function(tessera_add_windows_test name)
     cmake_parse_arguments(ARG "QT_TEST" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE tessera_build_options ${ARG_LIBRARIES})
+    target_link_libraries(${name} PRIVATE tessera_build_options tessera_windows_test_guard
+        ${ARG_LIBRARIES})
     if(ARG_QT_TEST)
         set_target_properties(${name} PROPERTIES AUTOMOC ON)
         target_link_libraries(${name} PRIVATE tessera_window tessera_resources Qt5::Test)

@@ -48,10 +48,7 @@ std::wstring programPath()
 
 std::filesystem::path logFilePath(const std::string& settingsName)
 {
-    const std::wstring roaming = roamingFolder();
-    std::filesystem::path name = std::filesystem::path(programPath()).filename();
-    name.replace_extension(L".log");
-    return std::filesystem::path(roaming) / settingsName / L"logs" / name;
+    return logFileBelow(roamingFolder(), settingsName, programPath());
 }
 
 struct WriteGate::State

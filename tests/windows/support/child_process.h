@@ -28,6 +28,8 @@ struct ChildOptions
     bool withEnvironment = false;
     // Its standard output goes to ChildProcess::output().
     bool captureOutput = false;
+    // And its standard error with it.
+    bool captureErrors = false;
 };
 
 class ChildProcess

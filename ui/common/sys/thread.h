@@ -35,6 +35,9 @@ public:
     // Not owned; null is allowed and makes start() fail.
     void setFunction(CThreadFunction* body) { function = body; }
 
+    // True from start() to the end of the thread.
+    bool isRunning() const;
+
     // Starts the thread and waits, without limit, until it runs. Returns 0,
     // ERROR_INVALID_PARAMETER (87) without a function object, ERROR_BUSY (170) while the previous
     // thread still runs, or ERROR_BAD_ENVIRONMENT (10) when no thread could be made.
