@@ -68,7 +68,7 @@ void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends()
     if (!argument.isEmpty())
         arguments.push_back(argument.toStdString());
     calls.clear();
-    const Window window(arguments);
+    Window window(arguments);
     QVERIFY(window.isAnotherInstanceRunning());
     const QStringList sent{QStringLiteral("send")};
     QCOMPARE(calls, passes ? QStringList{QStringLiteral("allow any")} + sent : sent);

@@ -44,6 +44,8 @@ private slots:
     void nothingIntrudesOnTheWaitForTheCountry();
     void nothingIntrudesBehindTheWarning();
     void nothingIntrudesAfterTheRun();
+    void nothingIntrudesOnButtonsThatDoNotMatchTheRows();
+    void nothingIntrudesAfterACancelledFullRun();
 
 private:
     // Three applications, of which the first two are checked: Screen Taker, Wave Tuner, Loop Maker.
@@ -123,8 +125,18 @@ void WidgetIntrusionTest::nothingIntrudesOnTheWaitForAnUninstaller()
     QVERIFY(waitShown);
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     verifyOutcome(under, slow);
-    const std::vector<std::string> texts = log.mainFormTexts();
-    QCOMPARE(std::count(texts.begin(), texts.end(), "--> uninstallButtonClicked"), 1);
+    const auto program = [this](const char* id, const QString& name) {
+        return "DoUninsstall: " +
+               QDir::toNativeSeparators(
+                   folder->filePath(QString::fromUtf8("Ünser %1/%2").arg(QLatin1String(id), name)))
+                   .toStdString();
+    };
+    const std::vector<std::string> expected{
+        "-->Widget::Widget()",        "Try to fill list widget (runtime brand: Lumacraft)",
+        "--> uninstallButtonClicked", "--> DoUninsstall: selective",
+        program("ScreenTaker", slow), "--> DoUninsstall: selective",
+        program("WaveTuner", quick)};
+    QCOMPARE(log.mainFormTexts(), expected);
 }
 
 // Only the first survey of a process asks for the country, so this is the only test here with one.
@@ -215,6 +227,48 @@ void WidgetIntrusionTest::nothingIntrudesAfterTheRun()
     QTRY_VERIFY_WITH_TIMEOUT(intruder.pressesHaveArrived(), deadlineMs);
     QCOMPARE(intruder.changes(), QStringList());
     verifyOutcome(under, quick);
+}
+
+// Buttons that do not match the rows stay as they are too. "/app" leaves the select button alone, so
+// that it does not match where every row is checked.
+void WidgetIntrusionTest::nothingIntrudesOnButtonsThatDoNotMatchTheRows()
+{
+    const QString slow = QStringLiteral("slow.exe");
+    addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"), slow);
+    WindowUnderTest under({"/app", "ScreenTaker"});
+    Intruder intruder(under);
+    bool tried = false;
+    const auto beats = heartbeat([&] {
+        if (tried || startsOf(QStringLiteral("ScreenTaker"), slow).isEmpty())
+            return;
+        tried = true;
+        under.deleteSettings->setEnabled(false);
+        intruder.tryEverything();
+    });
+    QVERIFY(press(under));
+    QVERIFY(tried);
+    QCOMPARE(intruder.changes(), QStringList());
+    QCOMPARE(startsOf(QStringLiteral("ScreenTaker"), slow).size(), 1);
+}
+
+// What is left then is unchecked, and the buttons are disabled.
+void WidgetIntrusionTest::nothingIntrudesAfterACancelledFullRun()
+{
+    addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
+    addApplication(suiteName, QStringLiteral("Tessera"));
+    const auto running = startApplication(QStringLiteral("ScreenTaker"));
+    answerBoxes({QMessageBox::Cancel});
+    WindowUnderTest under;
+    QVERIFY(under.show());
+    QTest::mouseClick(under.select, Qt::LeftButton);
+    QVERIFY(press(under));
+    QVERIFY(!under.uninstall->isEnabled());
+    Intruder intruder(under);
+    intruder.tryEverything();
+    QCOMPARE(intruder.changes(), QStringList());
+    QCOMPARE(startsOf(QStringLiteral("ScreenTaker")), QStringList());
+    running->kill();
+    QVERIFY(running->waitForFinished(deadlineMs));
 }
 
 QTEST_MAIN(WidgetIntrusionTest)
