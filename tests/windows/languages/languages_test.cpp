@@ -129,7 +129,7 @@ void LanguagesTest::windowsAreShownInTheLanguageOfTheSettings()
         return shown.value(QLatin1String(window)).contains(QString::fromUtf8(text));
     };
     QVERIFY(has("main", "Uninstall"));
-    QVERIFY(has("main_all", "Keine w\xC3\xA4hlen"));
+    QVERIFY(has("main_all", "Keine ausw\xC3\xA4hlen"));
     QVERIFY(has("main", "Einstellungen und Verlauf l\xC3\xB6schen"));
     QVERIFY(has("survey", "Tessera Clip Saver deinstallieren"));
     QVERIFY(has("survey", "Es fehlen Funktionen"));

@@ -23,7 +23,8 @@ QChar::Script scriptOf(uint letter)
 
 bool mayMix(QChar::Script script)
 {
-    return script <= QChar::Script_Common || script == QChar::Script_Latin;
+    return script <= QChar::Script_Common || script == QChar::Script_Latin ||
+           script == QChar::Script_Greek;
 }
 
 void layOut(QTextLayout& layout)

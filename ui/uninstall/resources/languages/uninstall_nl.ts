@@ -22,7 +22,7 @@
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
         <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
-        <translation>100% gratis downloaden: MP3-muziekdownloader voor YouTube</translation>
+        <translation>100% gratis downloaden: YouTube-MP3-muziekdownloader</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>

@@ -22,7 +22,7 @@
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
         <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
-        <translation>Pobierz w 100% darmowy program do pobierania muzyki MP3 z YouTube</translation>
+        <translation>Pobierz w 100% darmowy program do pobierania muzyki MP3 z&#xa0;YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>

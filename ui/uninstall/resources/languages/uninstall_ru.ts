@@ -22,7 +22,7 @@
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
         <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
-        <translation>Скачать 100% бесплатно: загрузчик музыки MP3 с YouTube</translation>
+        <translation>Скачать 100% бесплатно: загрузчик музыки MP3 с&#xa0;YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -30,7 +30,7 @@
     </message>
     <message>
         <source>&lt;b&gt;100 % free app&lt;/b&gt; for saving music from YouTube in MP3, fast and simple.</source>
-        <translation>&lt;b&gt;100% бесплатное приложение&lt;/b&gt; для быстрого и простого сохранения музыки с YouTube в MP3.</translation>
+        <translation>&lt;b&gt;100% бесплатное приложение&lt;/b&gt; для быстрого и простого сохранения музыки с&#xa0;YouTube в MP3.</translation>
     </message>
     <message>
         <source>Download 100% Free </source>

@@ -22,7 +22,7 @@
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
         <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
-        <translation>Prenesite 100&#xa0;% brezplačen program za prenos glasbe MP3 z YouTuba</translation>
+        <translation>Prenesite 100&#xa0;% brezplačen program za prenos glasbe MP3 z&#xa0;YouTuba</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -30,7 +30,7 @@
     </message>
     <message>
         <source>&lt;b&gt;100 % free app&lt;/b&gt; for saving music from YouTube in MP3, fast and simple.</source>
-        <translation>&lt;b&gt;100&#xa0;% brezplačna aplikacija&lt;/b&gt; za hitro in preprosto shranjevanje glasbe z YouTuba v MP3.</translation>
+        <translation>&lt;b&gt;100&#xa0;% brezplačna aplikacija&lt;/b&gt; za hitro in preprosto shranjevanje glasbe z&#xa0;YouTuba v MP3.</translation>
     </message>
     <message>
         <source>Download 100% Free </source>
