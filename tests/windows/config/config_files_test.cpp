@@ -107,9 +107,14 @@ TEST_F(ConfigFiles, SaveKeepsWhatIsInAFileThatSomebodyHasOpenForAMoment)
                                             OPEN_EXISTING, 0, nullptr));
         ASSERT_TRUE(other);
         config.setValue("c", "3");
-        std::future<int> result = std::async(std::launch::async, [&] { return config.save(); });
+        std::promise<void> begun;
+        std::future<int> result = std::async(std::launch::async, [&] {
+            begun.set_value();
+            return config.save();
+        });
+        begun.get_future().wait();
         if (hold.sharing == 0) {
-            EXPECT_EQ(result.wait_for(100ms), std::future_status::timeout) << "it is still trying";
+            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it is still trying";
         }
         other.reset();
         EXPECT_EQ(result.get(), 0);

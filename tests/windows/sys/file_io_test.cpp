@@ -146,10 +146,14 @@ TEST(FileIo, ReadsOnceOthersHaveClosedTheFile)
         win32::FileHandle other = openFile(file, hold.access, hold.sharing);
         ASSERT_TRUE(other);
         std::string content;
-        std::future<int> result =
-            std::async(std::launch::async, [&] { return sys::readWholeFile(file, content); });
+        std::promise<void> begun;
+        std::future<int> result = std::async(std::launch::async, [&] {
+            begun.set_value();
+            return sys::readWholeFile(file, content);
+        });
+        begun.get_future().wait();
         if (hold.sharing == 0) {
-            EXPECT_EQ(result.wait_for(100ms), std::future_status::timeout) << "it is still trying";
+            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it is still trying";
         }
         other.reset();
         EXPECT_EQ(result.get(), 0);
