@@ -3,7 +3,7 @@
 
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/ipc/serving_peer.h"
-#include "tools/wine/import_slot.h"
+#include "tests/support/import_slot.h"
 
 using namespace ipctest;
 
