@@ -44,8 +44,6 @@ void ForegroundTest::initTestCase()
 {
     replaceImport("AllowSetForegroundWindow", &watchedAllow, systemAllow);
     replaceImport("TransactNamedPipe", &watchedTransact, systemTransact);
-    QVERIFY(systemAllow != nullptr);
-    QVERIFY(systemTransact != nullptr);
 }
 
 void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends_data()

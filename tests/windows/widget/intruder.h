@@ -24,7 +24,6 @@ public:
 private:
     template <typename Attempt>
     void attempt(const char* name, Attempt&& make);
-    QString state() const;
 
     WindowUnderTest& under;
     QSignalSpy uninstallClicks;
