@@ -29,17 +29,12 @@ private:
     static constexpr const wchar_t* name = L"SettingsGuardTest";
 };
 
-ChildProcess started(const std::wstring& program, const std::wstring& argument)
+void expectRefused(const std::wstring& program, const std::wstring& argument)
 {
     ChildOptions options;
     options.captureOutput = true;
     options.captureErrors = true;
-    return ChildProcess(program, {argument}, options);
-}
-
-void expectRefused(const std::wstring& program, const std::wstring& argument)
-{
-    ChildProcess test = started(program, argument);
+    ChildProcess test(program, {argument}, options);
     EXPECT_EQ(test.waitForExit(), static_cast<DWORD>(refusedExitCode));
     const std::string output = test.output();
     EXPECT_EQ(output.rfind("Not run: ", 0), 0u) << output;
@@ -58,14 +53,10 @@ TEST(SettingsGuard, AllowedProgramRuns)
     SUCCEED();
 }
 
-TEST(SettingsGuard, ProgramsRunWithTheVariableAndSayNothing)
+TEST(SettingsGuard, ProgramsRunWithTheVariable)
 {
-    for (const auto& [program, argument] :
-         {std::pair(googleTest, onlyAllowed), std::pair(qtTest, listFunctions)}) {
-        ChildProcess test = started(program, argument);
-        EXPECT_EQ(test.waitForExit(), 0u);
-        EXPECT_EQ(test.output().find("Not run"), std::string::npos);
-    }
+    EXPECT_EQ(ChildProcess(googleTest, {onlyAllowed}).waitForExit(), 0u);
+    EXPECT_EQ(ChildProcess(qtTest, {listFunctions}).waitForExit(), 0u);
 }
 
 TEST(SettingsGuard, WithoutTheVariableProgramsRefuseAndTouchNothing)
