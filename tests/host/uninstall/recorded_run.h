@@ -66,7 +66,7 @@ public:
     bool cancelled() const override { return isCancelled; }
     void uninstall(int remaining, const std::vector<std::string>& commandParts, bool full) override
     {
-        std::string step = "uninstall, " + std::to_string(remaining) + " remaining, " +
+        std::string step = "uninstall " + std::to_string(remaining) + " remaining, " +
                            (full ? "full" : "selective");
         for (const std::string& part : commandParts)
             step += " [" + part + "]";
@@ -86,7 +86,7 @@ inline std::string commandOf(const std::string& idString)
 
 inline std::string uninstallStep(int remaining, bool full, const std::string& idString)
 {
-    return "uninstall, " + std::to_string(remaining) + " remaining, " +
+    return "uninstall " + std::to_string(remaining) + " remaining, " +
            (full ? "full" : "selective") + " [C:\\" + idString + ".exe] [=\"C:\\logs\\" +
            idString + "_uninstall.log\"]";
 }

@@ -158,14 +158,14 @@ TEST(UninstallRun, UnknownApplicationIsProbedWithoutANameAndUninstalled)
     EXPECT_THAT(run.run(), ElementsAre("id -1", "probe []", "warning []",
                                        uninstallStep(3, selective, "Stranger"), "remove 0",
                                        "id -1", "probe []", "warning []",
-                                       "uninstall, 2 remaining, selective [C:\\plain.exe]", "remove 1"));
+                                       "uninstall 2 remaining, selective [C:\\plain.exe]", "remove 1"));
 }
 
 TEST(UninstallRun, EmptyCommandIsAnUnknownApplication)
 {
     RecordedRun run({{""}, {"x", false}});
     EXPECT_THAT(run.run(),
-                ElementsAre("id -1", "probe []", "uninstall, 2 remaining, selective []", "remove 0"));
+                ElementsAre("id -1", "probe []", "uninstall 2 remaining, selective []", "remove 0"));
 }
 
 TEST(UninstallRun, FullRunWithoutASuiteRowStillEndsWithTheSuitesTurn)
@@ -173,8 +173,8 @@ TEST(UninstallRun, FullRunWithoutASuiteRowStillEndsWithTheSuitesTurn)
     RecordedRun run({{commandOf("ClipTrimmer")}, {""}});
     EXPECT_THAT(run.run(),
                 ElementsAre("id 2", "probe [ClipTrimmer]", uninstallStep(2, full, "ClipTrimmer"),
-                            "remove 0", "id -1", "probe []", "uninstall, 1 remaining, full []", "remove 1",
-                            "uninstall, 0 remaining, full"));
+                            "remove 0", "id -1", "probe []", "uninstall 1 remaining, full []", "remove 1",
+                            "uninstall 0 remaining, full"));
 }
 
 TEST(UninstallRun, LastOfSeveralSuiteRowsIsTheOneUninstalled)
@@ -184,7 +184,7 @@ TEST(UninstallRun, LastOfSeveralSuiteRowsIsTheOneUninstalled)
     run.run();
     EXPECT_THAT(run.only(removalWords),
                 ElementsAre(uninstallStep(3, full, "ClipTrimmer"), "remove 2",
-                            "uninstall, 2 remaining, full [D:\\other.exe] [=D:\\logs\\Tessera_uninstall]",
+                            "uninstall 2 remaining, full [D:\\other.exe] [=D:\\logs\\Tessera_uninstall]",
                             "remove 1"));
     EXPECT_EQ(run.only({"probe"}).size(), 2 * 68U + 1);
 }
@@ -195,8 +195,8 @@ TEST(UninstallRun, TakesHugeCommands)
     RecordedRun run({{huge}, {huge + " /log" + huge}, {"x", false}});
     run.run();
     EXPECT_THAT(run.only({"uninstall"}),
-                ElementsAre("uninstall, 3 remaining, selective [" + huge + "]",
-                            "uninstall, 2 remaining, selective [" + huge + "] [" + huge + "]"));
+                ElementsAre("uninstall 3 remaining, selective [" + huge + "]",
+                            "uninstall 2 remaining, selective [" + huge + "] [" + huge + "]"));
 }
 
 } // namespace uninstall
