@@ -9,7 +9,7 @@ namespace win32 {
 
 namespace {
 
-constexpr LogSource logSource("IPC", "ui/common/sys/thread");
+constexpr Keelbase::LogSource logSource{"IPC", "ui/common/sys/thread"};
 
 BeginThread beginThread = &_beginthreadex;
 
