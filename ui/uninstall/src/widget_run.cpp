@@ -24,9 +24,6 @@ namespace {
 
 constexpr int uninstallerWaitMs = 2000;
 
-// Set by Cancel in the running-application warning; the rest of the run then does nothing.
-bool uninstallCancelled = false;
-
 } // namespace
 
 class Widget::UninstallSteps : public uninstall::IUninstallSteps
@@ -61,7 +58,7 @@ public:
         widget.showWarningAndKillApp(idString, true);
     }
 
-    bool cancelled() override { return uninstallCancelled; }
+    bool cancelled() override { return widget.run.cancelled(); }
 
     void uninstall(int remaining, int index, const std::vector<std::string>& commandParts,
                    bool full) override
@@ -80,9 +77,9 @@ private:
 
 void Widget::uninstallButtonClicked()
 {
+    if (!run.begin())
+        return;
     logMainForm(__LINE__, [](std::ostream& out) { out << "--> uninstallButtonClicked"; });
-    uninstallCancelled = false;
-    runInProgress = true;
     UninstallSteps steps(*this);
     uninstall::runUninstall(steps.rowCount(), steps);
     QCoreApplication::quit();
@@ -113,12 +110,13 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
             .arg(shownName),
         QMessageBox::Ok | QMessageBox::Cancel);
     if (answer != QMessageBox::Ok) {
+        const uninstall::RunState::OwnChange own(run);
         // In this order: the select-button slot sees the rows just unchecked. In a selective run
         // it checks them all again, in a full run it leaves them unchecked and disables the
         // buttons; the run ends soon after either way.
         changeItemsState(false);
         allApplicationsSelButtonClicked();
-        uninstallCancelled = true;
+        run.cancel();
         return;
     }
 
