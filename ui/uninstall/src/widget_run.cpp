@@ -14,6 +14,7 @@
 #include "ui/uninstall/src/registry_keys.h"
 #include "ui/uninstall/src/responsive_wait.h"
 #include "ui/uninstall/src/running_application.h"
+#include "ui/uninstall/src/system_program.h"
 #include "ui/uninstall/src/uninstall_command.h"
 #include "ui/uninstall/src/uninstall_run.h"
 #include "ui_widget.h"
@@ -23,6 +24,19 @@ using uninstall::logMainForm;
 namespace {
 
 constexpr int uninstallerWaitMs = 2000;
+
+// The run goes on without a program that cannot be started.
+void logUnlessStarted(const QProcess& process, const char* what)
+{
+    if (process.error() != QProcess::FailedToStart)
+        return;
+    logMainForm(
+        __LINE__,
+        [&process, what](std::ostream& out) {
+            out << what << ": not started: " << process.errorString().toStdString();
+        },
+        Keelbase::levelDetail);
+}
 
 } // namespace
 
@@ -120,12 +134,16 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
         return;
     }
 
+    const std::wstring taskkillPath = uninstall::systemProgram(L"taskkill.exe");
+    if (taskkillPath.empty())
+        return;
     // Not waited for: the application's own uninstaller copes with one that is still closing.
     auto* taskkill = new QProcess(this);
     taskkill->start(
-        QStringLiteral("taskkill"),
+        QString::fromStdWString(taskkillPath),
         {QStringLiteral("/IM"), idString + QStringLiteral(".exe"), QStringLiteral("/F")},
         QIODevice::ReadWrite);
+    logUnlessStarted(*taskkill, "showWarningAndKillApp");
 }
 
 void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& commandParts,
@@ -150,13 +168,6 @@ void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& co
     for (const std::string& argument : uninstall::uninstallArguments(commandParts, options))
         arguments.append(QString::fromStdString(argument));
     uninstaller->start(QString::fromStdString(program), arguments, QIODevice::ReadWrite);
-    if (uninstaller->error() == QProcess::FailedToStart) {
-        logMainForm(
-            __LINE__,
-            [uninstaller](std::ostream& out) {
-                out << "DoUninsstall: not started: " << uninstaller->errorString().toStdString();
-            },
-            Keelbase::levelDetail);
-    }
+    logUnlessStarted(*uninstaller, "DoUninsstall");
     uninstall::waitForFinished(*uninstaller, uninstallerWaitMs);
 }
