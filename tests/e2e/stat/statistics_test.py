@@ -7,7 +7,7 @@ import unittest
 from pathlib import Path
 
 from certificates import Authority
-from http_service import (answer, declared_size, header_names, reset_after_headers,
+from http_service import (HttpService, answer, declared_size, header_names, reset_after_headers,
                           reset_before_headers, slow_drip, stall, truncated)
 from statistics_world import (GEO_HOST, STATISTICS_HOST, LogLine, StatisticsCase, event_of,
                               proxy_values)
@@ -233,6 +233,13 @@ class Failures(StatisticsCase):
     def test_a_certificate_for_another_host(self):
         other = self.authority.server_context(["other.example"])
         self.check(self.prepare(answer(200), tls=other), 0, transport_error(60))
+
+    def test_a_silent_list_of_revoked_certificates_is_not_waited_for(self):
+        lists = self.enterContext(HttpService(stall))
+        tls = self.authority.server_context(
+            [STATISTICS_HOST], revocation_list=f"http://127.0.0.1:{lists.port}/list.crl")
+        self.check(self.prepare(answer(200), tls=tls), 1, DELIVERED)
+        self.assertEqual(lists.received, [])
 
     def test_a_wrong_proxy_password(self):
         driver = self.prepare(answer(200), credentials=("ann", "right"), password="wrong")
