@@ -3,12 +3,10 @@
 import shutil
 
 from harness.case import SuiteTestCase
+from harness.main_window import VISIBLE_ROWS
 from harness.suite import START_OF_LOG, SUITE_KEY
 from applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, HOLDING, PARTNER,
                           RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
-
-# As many rows as the list shows without scrolling.
-VISIBLE_ROWS = 9
 
 
 class FullRun(SuiteTestCase):
