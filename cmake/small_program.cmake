@@ -22,6 +22,7 @@ function(tessera_link_program target)
         "SHELL:-wrapper ${PROJECT_SOURCE_DIR}/cmake/link/lld.py" -fno-use-linker-plugin
         ${delayed} $<$<CONFIG:Release>:-s>)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS
+        "${PROJECT_SOURCE_DIR}/cmake/link/import_library.py"
         "${PROJECT_SOURCE_DIR}/cmake/link/lld.py"
         "${PROJECT_SOURCE_DIR}/cmake/link/collectable.py")
 endfunction()
