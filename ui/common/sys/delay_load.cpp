@@ -20,9 +20,8 @@ struct SystemFolderOnly
     SystemFolderOnly()
     {
         using SetDirectories = BOOL(WINAPI*)(DWORD);
-        const auto setDirectories =
-            reinterpret_cast<SetDirectories>(reinterpret_cast<void*>(GetProcAddress(
-                GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories")));
+        const auto setDirectories = reinterpret_cast<SetDirectories>(reinterpret_cast<void*>(
+            GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories")));
         // A Windows 7 without its updates has no such function. The current folder can be left out
         // there; children inherit that, so only there.
         if (setDirectories == nullptr || !setDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32))
@@ -80,11 +79,11 @@ extern "C" FARPROC WINAPI __delayLoadHelper2(PCImgDelayDescr library, FARPROC* f
     auto* const addresses = at<FARPROC>(library->rvaIAT);
     const auto& name = at<const IMAGE_THUNK_DATA>(library->rvaINT)[function - addresses];
     const FARPROC found = GetProcAddress(
-        module, IMAGE_SNAP_BY_ORDINAL(name.u1.Ordinal)
-                    ? MAKEINTRESOURCEA(IMAGE_ORDINAL(name.u1.Ordinal))
-                    : reinterpret_cast<const char*>(
-                          at<const IMAGE_IMPORT_BY_NAME>(static_cast<RVA>(name.u1.AddressOfData))
-                              ->Name));
+        module,
+        IMAGE_SNAP_BY_ORDINAL(name.u1.Ordinal)
+            ? MAKEINTRESOURCEA(IMAGE_ORDINAL(name.u1.Ordinal))
+            : reinterpret_cast<const char*>(
+                  at<const IMAGE_IMPORT_BY_NAME>(static_cast<RVA>(name.u1.AddressOfData))->Name));
     if (found == nullptr)
         giveUp(ERROR_PROC_NOT_FOUND);
     *function = found;
