@@ -1,4 +1,4 @@
-# tessera_link_program(TARGET): links a program that is given to users, with MinGW by lld:
+# tessera_link_program(TARGET): links a program that is given to users, in a cross build by lld:
 # - functions and data that nothing uses are left out (see link/collectable.py);
 # - of the system's libraries only those are loaded with the program that Windows, whatever its
 #   version, takes from its own folder ("KnownDLLs"). The others are loaded when they are first used,
@@ -11,6 +11,8 @@ function(tessera_link_program target)
     if(MSVC)
         # Windows 10 and later: all imports from the system's folder only.
         target_link_options(${target} PRIVATE /DEPENDENTLOADFLAG:0x800)
+    endif()
+    if(NOT CMAKE_CROSSCOMPILING)
         return()
     endif()
     find_program(TESSERA_LLD NAMES ld.lld-19 REQUIRED)
