@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/env -S python3 -B
 """Links with lld, without functions and data that nothing uses.
 
 GCC is told to call this as its -wrapper, that is with the command of its own linker behind it. lld

@@ -1,6 +1,7 @@
 """What Windows does before the program's first instruction: which libraries it loads, what it must
 find in them, and how it protects the program."""
 
+import re
 import subprocess
 import unittest
 
@@ -61,6 +62,15 @@ class Imports(unittest.TestCase):
         known, later = names_in(declared_for(WINDOWS_7)), names_in(declared_for("0x0A00"))
         for name in ("CreateFile2", "GetDpiForWindow", "GetFirmwareType", "GetPointerInfo"):
             self.assertTrue(name in later and name not in known, name)
+
+
+class Rights(unittest.TestCase):
+
+    def test_are_the_highest_that_the_user_has(self):
+        # An administrator's uninstallers below Program Files start; a standard user is not asked.
+        manifest = (BUILD / "Uninstall.exe").read_bytes()
+        self.assertEqual(re.findall(rb'requestedExecutionLevel level="(\w+)"', manifest),
+                         [b"highestAvailable"])
 
 
 class Protections(unittest.TestCase):
