@@ -209,7 +209,10 @@ void WidgetIntrusionTest::nothingIntrudesBehindTheWarning()
         else if (intruder.pressesHaveArrived())
             box->button(QMessageBox::Cancel)->click();
     });
-    QVERIFY(press(under));
+    const bool ended = press(under);
+    running->kill();
+    QVERIFY(running->waitForFinished(deadlineMs));
+    QVERIFY(ended);
     QVERIFY(tried);
     QCOMPARE(intruder.changes(), QString());
     // Cancel still has its own effect on what is left: all rows checked again.
@@ -219,8 +222,6 @@ void WidgetIntrusionTest::nothingIntrudesBehindTheWarning()
     QCOMPARE(under.checkedRows(), 2);
     QVERIFY(under.deleteSettings->isChecked());
     QCOMPARE(under.selectState(), 0);
-    running->kill();
-    QVERIFY(running->waitForFinished(deadlineMs));
 }
 
 // The run has asked the program to end; what is under way then must not begin another one.
@@ -270,14 +271,15 @@ void WidgetIntrusionTest::nothingIntrudesAfterACancelledFullRun()
     WindowUnderTest under;
     QVERIFY(under.show());
     QTest::mouseClick(under.select, Qt::LeftButton);
-    QVERIFY(press(under));
+    const bool ended = press(under);
+    running->kill();
+    QVERIFY(running->waitForFinished(deadlineMs));
+    QVERIFY(ended);
     QVERIFY(!under.uninstall->isEnabled());
     Intruder intruder(under);
     intruder.tryEverything();
     QCOMPARE(intruder.changes(), QString());
     QCOMPARE(startsOf(QStringLiteral("ScreenTaker")), QStringList());
-    running->kill();
-    QVERIFY(running->waitForFinished(deadlineMs));
 }
 
 QTEST_MAIN(WidgetIntrusionTest)
