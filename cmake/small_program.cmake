@@ -20,7 +20,7 @@ function(tessera_link_program target)
     list(TRANSFORM TESSERA_DELAYED_LIBRARIES PREPEND "-Wl,--delayload=" OUTPUT_VARIABLE delayed)
     list(TRANSFORM delayed APPEND ".dll")
     target_link_options(${target} PRIVATE
-        "SHELL:-wrapper ${PROJECT_SOURCE_DIR}/cmake/link/lld.py" -fno-use-linker-plugin
+        "SHELL:-wrapper \"${PROJECT_SOURCE_DIR}/cmake/link/lld.py\"" -fno-use-linker-plugin
         ${delayed} $<$<CONFIG:Release>:-s>)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS
         "${PROJECT_SOURCE_DIR}/cmake/link/import_library.py"
