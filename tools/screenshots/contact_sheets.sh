@@ -24,7 +24,7 @@ export WINEPREFIX="$root/build/prefixes/screenshots"
 # shellcheck source=tools/wine/environment.sh
 source "$root/tools/wine/environment.sh"
 QT_SCALE_FACTOR=$scale "$root/tools/wine-run" \
-    "$root/build/windows/tests/windows/languages/gallery.exe" "$(windowsPath "$pictures")"
+    "$root/build/windows/windows_tests/gallery.exe" "$(windowsPath "$pictures")"
 
 suffix=""
 if [[ $scale != 1 ]]; then

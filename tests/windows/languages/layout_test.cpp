@@ -11,6 +11,7 @@
 
 #include "tests/windows/languages/fit_check.h"
 #include "tests/windows/languages/localised_windows.h"
+#include "tests/windows/qt_tests/qt_test.h"
 
 namespace {
 
@@ -187,12 +188,6 @@ void LayoutTest::faintTextIsNoticed()
     QCOMPARE(faintTexts(window), QStringList());
 }
 
-int main(int argc, char** argv)
-{
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication application(argc, argv);
-    LayoutTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+TESSERA_PREPARED_QT_TEST(LayoutTest,
+                         [] { QApplication::setAttribute(Qt::AA_EnableHighDpiScaling); })
 #include "layout_test.moc"

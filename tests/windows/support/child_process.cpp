@@ -45,10 +45,9 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
     : job(jobThatEndsWithItsOwner())
 {
     std::wstring line;
-#ifdef TESSERA_LAUNCHER
-    if (options.withEnvironment)
-        line = quoted(TESSERA_LAUNCHER) + L' ';
-#endif
+    const std::wstring launcher = nearestAbove(L"tools\\launcher.exe");
+    if (options.withEnvironment && !launcher.empty())
+        line = quoted(launcher) + L' ';
     line += quoted(program);
     for (const std::wstring& argument : arguments)
         line += L' ' + quoted(argument);
@@ -115,6 +114,20 @@ std::string ChildProcess::output()
 std::wstring siblingProgram(const std::wstring& name)
 {
     return sys::moduleFolder() + L'\\' + name + L".exe";
+}
+
+std::wstring nearestAbove(const std::wstring& relativePath)
+{
+    std::wstring folder = sys::moduleFolder();
+    for (;;) {
+        std::wstring path = folder + L'\\' + relativePath;
+        if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES)
+            return path;
+        const std::size_t end = folder.find_last_of(L'\\');
+        if (end == std::wstring::npos)
+            return {};
+        folder.resize(end);
+    }
 }
 
 } // namespace windows_tests

@@ -1,6 +1,7 @@
 // Running applications during a run: the real warning box, and real processes that hold their
 // mutexes.
 
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
 #include "ui/uninstall/src/running_application.h"
@@ -183,5 +184,5 @@ void WidgetWarningTest::taskkillNamesTheIdString()
     QCOMPARE(taskkill->arguments(), expected);
 }
 
-QTEST_MAIN(WidgetWarningTest)
+TESSERA_QT_TEST(WidgetWarningTest)
 #include "widget_warning_test.moc"
