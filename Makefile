@@ -28,10 +28,10 @@ build: setup ## build build/windows/Uninstall.exe
 	@cmake --build --preset windows-cross
 
 run: build ## use the program on a sample suite: in a window, or as "make demo" without a display
-	@if [[ -n "$$DISPLAY" ]]; then tools/demo/run; else tools/demo/demo; fi
+	@if [[ -n "$$DISPLAY" ]]; then python3 -B -m demo.by_hand; else python3 -B -m demo.by_itself; fi
 
 demo: build ## drive the program through a full run; transcript, screenshots in build/demo/
-	@tools/demo/demo
+	@python3 -B -m demo.by_itself
 
 screenshots: build ## picture every window in every language: contact sheets in build/screenshots/
 	@tools/screenshots/contact_sheets.sh

@@ -1,9 +1,10 @@
 """Runs with every row checked."""
 
-from harness.case import SuiteTestCase
-from harness.suite import START_OF_LOG, SUITE_KEY
-from applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, HOLDING, PARTNER,
-                          RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
+from tests.harness.case import SuiteTestCase
+from tests.harness.suite import START_OF_LOG, SUITE_KEY
+from tools.sample_suite.applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING,
+                                             HOLDING, PARTNER, RUNNING, SECOND_RUNNING, SLIDESHOW,
+                                             SUITE, TRACK_SAVER, UNKNOWN)
 
 # As many rows as the list shows without scrolling.
 VISIBLE_ROWS = 9

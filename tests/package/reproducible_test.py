@@ -7,7 +7,7 @@ import subprocess
 import zipfile
 from pathlib import Path
 
-from packing import BUILD, REPOSITORY, ScratchTestCase, pack
+from tests.package.packing import BUILD, REPOSITORY, ScratchTestCase, pack
 
 # What the first build was configured with beyond the preset; the tests and measurements are no
 # part of the program.
