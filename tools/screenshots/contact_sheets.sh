@@ -1,19 +1,21 @@
 #!/usr/bin/env bash
 # Takes a picture of every window in every language and puts them together, one sheet per window:
-# build/screenshots/<window>.png, with the single pictures in build/screenshots/<scale>/.
+# build/screenshots/<window>@<dpi>.png, with the single pictures in build/screenshots/<dpi>/.
 #
-#   tools/screenshots/contact_sheets.sh [SCALE]    SCALE: 1 (default), 1.5, 2, ...
+#   tools/screenshots/contact_sheets.sh [DPI]    96 (default) for 100 %, 120 for 125 %, 144, 168, 192
 #
 # Needs a configured windows-cross build; the Makefile sees to that.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
-scale=${1:-1}
+dpi=${1:-96}
 sheets="$root/build/screenshots"
-pictures="$sheets/$scale"
+pictures="$sheets/$dpi"
 windows=(main main_all survey offer_video offer_music warning)
-# English first, then the catalogues' own order.
-languages=(en cn de dk es "fi" fr gr hu it ja ko nl pl pt ru si sk sv th tr tw vn)
+mapfile -t languages < <(
+    echo en
+    sed -n 's/^\([a-z]\+\) .*/\1/p' "$root/ui/uninstall/resources/languages/languages.txt"
+)
 
 cmake --build --preset windows-cross --target gallery
 
@@ -23,18 +25,14 @@ mkdir -p "$pictures"
 export WINEPREFIX="$root/build/prefixes/screenshots"
 # shellcheck source=tools/wine/environment.sh
 source "$root/tools/wine/environment.sh"
-QT_SCALE_FACTOR=$scale "$root/tools/wine-run" \
+WINE_RUN_DPI=$dpi "$root/tools/wine-run" \
     "$root/build/windows/windows_tests/gallery.exe" "$(windowsPath "$pictures")"
 
-suffix=""
-if [[ $scale != 1 ]]; then
-    suffix="@$scale"
-fi
 for window in "${windows[@]}"; do
     parts=()
     for language in "${languages[@]}"; do
         parts+=(-label "$language" "$pictures/$window-$language.png")
     done
-    montage -background '#d8d8d8' -geometry +8+4 -tile 4x "${parts[@]}" "$sheets/$window$suffix.png"
-    echo "$sheets/$window$suffix.png"
+    montage -background '#d8d8d8' -geometry +8+4 -tile 4x "${parts[@]}" "$sheets/$window@$dpi.png"
+    echo "$sheets/$window@$dpi.png"
 done

@@ -2,7 +2,7 @@
 //
 //   gallery FOLDER   writes FOLDER/<window>-<language>.png
 //
-// The scale is Qt's own (QT_SCALE_FACTOR in the environment).
+// The scale follows the screen's resolution, as the program's does.
 
 #include <QApplication>
 #include <QDir>
@@ -14,6 +14,8 @@
 int main(int argc, char** argv)
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const QApplication application(argc, argv);
     QTextStream errors(stderr);
     if (argc != 2) {

@@ -22,8 +22,8 @@ packages=(
     qttools5-dev-tools
     # running Windows programs, and looking at them
     wine wine64 xvfb openbox xdotool imagemagick
-    # the last two hold Chinese, Japanese, Korean and Thai letters
-    fonts-open-sans fonts-droid-fallback fonts-tlwg-garuda-ttf
+    # Tahoma; a stand-in for Segoe UI; Chinese, Japanese and Korean letters in one face; Thai letters
+    fonts-wine fonts-open-sans fonts-wqy-microhei fonts-tlwg-garuda-ttf
     # the sample suite's installers
     nsis
 )

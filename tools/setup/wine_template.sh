@@ -57,6 +57,11 @@ linkPackageFiles() {
     done < <(find "$WINEPREFIX/drive_c" -type f -size +4k -print0)
 }
 
+# Wine does not look into the folder that Debian's package of its fonts fills.
+linkFonts() {
+    ln -s "$wineData"/fonts/tahoma{,bd}.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+}
+
 # Wine points Desktop, Documents and so on at the user's real folders. No test and no uninstaller
 # that runs here may touch those.
 separateUserFolders() {
@@ -70,6 +75,7 @@ separateUserFolders() {
 say "making the Wine prefix that others are copied from (log: $setupLog)"
 runStage "booting" 0 bootPrefix
 runStage "linking the package's files" 0 linkPackageFiles
+runStage "linking the fonts" 0 linkFonts
 runStage "separating the user's folders" 0 separateUserFolders
 mv "$WINEPREFIX" "$template"
 rm -rf "$work"

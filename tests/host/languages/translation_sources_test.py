@@ -10,8 +10,11 @@ import xml.etree.ElementTree as ET
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
 LANGUAGES = ROOT / "ui/uninstall/resources/languages"
-SUFFIXES = "cn de dk es fi fr gr hu it ja ko nl pl pt ru si sk sv th tr tw vn".split()
-MARKUP = re.compile(r"%\d+|</?\w+\s*/?>|\n")
+SUFFIXES = [line.split()[0]
+            for line in (LANGUAGES / "languages.txt").read_text(encoding="ascii").splitlines()
+            if not line.startswith("#")]
+# A place marker has one or two digits; Turkish writes "%100".
+MARKUP = re.compile(r"%\d{1,2}(?!\d)|</?\w+\s*/?>|\n")
 
 
 def messages(catalogue):
@@ -55,13 +58,36 @@ class TranslationSources(unittest.TestCase):
             with self.subTest(suffix):
                 self.assertEqual(texts[suffix], texts["de"])
 
-    def test_place_markers_and_tags_are_kept(self):
+    def test_place_markers_tags_and_outer_spaces_are_kept(self):
         for suffix in SUFFIXES:
             for _, message in messages(LANGUAGES / f"uninstall_{suffix}.ts"):
                 source, translation = message.findtext("source"), message.findtext("translation")
                 with self.subTest(suffix, text=source):
                     self.assertEqual(sorted(MARKUP.findall(translation)),
                                      sorted(MARKUP.findall(source)))
+                    self.assertEqual(translation.startswith(" "), source.startswith(" "))
+                    self.assertEqual(translation.endswith(" "), source.endswith(" "))
+                    # None of our texts has a mnemonic; a lone "&" would vanish from a button.
+                    self.assertNotIn("&", translation)
+                    # Where a name is put in, "%100" would be taken for the marker "%10".
+                    if "%1" in MARKUP.findall(source):
+                        self.assertEqual(re.findall(r"%\d+", translation), ["%1"])
+
+    def test_the_description_of_the_music_downloader_is_translated(self):
+        for suffix in SUFFIXES:
+            for _, message in messages(LANGUAGES / f"uninstall_{suffix}.ts"):
+                with self.subTest(suffix, text=message.findtext("source")):
+                    self.assertNotIn("Music Downloader", message.findtext("translation"))
+
+    def test_the_warning_says_what_cancel_ends(self):
+        """It ends the removal: the text has a word of that language for it, as the title has."""
+        for suffix in SUFFIXES:
+            texts = {message.findtext("source"): message.findtext("translation")
+                     for _, message in messages(LANGUAGES / f"uninstall_{suffix}.ts")}
+            warning = next(text for source, text in texts.items() if "is running" in source)
+            title = texts["Uninstallation"]
+            with self.subTest(suffix):
+                self.assertIn(title[:len(title) * 2 // 3].lower(), warning.lower())
 
 
 if __name__ == "__main__":

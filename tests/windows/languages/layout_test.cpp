@@ -1,6 +1,6 @@
-// Every window in every language: no text is cut, and none grows a window beyond its form. The
-// scale is Qt's, from the environment; the test is registered once for each, and told which one
-// it must have.
+// Every window in every language: no text is cut, none grows a window beyond its form, and each
+// letter has a glyph. The screen's resolution is the prefix's; the test is registered once for
+// each, and told which one it must have.
 
 #include <QAccessible>
 #include <QApplication>
@@ -10,12 +10,27 @@
 #include <QtTest>
 
 #include "tests/windows/languages/fit_check.h"
+#include "tests/windows/languages/letter_check.h"
 #include "tests/windows/languages/localised_windows.h"
 #include "tests/windows/qt_tests/qt_test.h"
+
+#include <windows.h>
 
 namespace {
 
 constexpr int settleMs = 2000;
+
+int expectedDpi()
+{
+    return qEnvironmentVariable("TESSERA_DPI", "96").toInt();
+}
+
+void scaleAsTheProgramDoes()
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
 
 } // namespace
 
@@ -25,22 +40,28 @@ class LayoutTest : public QObject
 
 private slots:
     void initTestCase();
-    void everyTextFits_data();
+    void windowsGrowWithTheResolution();
+    void everyTextFits_data() { addLanguageRows(); }
     void everyTextFits();
+    void everyLetterHasAGlyph_data() { addLanguageRows(); }
+    void everyLetterHasAGlyph();
     void textsStandOutWhateverTheUsersColours_data();
     void textsStandOutWhateverTheUsersColours();
     void focusIsVisible();
     void everyControlHasAnAccessibleName();
     void cutTextIsNoticed();
     void faintTextIsNoticed();
+    void missingLetterIsNoticed();
+
+private:
+    static void addLanguageRows();
 };
 
 void LayoutTest::initTestCase()
 {
-    // Texts in points grow by scale and resolution together.
-    const double percent = QApplication::primaryScreen()->devicePixelRatio() *
-                           QApplication::primaryScreen()->logicalDotsPerInch() / 96 * 100;
-    QCOMPARE(qRound(percent), qEnvironmentVariable("TESSERA_TEXT_PERCENT", "100").toInt());
+    const QScreen& screen = *QApplication::primaryScreen();
+    QCOMPARE(screen.logicalDotsPerInch(), 96.0);
+    QCOMPARE(screen.devicePixelRatio() * 96, double(expectedDpi()));
 
     // Segoe UI's 52 letters are 28.75 ems wide. With a narrower stand-in a text could fit here and
     // be cut on Windows.
@@ -51,11 +72,27 @@ void LayoutTest::initTestCase()
     QVERIFY2(width >= 2875, qPrintable(QString::number(width)));
 }
 
-void LayoutTest::everyTextFits_data()
+void LayoutTest::addLanguageRows()
 {
     QTest::addColumn<QString>("language");
     for (const QString& language : allLanguages())
         QTest::newRow(qPrintable(language)) << language;
+}
+
+// In the screen's own points, as the user sees them.
+void LayoutTest::windowsGrowWithTheResolution()
+{
+    const QHash<int, QSize> sizes{{96, {379, 305}},
+                                  {120, {474, 381}},
+                                  {144, {569, 458}},
+                                  {168, {663, 534}},
+                                  {192, {758, 610}}};
+    RECT inside{};
+    QVERIFY(visitWindows(QStringLiteral("en"), [&](const QString& name, QWidget& window) {
+        if (name == QStringLiteral("main"))
+            QVERIFY(GetClientRect(reinterpret_cast<HWND>(window.winId()), &inside));
+    }));
+    QCOMPARE(QSize(inside.right, inside.bottom), sizes.value(expectedDpi()));
 }
 
 void LayoutTest::everyTextFits()
@@ -79,6 +116,17 @@ void LayoutTest::everyTextFits()
             faults.append(name + QStringLiteral(" has grown"));
     }));
     QCOMPARE(seen.size(), 6);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void LayoutTest::everyLetterHasAGlyph()
+{
+    QFETCH(QString, language);
+    QStringList faults;
+    QVERIFY(visitWindows(language, [&](const QString& name, QWidget& window) {
+        for (const QString& fault : letterFaults(window))
+            faults.append(name + QLatin1Char(' ') + fault);
+    }));
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }
 
@@ -188,6 +236,18 @@ void LayoutTest::faintTextIsNoticed()
     QCOMPARE(faintTexts(window), QStringList());
 }
 
-TESSERA_PREPARED_QT_TEST(LayoutTest,
-                         [] { QApplication::setAttribute(Qt::AA_EnableHighDpiScaling); })
+void LayoutTest::missingLetterIsNoticed()
+{
+    QWidget window;
+    QLabel label(QStringLiteral("abc"), &window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(letterFaults(window), QStringList());
+    // The last code point for private use, which no font has.
+    constexpr uint withoutGlyph = 0x10fffd;
+    label.setText(label.text() + QString::fromUcs4(&withoutGlyph, 1));
+    QCOMPARE(letterFaults(window).size(), 1);
+}
+
+TESSERA_PREPARED_QT_TEST(LayoutTest, &scaleAsTheProgramDoes)
 #include "layout_test.moc"

@@ -1,6 +1,8 @@
 #include "tests/windows/languages/localised_windows.h"
 
 #include <QAbstractButton>
+#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
@@ -86,8 +88,11 @@ bool visitWarning(Widget& window, const WindowVisitor& visit)
 
 QStringList allLanguages()
 {
-    return QStringLiteral("en cn de dk es fi fr gr hu it ja ko nl pl pt ru si sk sv th tr tw vn")
-        .split(QLatin1Char(' '));
+    QStringList languages{QStringLiteral("en")};
+    const QStringList catalogues = QDir(QStringLiteral(":/language")).entryList();
+    for (const QString& name : catalogues)
+        languages.append(QFileInfo(name).completeBaseName().section(QLatin1Char('_'), 1));
+    return languages;
 }
 
 bool visitWindows(const QString& language, const WindowVisitor& visit)

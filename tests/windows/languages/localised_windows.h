@@ -9,7 +9,7 @@
 
 #include <functional>
 
-// The languages as the settings name them: English and one for each catalogue.
+// The languages as the settings name them: English and one for each catalogue in the program.
 QStringList allLanguages();
 
 // Opens each window and dialog in `language`, calls `visit` while it is on the screen, and closes

@@ -21,7 +21,8 @@ struct QtTest
 // Called by static initialisers only. Always true.
 bool registerQtTest(const QtTest& test);
 
-template <class Test> int runQtTest(int argc, char** argv)
+template <class Test>
+int runQtTest(int argc, char** argv)
 {
     Test test;
     return QTest::qExec(&test, argc, argv);

@@ -86,6 +86,7 @@ void FvdOpenMsDlg::setTexts(const uninstall::StorePartner& partner)
     ui->info4Label->setText(tr("5-star rating on the Microsoft Store"));
 
     if (partner.text == uninstall::OfferText::musicDownloader) {
+        //: "YouTube MP3 Music Downloader" is a description, not a name: translate it.
         ui->caption->setText(tr("Download 100% Free YouTube MP3 Music Downloader"));
         ui->info3Label->setText(tr("High-quality MP3 from YouTube videos"));
         ui->bottomInfo->setText(tr("<b>100 % free app</b> for saving music from YouTube in MP3, "

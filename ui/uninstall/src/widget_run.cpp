@@ -109,6 +109,7 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
 
     const QMessageBox::StandardButton answer = QMessageBox::warning(
         this, tr("Uninstallation"),
+        //: %1 is an application's name. Cancel ends the removal, not the application.
         tr("%1 is running.\nPlease click OK to close this application or click Cancel to exit.")
             .arg(shownName),
         QMessageBox::Ok | QMessageBox::Cancel);

@@ -21,6 +21,7 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
         <translation>下载 100% 免费的 YouTube MP3 音乐下载器</translation>
     </message>
     <message>
@@ -43,7 +44,7 @@
     <message>
         <source> — a 100% free app from our trusted&lt;br/&gt; partners, available on the Microsoft Store.</source>
         <extracomment>The name of the offered application stands before it, in bold.</extracomment>
-        <translation> — 来自我们信赖的合作伙伴的&lt;br/&gt;100% 免费应用，可在 Microsoft Store 下载。</translation>
+        <translation> ——来自我们信赖的合作伙伴的&lt;br/&gt;100% 免费应用，可在 Microsoft Store 下载。</translation>
     </message>
 </context>
 <context>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 正在运行。
-请单击“确定”关闭此应用程序，或单击“取消”退出。</translation>
+请单击“确定”关闭此应用程序，或单击“取消”停止卸载。</translation>
     </message>
     <message>
         <source>Installed applications</source>

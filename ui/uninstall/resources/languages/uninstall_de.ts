@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>100&#xa0;% Gratis-Download: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>100&#xa0;% gratis herunterladen: YouTube-MP3-Musikdownloader</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -34,7 +35,7 @@
     <message>
         <source>Download 100% Free </source>
         <extracomment>The name of the offered application follows.</extracomment>
-        <translation>100&#xa0;% Gratis-Download: </translation>
+        <translation>100&#xa0;% gratis herunterladen: </translation>
     </message>
     <message>
         <source>Fast, simple and reliable</source>
@@ -92,7 +93,7 @@
     </message>
     <message>
         <source>Select all</source>
-        <translation>Alle wählen</translation>
+        <translation>Alle auswählen</translation>
     </message>
     <message>
         <source>Uninstall</source>
@@ -100,7 +101,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>Keine wählen</translation>
+        <translation>Keine auswählen</translation>
     </message>
     <message>
         <source>Uninstallation</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 wird gerade ausgeführt.
-Klicken Sie auf „OK“, um diese Anwendung zu schließen, oder auf „Abbrechen“, um den Vorgang zu beenden.</translation>
+Klicken Sie auf „OK“, um diese Anwendung zu schließen, oder auf „Abbrechen“, um die Deinstallation abzubrechen.</translation>
     </message>
     <message>
         <source>Installed applications</source>

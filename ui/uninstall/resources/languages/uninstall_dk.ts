@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>100&#xa0;% gratis download: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>100&#xa0;% gratis download: MP3-musikdownloader til YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 kører.
-Klik på OK for at lukke programmet, eller klik på Annuller for at afslutte.</translation>
+Klik på OK for at lukke programmet, eller klik på Annuller for at afbryde afinstallationen.</translation>
     </message>
     <message>
         <source>Installed applications</source>

@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Descargue 100&#xa0;% gratis YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Descargue 100&#xa0;% gratis el descargador de música MP3 de YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 se está ejecutando.
-Haga clic en Aceptar para cerrar esta aplicación o en Cancelar para salir.</translation>
+Haga clic en Aceptar para cerrar esta aplicación o en Cancelar para interrumpir la desinstalación.</translation>
     </message>
     <message>
         <source>Installed applications</source>

@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Lataa 100&#xa0;% ilmainen YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Lataa 100&#xa0;% ilmainen YouTube-musiikin MP3-lataaja</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -77,7 +78,7 @@
     </message>
     <message>
         <source>Uninstall %1</source>
-        <translation>Poista %1</translation>
+        <translation>Poista asennus: %1</translation>
     </message>
 </context>
 <context>
@@ -100,7 +101,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>Ei mitään</translation>
+        <translation>Tyhjennä valinta</translation>
     </message>
     <message>
         <source>Uninstallation</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 on käynnissä.
-Sulje sovellus valitsemalla OK tai lopeta valitsemalla Peruuta.</translation>
+Sulje sovellus valitsemalla OK tai keskeytä asennuksen poisto valitsemalla Peruuta.</translation>
     </message>
     <message>
         <source>Installed applications</source>

@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>100&#xa0;% gratuit&#xa0;: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Téléchargement 100&#xa0;% gratuit&#xa0;: téléchargeur de musique MP3 pour YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -34,7 +35,7 @@
     <message>
         <source>Download 100% Free </source>
         <extracomment>The name of the offered application follows.</extracomment>
-        <translation>100&#xa0;% gratuit&#xa0;: </translation>
+        <translation>Téléchargement 100&#xa0;% gratuit&#xa0;: </translation>
     </message>
     <message>
         <source>Fast, simple and reliable</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 est en cours d’exécution.
-Cliquez sur OK pour fermer cette application ou sur Annuler pour quitter.</translation>
+Cliquez sur OK pour fermer cette application ou sur Annuler pour interrompre la désinstallation.</translation>
     </message>
     <message>
         <source>Installed applications</source>

@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Κατεβάστε 100% δωρεάν το YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Κατεβάστε 100% δωρεάν το πρόγραμμα λήψης μουσικής MP3 από το YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -69,7 +70,7 @@
     </message>
     <message>
         <source>The quality is not good enough</source>
-        <translation>Η ποιότητα δεν είναι καλή</translation>
+        <translation>Η ποιότητα δεν είναι αρκετά καλή</translation>
     </message>
     <message>
         <source>Missing features</source>
@@ -84,7 +85,7 @@
     <name>Widget</name>
     <message>
         <source>Delete program settings, custom presets and history</source>
-        <translation>Διαγραφή ρυθμίσεων προγράμματος, προσαρμοσμένων προεπιλογών και ιστορικού</translation>
+        <translation>Διαγραφή ρυθμίσεων προγράμματος, προσαρμοσμένων προρρυθμίσεων και ιστορικού</translation>
     </message>
     <message>
         <source>Delete settings and history</source>
@@ -92,7 +93,7 @@
     </message>
     <message>
         <source>Select all</source>
-        <translation>Όλες</translation>
+        <translation>Επιλογή όλων</translation>
     </message>
     <message>
         <source>Uninstall</source>
@@ -100,7 +101,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>Καμία</translation>
+        <translation>Καμία επιλογή</translation>
     </message>
     <message>
         <source>Uninstallation</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>Η εφαρμογή %1 εκτελείται.
-Κάντε κλικ στο «OK» για να την κλείσετε ή στο «Άκυρο» για έξοδο.</translation>
+Κάντε κλικ στο «OK» για να την κλείσετε ή στο «Άκυρο» για να διακόψετε την απεγκατάσταση.</translation>
     </message>
     <message>
         <source>Installed applications</source>

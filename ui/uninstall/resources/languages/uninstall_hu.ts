@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>100%-ban ingyenes letöltés: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>100%-ban ingyenes letöltés: MP3-zeneletöltő a YouTube-hoz</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -29,7 +30,7 @@
     </message>
     <message>
         <source>&lt;b&gt;100 % free app&lt;/b&gt; for saving music from YouTube in MP3, fast and simple.</source>
-        <translation>&lt;b&gt;100%-ban ingyenes alkalmazás&lt;/b&gt;, amellyel gyorsan és egyszerűen mentheti a YouTube zenéit MP3-ba.</translation>
+        <translation>&lt;b&gt;100%-ban ingyenes alkalmazás&lt;/b&gt;, amellyel gyorsan és egyszerűen menthet zenét a YouTube-ról MP3-ba.</translation>
     </message>
     <message>
         <source>Download 100% Free </source>
@@ -100,7 +101,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>Egyik sem</translation>
+        <translation>Kijelölés feloldása</translation>
     </message>
     <message>
         <source>Uninstallation</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>A(z) %1 fut.
-Kattintson az OK gombra az alkalmazás bezárásához, vagy a Mégse gombra a kilépéshez.</translation>
+Kattintson az OK gombra az alkalmazás bezárásához, vagy a Mégse gombra az eltávolítás megszakításához.</translation>
     </message>
     <message>
         <source>Installed applications</source>

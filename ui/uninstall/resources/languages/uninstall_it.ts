@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Scarica 100% gratis YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Scarica 100% gratis il downloader di musica MP3 da YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 è in esecuzione.
-Fare clic su OK per chiudere l’applicazione o su Annulla per uscire.</translation>
+Fai clic su OK per chiudere l’applicazione o su Annulla per interrompere la disinstallazione.</translation>
     </message>
     <message>
         <source>Installed applications</source>

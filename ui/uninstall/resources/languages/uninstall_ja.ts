@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>100% 無料でダウンロード: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>100% 無料でダウンロード: YouTube MP3 音楽ダウンローダー</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 は実行中です。
-このアプリケーションを閉じるには [OK] を、終了するには [キャンセル] をクリックしてください。</translation>
+このアプリケーションを閉じるには [OK] を、アンインストールを中止するには [キャンセル] をクリックしてください。</translation>
     </message>
     <message>
         <source>Installed applications</source>

@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>100% 무료 다운로드: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>100% 무료 다운로드: YouTube MP3 음악 다운로더</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1이(가) 실행 중입니다.
-이 응용 프로그램을 닫으려면 [확인]을 클릭하고, 종료하려면 [취소]를 클릭하세요.</translation>
+이 응용 프로그램을 닫으려면 [확인]을 클릭하고, 제거를 중단하려면 [취소]를 클릭하세요.</translation>
     </message>
     <message>
         <source>Installed applications</source>

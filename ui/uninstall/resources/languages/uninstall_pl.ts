@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Pobierz w 100% darmowy YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Pobierz w 100% darmowy program do pobierania muzyki MP3 z&#xa0;YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>Program %1 jest uruchomiony.
-Kliknij przycisk OK, aby zamknąć tę aplikację, lub przycisk Anuluj, aby zakończyć.</translation>
+Kliknij przycisk OK, aby zamknąć ten program, lub przycisk Anuluj, aby przerwać odinstalowywanie.</translation>
     </message>
     <message>
         <source>Installed applications</source>

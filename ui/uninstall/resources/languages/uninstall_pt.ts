@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Download 100% gratuito: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Download 100% gratuito: descarregador de música MP3 do YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 está em execução.
-Clique em OK para fechar esta aplicação ou em Cancelar para sair.</translation>
+Clique em OK para fechar esta aplicação ou em Cancelar para interromper a desinstalação.</translation>
     </message>
     <message>
         <source>Installed applications</source>

@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Скачать 100% бесплатно: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Скачать 100% бесплатно: загрузчик музыки MP3 с&#xa0;YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -29,7 +30,7 @@
     </message>
     <message>
         <source>&lt;b&gt;100 % free app&lt;/b&gt; for saving music from YouTube in MP3, fast and simple.</source>
-        <translation>&lt;b&gt;100% бесплатное приложение&lt;/b&gt; для быстрого и простого сохранения музыки из YouTube в MP3.</translation>
+        <translation>&lt;b&gt;100% бесплатное приложение&lt;/b&gt; для быстрого и простого сохранения музыки с&#xa0;YouTube в MP3.</translation>
     </message>
     <message>
         <source>Download 100% Free </source>
@@ -92,7 +93,7 @@
     </message>
     <message>
         <source>Select all</source>
-        <translation>Выбрать все</translation>
+        <translation>Выделить все</translation>
     </message>
     <message>
         <source>Uninstall</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>Программа %1 запущена.
-Нажмите «ОК», чтобы закрыть это приложение, или «Отмена», чтобы выйти.</translation>
+Нажмите «ОК», чтобы закрыть эту программу, или «Отмена», чтобы прервать удаление.</translation>
     </message>
     <message>
         <source>Installed applications</source>

@@ -5,7 +5,7 @@
     <name>FvdOpenMsDlg</name>
     <message>
         <source>Open Microsoft Store</source>
-        <translation>Odpri Microsoft Store</translation>
+        <translation>Odpri trgovino Microsoft Store</translation>
     </message>
     <message>
         <source>100% free, no limitations</source>
@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Prenesite 100&#xa0;% brezplačen YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Prenesite 100&#xa0;% brezplačen program za prenos glasbe MP3 z&#xa0;YouTuba</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -29,7 +30,7 @@
     </message>
     <message>
         <source>&lt;b&gt;100 % free app&lt;/b&gt; for saving music from YouTube in MP3, fast and simple.</source>
-        <translation>&lt;b&gt;100&#xa0;% brezplačna aplikacija&lt;/b&gt; za hitro in preprosto shranjevanje glasbe iz YouTuba v MP3.</translation>
+        <translation>&lt;b&gt;100&#xa0;% brezplačna aplikacija&lt;/b&gt; za hitro in preprosto shranjevanje glasbe z&#xa0;YouTuba v MP3.</translation>
     </message>
     <message>
         <source>Download 100% Free </source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>Program %1 se izvaja.
-Kliknite »V redu«, da zaprete ta program, ali »Prekliči« za izhod.</translation>
+Kliknite »V redu«, da zaprete ta program, ali »Prekliči«, da prekinete odstranjevanje.</translation>
     </message>
     <message>
         <source>Installed applications</source>

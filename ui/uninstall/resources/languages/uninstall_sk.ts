@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Stiahnite si 100&#xa0;% bezplatný YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Stiahnite si 100&#xa0;% bezplatný program na sťahovanie hudby MP3 z YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>Aplikácia %1 je spustená.
-Kliknutím na tlačidlo OK túto aplikáciu zatvoríte, kliknutím na tlačidlo Zrušiť skončíte.</translation>
+Kliknutím na tlačidlo OK túto aplikáciu zatvoríte, kliknutím na tlačidlo Zrušiť prerušíte odinštalovanie.</translation>
     </message>
     <message>
         <source>Installed applications</source>

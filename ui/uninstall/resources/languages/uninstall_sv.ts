@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Ladda ner 100&#xa0;% gratis: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Ladda ner 100&#xa0;% gratis: MP3-nedladdare för YouTube-musik</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 körs.
-Klicka på OK för att stänga programmet eller på Avbryt för att avsluta.</translation>
+Klicka på OK för att stänga programmet eller på Avbryt för att avbryta avinstallationen.</translation>
     </message>
     <message>
         <source>Installed applications</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>100% free, no limitations</source>
-        <translation>Yüzde 100 ücretsiz, sınırlama yok</translation>
+        <translation>%100 ücretsiz, sınırlama yok</translation>
     </message>
     <message>
         <source>No ads, no subscriptions</source>
@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Yüzde 100 ücretsiz indirin: YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>%100 ücretsiz indirin: YouTube MP3 müzik indirici</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -29,7 +30,7 @@
     </message>
     <message>
         <source>&lt;b&gt;100 % free app&lt;/b&gt; for saving music from YouTube in MP3, fast and simple.</source>
-        <translation>&lt;b&gt;Yüzde 100 ücretsiz uygulama&lt;/b&gt;: YouTube müziklerini MP3 olarak hızlı ve kolayca kaydedin.</translation>
+        <translation>&lt;b&gt;%100 ücretsiz uygulama&lt;/b&gt;: YouTube müziklerini MP3 olarak hızlı ve kolayca kaydedin.</translation>
     </message>
     <message>
         <source>Download 100% Free </source>
@@ -43,7 +44,7 @@
     <message>
         <source> — a 100% free app from our trusted&lt;br/&gt; partners, available on the Microsoft Store.</source>
         <extracomment>The name of the offered application stands before it, in bold.</extracomment>
-        <translation> — güvenilir iş ortaklarımızdan yüzde 100&lt;br/&gt; ücretsiz uygulama; Microsoft Store’da.</translation>
+        <translation> — güvenilir iş ortaklarımızdan %100&lt;br/&gt; ücretsiz uygulama; Microsoft Store’da.</translation>
     </message>
 </context>
 <context>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 çalışıyor.
-Bu uygulamayı kapatmak için Tamam’ı, çıkmak için İptal’i tıklatın.</translation>
+Bu uygulamayı kapatmak için Tamam’ı, kaldırma işlemini durdurmak için İptal’i tıklatın.</translation>
     </message>
     <message>
         <source>Installed applications</source>

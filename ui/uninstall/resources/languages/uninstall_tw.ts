@@ -21,6 +21,7 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
         <translation>下載 100% 免費的 YouTube MP3 音樂下載工具</translation>
     </message>
     <message>
@@ -43,7 +44,7 @@
     <message>
         <source> — a 100% free app from our trusted&lt;br/&gt; partners, available on the Microsoft Store.</source>
         <extracomment>The name of the offered application stands before it, in bold.</extracomment>
-        <translation> — 由我們信賴的合作夥伴推出的&lt;br/&gt;100% 免費應用程式，可在 Microsoft Store 取得。</translation>
+        <translation> ——由我們信賴的合作夥伴推出的&lt;br/&gt;100% 免費應用程式，可在 Microsoft Store 取得。</translation>
     </message>
 </context>
 <context>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 正在執行。
-請按一下 [確定] 關閉此應用程式，或按一下 [取消] 結束。</translation>
+請按一下 [確定] 關閉此應用程式，或按一下 [取消] 停止解除安裝。</translation>
     </message>
     <message>
         <source>Installed applications</source>

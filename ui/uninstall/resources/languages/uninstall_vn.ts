@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>No ads, no subscriptions</source>
-        <translation>Không quảng cáo, không cần đăng ký</translation>
+        <translation>Không quảng cáo, không cần gói đăng ký</translation>
     </message>
     <message>
         <source>5-star rating on the Microsoft Store</source>
@@ -21,7 +21,8 @@
     </message>
     <message>
         <source>Download 100% Free YouTube MP3 Music Downloader</source>
-        <translation>Tải xuống miễn phí 100% YouTube MP3 Music Downloader</translation>
+        <extracomment>&quot;YouTube MP3 Music Downloader&quot; is a description, not a name: translate it.</extracomment>
+        <translation>Tải xuống miễn phí 100% trình tải nhạc MP3 từ YouTube</translation>
     </message>
     <message>
         <source>High-quality MP3 from YouTube videos</source>
@@ -109,8 +110,9 @@
     <message>
         <source>%1 is running.
 Please click OK to close this application or click Cancel to exit.</source>
+        <extracomment>%1 is an application&apos;s name. Cancel ends the removal, not the application.</extracomment>
         <translation>%1 đang chạy.
-Vui lòng bấm OK để đóng ứng dụng này hoặc bấm Hủy để thoát.</translation>
+Vui lòng bấm OK để đóng ứng dụng này hoặc bấm Hủy để dừng việc gỡ cài đặt.</translation>
     </message>
     <message>
         <source>Installed applications</source>
