@@ -20,6 +20,7 @@
 namespace {
 
 constexpr int deadlineMs = 60'000;
+const QString storeScheme = QStringLiteral("ms-windows-store");
 const char* const clipSaverFlag = "clsv_uninst_ms_msldl_enabled";
 const char* const trackSaverFlag = "trksv_uninst_ms_msldl_enabled";
 
@@ -87,6 +88,7 @@ private slots:
     void eventsOfARun_data();
     void eventsOfARun();
     void storeProductIsLogged();
+    void storeThatDoesNotOpenIsLoggedAsAnError();
     void everySurveyApplicationIsAskedInItsTurn();
     void surveyTakesTheLanguageOfTheSettings();
     void statisticsStayWithTheFirstSurveyedApplication();
@@ -105,7 +107,7 @@ private:
 void DialogDispatchTest::initTestCase()
 {
     fs::commonConfig().setValue("EventStatEnabled", "1");
-    QDesktopServices::setUrlHandler(QStringLiteral("ms-windows-store"), this, "openedInStore");
+    QDesktopServices::setUrlHandler(storeScheme, this, "openedInStore");
 }
 
 void DialogDispatchTest::init()
@@ -269,6 +271,30 @@ void DialogDispatchTest::storeProductIsLogged()
     }
     QCOMPARE(lines,
              QStringList{QStringLiteral("cross-sell store app -> ProductId=XP9EXAMPLE0064")});
+}
+
+void DialogDispatchTest::storeThatDoesNotOpenIsLoggedAsAnError()
+{
+    addApplication("Clip Saver 2026", "ClipSaver");
+    const CapturedLog log;
+    DialogDriver driver;
+    driver.expect("QuestionDlg", clickButton("btnTwo"));
+    driver.expect("FvdOpenMsDlg", clickButton("mainBtn"));
+    // Nothing opens such addresses then; the tests' computer has no store.
+    QDesktopServices::unsetUrlHandler(storeScheme);
+    const bool ended = run();
+    QDesktopServices::setUrlHandler(storeScheme, this, "openedInStore");
+    QVERIFY(ended);
+    QCOMPARE(driver.problem(), QString());
+    QCOMPARE(eventsWithoutNumbers(5).size(), 5);
+
+    QStringList lines;
+    for (const Keelbase::LogRecord& record : log.records()) {
+        if (record.level == Keelbase::levelError && record.category == "MainForm")
+            lines.append(QString::fromStdString(record.text));
+    }
+    QCOMPARE(lines, QStringList{QStringLiteral("cannot open ms-windows-store://pdp/?ProductId="
+                                               "XP9EXAMPLE0064&cid=lmc_uninstall")});
 }
 
 void DialogDispatchTest::everySurveyApplicationIsAskedInItsTurn()

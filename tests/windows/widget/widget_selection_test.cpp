@@ -32,7 +32,10 @@ private slots:
     void selectNoneAfterCheckingByHandUnchecksAll();
     void clickingARowsTextLeavesItsStateAlone();
     void spaceBarTogglesTheCurrentRowAndItsControls();
+    void controlsFollowASpaceBarHeldWhileTheFocusMovesOn();
+    void controlsFollowARowToggledWithoutAClick();
     void selectButtonWorksFromTheKeyboard();
+    void enterPressesNoButton();
     void slotOnAnEmptyListCountsAsAllChecked();
     void setSelectButtonModeSetsTextAndState();
     void appArgumentChecksItsRowAndLeavesTheSelectButton();
@@ -80,6 +83,7 @@ void WidgetSelectionTest::uncheckingTheLastCheckedRowDisablesThemAgain()
     under.clickCheckBox(row);
     const CapturedLog log;
     under.clickCheckBox(row);
+    QCoreApplication::processEvents();
     QCOMPARE(under.checkedRows(), 0);
     QVERIFY(!under.uninstall->isEnabled());
     QVERIFY(!under.deleteSettings->isEnabled());
@@ -189,10 +193,40 @@ void WidgetSelectionTest::spaceBarTogglesTheCurrentRowAndItsControls()
     under.list->setCurrentRow(0);
     QTest::keyClick(under.list, Qt::Key_Space);
     QVERIFY(under.isChecked(0));
-    QVERIFY(under.uninstall->isEnabled());
+    QTRY_VERIFY(under.uninstall->isEnabled());
     QTest::keyClick(under.list, Qt::Key_Space);
     QVERIFY(!under.isChecked(0));
-    QVERIFY(!under.uninstall->isEnabled());
+    QTRY_VERIFY(!under.uninstall->isEnabled());
+}
+
+// The key's release then goes elsewhere.
+void WidgetSelectionTest::controlsFollowASpaceBarHeldWhileTheFocusMovesOn()
+{
+    WindowUnderTest under;
+    QVERIFY(under.show());
+    under.list->setFocus();
+    under.list->setCurrentRow(under.rowOf(suiteName));
+    QTest::keyPress(under.list, Qt::Key_Space);
+    QTest::keyClick(under.list, Qt::Key_Tab);
+    QWidget* next = under.window.focusWidget();
+    QVERIFY(next != under.list);
+    QTest::keyRelease(next, Qt::Key_Space);
+    QTRY_VERIFY(under.uninstall->isEnabled());
+    QVERIFY(under.deleteSettings->isEnabled());
+    QCOMPARE(under.checkedRows(), 4);
+    QCOMPARE(under.selectState(), 0);
+}
+
+void WidgetSelectionTest::controlsFollowARowToggledWithoutAClick()
+{
+    WindowUnderTest under;
+    QVERIFY(under.show());
+    under.list->item(0)->setCheckState(Qt::Checked);
+    QTRY_VERIFY(under.uninstall->isEnabled());
+    QVERIFY(under.deleteSettings->isEnabled());
+    under.list->item(0)->setCheckState(Qt::Unchecked);
+    QTRY_VERIFY(!under.uninstall->isEnabled());
+    QVERIFY(!under.deleteSettings->isEnabled());
 }
 
 void WidgetSelectionTest::selectButtonWorksFromTheKeyboard()
@@ -202,6 +236,16 @@ void WidgetSelectionTest::selectButtonWorksFromTheKeyboard()
     under.select->setFocus();
     QTest::keyClick(under.select, Qt::Key_Space);
     QCOMPARE(under.checkedRows(), 4);
+}
+
+void WidgetSelectionTest::enterPressesNoButton()
+{
+    WindowUnderTest under;
+    QVERIFY(under.show());
+    under.select->setFocus();
+    QTest::keyClick(under.select, Qt::Key_Return);
+    QTest::keyClick(under.select, Qt::Key_Enter);
+    QCOMPARE(under.checkedRows(), 0);
 }
 
 void WidgetSelectionTest::slotOnAnEmptyListCountsAsAllChecked()

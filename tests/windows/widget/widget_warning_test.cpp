@@ -1,6 +1,10 @@
 // Running applications during a run: the real warning box, and real processes that hold their
 // mutexes.
 
+#include <QFile>
+
+#include <windows.h>
+
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
@@ -20,7 +24,7 @@ private slots:
     void warningNamesTheInstallFolder();
     void warningWithoutAPathBeginsWithIsRunning();
     void warningOfAForeignApplicationShowsItsName();
-    void taskkillNamesTheIdString();
+    void taskkillIsTheSystemsAndNamesTheIdString();
 };
 
 void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
@@ -170,7 +174,7 @@ void WidgetWarningTest::warningOfAForeignApplicationShowsItsName()
     QVERIFY(boxTexts.at(0).startsWith(QStringLiteral("Stranger is running.\n")));
 }
 
-void WidgetWarningTest::taskkillNamesTheIdString()
+void WidgetWarningTest::taskkillIsTheSystemsAndNamesTheIdString()
 {
     registry->addPath(QStringLiteral("ScreenTaker"), QStringLiteral("C:\\Lumacraft\\Screens"));
     answerBoxes({QMessageBox::Ok});
@@ -178,7 +182,11 @@ void WidgetWarningTest::taskkillNamesTheIdString()
     under.window.showWarningAndKillApp("ScreenTaker", true);
     const auto* taskkill = under.window.findChild<QProcess*>();
     QVERIFY(taskkill != nullptr);
-    QCOMPARE(taskkill->program(), QStringLiteral("taskkill"));
+    wchar_t folder[MAX_PATH] = {};
+    QVERIFY(GetSystemDirectoryW(folder, MAX_PATH) > 0);
+    QCOMPARE(taskkill->program(),
+             QString::fromWCharArray(folder) + QStringLiteral("\\taskkill.exe"));
+    QVERIFY(QFile::exists(taskkill->program()));
     const QStringList expected{QStringLiteral("/IM"), QStringLiteral("ScreenTaker.exe"),
                                QStringLiteral("/F")};
     QCOMPARE(taskkill->arguments(), expected);

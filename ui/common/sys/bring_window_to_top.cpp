@@ -1,5 +1,7 @@
 #include "ui/common/sys/bring_window_to_top.h"
 
+#include "ui/common/sys/win32_error.h"
+
 #include <exception>
 #include <string>
 
@@ -59,6 +61,15 @@ void bringWindowToTop(std::int64_t ownWindow)
         SetForegroundWindow(window);
         return stop;
     });
+}
+
+void passForegroundOn()
+{
+    // To any process: the first copy's number is not known, because its pipe is opened as if it
+    // were on another computer, where process numbers mean nothing.
+    if (!AllowSetForegroundWindow(ASFW_ANY))
+        win32::logFailure("IPC", "ui/common/sys/bring_window_to_top", __LINE__,
+                          "AllowSetForegroundWindow", GetLastError());
 }
 
 } // namespace sys

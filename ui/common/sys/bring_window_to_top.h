@@ -18,4 +18,9 @@ void enumerateWindows(const std::function<int(HWND)>& visit);
 // the foreground. Any thread.
 void bringWindowToTop(std::int64_t ownWindow);
 
+// Lets other processes put a window in front until the user's next input: Windows refuses that to
+// a program in the background, and this one, just started by the user, may permit it. When it may
+// not itself, that is logged and nothing changes. Any thread.
+void passForegroundOn();
+
 } // namespace sys

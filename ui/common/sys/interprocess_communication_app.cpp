@@ -55,8 +55,11 @@ void CInterprocessCommunicationApp::handOver(std::string message)
         channel.connectToServer();
     if (message.empty())
         message = sys::showMessage();
-    if (targetWindow && sys::bringsWindowUp(message))
-        sys::bringWindowToTop(static_cast<std::int64_t>(targetWindow->winId()));
+    if (sys::bringsWindowUp(message)) {
+        sys::passForegroundOn();
+        if (targetWindow)
+            sys::bringWindowToTop(static_cast<std::int64_t>(targetWindow->winId()));
+    }
     channel.sendMessage(message);
     quitImmediately = !sys::answerRevives(channel.getAnswer());
     channel.close();

@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QPixmap>
 
+#include <utility>
+
 #include "ui/common/config/common_config.h"
 #include "ui/uninstall/src/app_catalogue.h"
 #include "ui/uninstall/src/dialog_actions.h"
@@ -105,8 +107,10 @@ void FvdOpenMsDlg::setTexts(const uninstall::StorePartner& partner)
 
 void FvdOpenMsDlg::openStore()
 {
+    // Opening the store may take a moment in which assistive programs reach the button again.
+    if (std::exchange(clicked, true))
+        return;
     report(uninstall::dialog_event::storeOpened);
-    clicked = true;
     close();
 }
 
@@ -125,7 +129,7 @@ void FvdOpenMsDlg::keyPressEvent(QKeyEvent* event)
 
 void FvdOpenMsDlg::closeEvent(QCloseEvent* event)
 {
-    if (!clicked)
+    if (!std::exchange(clicked, true))
         report(uninstall::dialog_event::closed);
     event->accept();
 }

@@ -49,7 +49,7 @@ private:
     void report(std::int32_t code);
 
     std::unique_ptr<Ui::FvdOpenMsDlg> ui;
-    bool clicked = false;
+    bool clicked = false; // nothing more is reported
     EventCallback eventCallback;
     std::string eventName;
 };

@@ -17,7 +17,14 @@ const struct SettingsName
 int main(int argc, char* argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    // Rounded to whole factors, 125 % enlarges the texts alone and 150 % doubles the window.
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
+#if QT_CONFIG(sessionmanager)
+    // Qt would close the window at sign-out, and a run, which keeps it open, would stop that.
+    QApplication::setFallbackSessionManagementEnabled(false);
+#endif
     const std::vector<std::string> arguments = uninstall::copyArguments(argv);
     Widget window(arguments);
     if (window.isAnotherInstanceRunning())

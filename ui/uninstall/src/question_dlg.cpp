@@ -4,6 +4,8 @@
 #include <QIcon>
 #include <QKeyEvent>
 
+#include <utility>
+
 #include "ui/uninstall/src/dialog_actions.h"
 #include "ui_question_dlg.h"
 
@@ -62,8 +64,10 @@ void QuestionDlg::setUpFonts()
 
 void QuestionDlg::answer(std::int32_t code, const char* name)
 {
+    // The report leads to the offer, and assistive programs reach these buttons behind it.
+    if (std::exchange(answered, true))
+        return;
     report(code, name);
-    answered = true;
     close();
 }
 
@@ -84,7 +88,7 @@ void QuestionDlg::keyPressEvent(QKeyEvent* event)
 
 void QuestionDlg::closeEvent(QCloseEvent* event)
 {
-    if (!answered)
+    if (!std::exchange(answered, true))
         report(uninstall::dialog_event::closed, uninstall::surveySkipped);
     event->accept();
 }

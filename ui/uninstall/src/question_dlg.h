@@ -46,5 +46,5 @@ private:
     std::string language;
     std::string eventValue;
     EventCallback eventCallback;
-    bool answered = false;
+    bool answered = false; // nothing more is reported
 };

@@ -2,12 +2,35 @@
 
 #include <memory>
 
+#include <QCursor>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QProcess>
 #include <QThread>
 #include <QTimer>
 
 namespace uninstall {
+
+namespace {
+
+// Shows over all windows that clicks are in vain for the moment.
+class WaitCursor
+{
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor)); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+// Runs a prepared loop until it is told to quit.
+void runWithoutInput(QEventLoop& loop)
+{
+    const WaitCursor cursor;
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
 
 void waitForFinished(QProcess& process, int milliseconds)
 {
@@ -19,7 +42,7 @@ void waitForFinished(QProcess& process, int milliseconds)
             loop.quit();
     });
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    runWithoutInput(loop);
 }
 
 void runAside(const std::function<void()>& blockingCall)
@@ -29,7 +52,7 @@ void runAside(const std::function<void()>& blockingCall)
     QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
     worker->start();
     if (!worker->isFinished())
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
+        runWithoutInput(loop);
     worker->wait();
 }
 

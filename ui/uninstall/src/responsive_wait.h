@@ -7,7 +7,8 @@ class QProcess;
 namespace uninstall {
 
 // Waits of the GUI thread during which windows are painted, the system and other copies of the
-// program are answered, and no mouse or key event reaches any widget.
+// program are answered, and no mouse or key event reaches any widget, which the cursor shows.
+// Timers, and what assistive programs press, do reach them.
 
 // Waits until `process` has finished, at most `milliseconds`. Returns at once for a process that
 // did not start.

@@ -2,9 +2,9 @@
 
 #include <QCloseEvent>
 #include <QIcon>
-#include <QKeyEvent>
 #include <QProcess>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QTimer>
 
 #include "ui/common/config/common_config.h"
@@ -12,6 +12,7 @@
 #include "ui/common/lang/translators.h"
 #include "ui/common/sys/environment.h"
 #include "ui/uninstall/src/app_catalogue.h"
+#include "ui/uninstall/src/application_item.h"
 #include "ui/uninstall/src/command_line.h"
 #include "ui/uninstall/src/main_form_log.h"
 #include "ui/uninstall/src/registry_keys.h"
@@ -68,12 +69,8 @@ void Widget::fillList()
 
     const QSettings registered(uninstall::uninstallListKey(), QSettings::NativeFormat);
     const QStringList names = registered.childKeys();
-    for (const QString& name : names) {
-        auto* item = new QListWidgetItem(name);
-        item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
-        item->setCheckState(Qt::Unchecked);
-        ui->listWidget->addItem(item);
-    }
+    for (const QString& name : names)
+        ui->listWidget->addItem(new uninstall::ApplicationItem(name, run));
 
     ui->btnAllApplicationsSel->setEnabled(false);
     setSelectButtonMode(true);
@@ -90,8 +87,9 @@ void Widget::connectControls()
     connect(ui->btnUninstall, &QPushButton::clicked, this, &Widget::uninstallButtonClicked);
     connect(ui->listWidget, &QListWidget::itemClicked, this, &Widget::toggleItem);
     connect(this, &Widget::firstShow, this, &Widget::on_firstShow);
-    // The list reports clicks only, so the space bar needs a watcher of its own.
-    ui->listWidget->installEventFilter(this);
+    // Rows are also toggled without a click: by the space bar, for one.
+    connect(ui->listWidget, &QListWidget::itemChanged, this, &Widget::followRowsSoon);
+    connect(ui->cbDeleteSettings, &QCheckBox::toggled, this, &Widget::keepDeleteSettings);
 }
 
 void Widget::showEvent(QShowEvent*)
@@ -105,15 +103,28 @@ void Widget::showEvent(QShowEvent*)
 void Widget::closeEvent(QCloseEvent* event)
 {
     // A run ends the program by itself; leaving in the middle would abandon the remaining rows.
-    event->setAccepted(!runInProgress);
+    event->setAccepted(!run.begun());
 }
 
-bool Widget::eventFilter(QObject* watched, QEvent* event)
+void Widget::followRowsSoon()
 {
-    if (watched == ui->listWidget && event->type() == QEvent::KeyRelease &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space)
-        toggleItem(ui->listWidget->currentItem());
-    return CInterprocessCommunicationApp::eventFilter(watched, event);
+    controlsLagBehind = true;
+    // A click is reported right after the change it makes, and would be followed twice otherwise.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (controlsLagBehind)
+                toggleItem(nullptr);
+        },
+        Qt::QueuedConnection);
+}
+
+void Widget::keepDeleteSettings(bool checked)
+{
+    if (run.choiceIsOpen())
+        return;
+    const QSignalBlocker blocker(ui->cbDeleteSettings);
+    ui->cbDeleteSettings->setChecked(!checked);
 }
 
 void Widget::on_firstShow()
@@ -123,6 +134,9 @@ void Widget::on_firstShow()
 
 void Widget::selectApplication(QString id)
 {
+    if (!run.choiceIsOpen())
+        return;
+    const QSignalBlocker blocker(ui->listWidget);
     const auto rows = uninstall::rowsOfApplication(listRows(), id.toLocal8Bit().toStdString());
     for (const std::size_t row : rows) {
         ui->listWidget->item(static_cast<int>(row))->setCheckState(Qt::Checked);
@@ -133,6 +147,8 @@ void Widget::selectApplication(QString id)
 
 void Widget::allApplicationsSelButtonClicked()
 {
+    if (!run.choiceIsOpen())
+        return;
     logMainForm(__LINE__, [](std::ostream& out) { out << "allApplicationsSelButtonClicked"; });
     const bool selectAll = ui->btnAllApplicationsSel->property("state").toBool();
     changeItemsState(selectAll);
@@ -145,14 +161,19 @@ void Widget::allApplicationsSelButtonClicked()
 
 void Widget::changeItemsState(bool checked)
 {
+    if (!run.choiceIsOpen())
+        return;
     logMainForm(__LINE__,
                 [checked](std::ostream& out) { out << "changeItemsState: " << (checked ? 1 : 0); });
+    const QSignalBlocker blocker(ui->listWidget);
     for (int row = 0; row < ui->listWidget->count(); ++row)
         ui->listWidget->item(row)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
 }
 
 void Widget::setSelectButtonMode(bool changeTextToSelectAll)
 {
+    if (!run.choiceIsOpen())
+        return;
     ui->btnAllApplicationsSel->setText(changeTextToSelectAll ? tr("Select all")
                                                              : tr("Select none"));
     ui->btnAllApplicationsSel->setProperty("state", changeTextToSelectAll ? 1 : 0);
@@ -160,8 +181,12 @@ void Widget::setSelectButtonMode(bool changeTextToSelectAll)
 
 void Widget::toggleItem(QListWidgetItem*)
 {
+    if (!run.choiceIsOpen())
+        return;
+    controlsLagBehind = false;
     // Removing the suite removes everything, so its row checks all the others.
     if (uninstall::suiteRowChecked(listRows())) {
+        const QSignalBlocker blocker(ui->listWidget);
         for (int row = 0; row < ui->listWidget->count(); ++row)
             ui->listWidget->item(row)->setCheckState(Qt::Checked);
     }

@@ -7,6 +7,7 @@
 #include "ui/common/config/config.h"
 #include "ui/common/sys/interprocess_communication_app.h"
 #include "ui/uninstall/src/list_state.h"
+#include "ui/uninstall/src/run_state.h"
 
 class QListWidgetItem;
 
@@ -21,6 +22,9 @@ class Widget;
 // The uninstaller's only main window: the list of the suite's installed applications, the choice
 // of what to remove, and the uninstall run. Constructing it is the program's whole start-up: the
 // single-instance hand-over, logging, translation and filling of the list.
+//
+// From the start of the run on the window only shows: nothing but the run changes rows, buttons and
+// check box, and the slots for the user's gestures do nothing.
 //
 // Threads: the GUI thread only. Failures of start-up never throw: a missing registry key leaves
 // the list empty, a missing catalogue leaves the texts English.
@@ -39,7 +43,8 @@ signals:
     void firstShow();
 
 public slots:
-    // The whole run over the checked rows; asks the application to quit at its end.
+    // The whole run over the checked rows; asks the application to quit at its end. Does nothing
+    // once a run has begun.
     void uninstallButtonClicked();
 
     // Asks whether the running application may be closed, and ends it or cancels the run.
@@ -71,7 +76,6 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     class UninstallSteps;
@@ -87,11 +91,14 @@ private:
 
     void fillList();
     void connectControls();
+    void followRowsSoon();
+    void keepDeleteSettings(bool checked);
     std::vector<uninstall::ListRow> listRows() const;
 
     std::unique_ptr<Ui::Widget> ui;
     lang::CTranslators* translators = nullptr;
     fs::CConfig config;
     int currentAppId;
-    bool runInProgress = false;
+    uninstall::RunState run;
+    bool controlsLagBehind = false; // a row has been toggled and the buttons do not show it yet
 };

@@ -80,5 +80,13 @@ void Widget::openStorePage()
     uninstall::logMainForm(__LINE__, [&productId](std::ostream& out) {
         out << "cross-sell store app -> ProductId=" << productId;
     });
-    QDesktopServices::openUrl(QUrl(QString::fromStdString(uninstall::storeAddress(productId))));
+    const QUrl address(QString::fromStdString(uninstall::storeAddress(productId)));
+    if (QDesktopServices::openUrl(address))
+        return;
+    uninstall::logMainForm(
+        __LINE__,
+        [&address](std::ostream& out) {
+            out << "cannot open " << address.toString().toStdString();
+        },
+        Keelbase::levelError);
 }

@@ -14,6 +14,7 @@
 #include "ui/uninstall/src/registry_keys.h"
 #include "ui/uninstall/src/responsive_wait.h"
 #include "ui/uninstall/src/running_application.h"
+#include "ui/uninstall/src/system_program.h"
 #include "ui/uninstall/src/uninstall_command.h"
 #include "ui/uninstall/src/uninstall_run.h"
 #include "ui_widget.h"
@@ -24,8 +25,18 @@ namespace {
 
 constexpr int uninstallerWaitMs = 2000;
 
-// Set by Cancel in the running-application warning; the rest of the run then does nothing.
-bool uninstallCancelled = false;
+// The run goes on without a program that cannot be started.
+void logUnlessStarted(const QProcess& process, const char* what)
+{
+    if (process.error() != QProcess::FailedToStart)
+        return;
+    logMainForm(
+        __LINE__,
+        [&process, what](std::ostream& out) {
+            out << what << ": not started: " << process.errorString().toStdString();
+        },
+        Keelbase::levelDetail);
+}
 
 } // namespace
 
@@ -61,7 +72,7 @@ public:
         widget.showWarningAndKillApp(idString, true);
     }
 
-    bool cancelled() override { return uninstallCancelled; }
+    bool cancelled() override { return widget.run.cancelled(); }
 
     void uninstall(int remaining, int index, const std::vector<std::string>& commandParts,
                    bool full) override
@@ -80,9 +91,9 @@ private:
 
 void Widget::uninstallButtonClicked()
 {
+    if (!run.begin())
+        return;
     logMainForm(__LINE__, [](std::ostream& out) { out << "--> uninstallButtonClicked"; });
-    uninstallCancelled = false;
-    runInProgress = true;
     UninstallSteps steps(*this);
     uninstall::runUninstall(steps.rowCount(), steps);
     QCoreApplication::quit();
@@ -114,21 +125,26 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
             .arg(shownName),
         QMessageBox::Ok | QMessageBox::Cancel);
     if (answer != QMessageBox::Ok) {
+        const uninstall::RunState::OwnChange own(run);
         // In this order: the select-button slot sees the rows just unchecked. In a selective run
         // it checks them all again, in a full run it leaves them unchecked and disables the
         // buttons; the run ends soon after either way.
         changeItemsState(false);
         allApplicationsSelButtonClicked();
-        uninstallCancelled = true;
+        run.cancel();
         return;
     }
 
+    const std::wstring taskkillPath = uninstall::systemProgram(L"taskkill.exe");
+    if (taskkillPath.empty())
+        return;
     // Not waited for: the application's own uninstaller copes with one that is still closing.
     auto* taskkill = new QProcess(this);
     taskkill->start(
-        QStringLiteral("taskkill"),
+        QString::fromStdWString(taskkillPath),
         {QStringLiteral("/IM"), idString + QStringLiteral(".exe"), QStringLiteral("/F")},
         QIODevice::ReadWrite);
+    logUnlessStarted(*taskkill, "showWarningAndKillApp");
 }
 
 void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& commandParts,
@@ -153,13 +169,6 @@ void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& co
     for (const std::string& argument : uninstall::uninstallArguments(commandParts, options))
         arguments.append(QString::fromStdString(argument));
     uninstaller->start(QString::fromStdString(program), arguments, QIODevice::ReadWrite);
-    if (uninstaller->error() == QProcess::FailedToStart) {
-        logMainForm(
-            __LINE__,
-            [uninstaller](std::ostream& out) {
-                out << "DoUninsstall: not started: " << uninstaller->errorString().toStdString();
-            },
-            Keelbase::levelDetail);
-    }
+    logUnlessStarted(*uninstaller, "DoUninsstall");
     uninstall::waitForFinished(*uninstaller, uninstallerWaitMs);
 }

@@ -1,0 +1,107 @@
+// Survey and offer report one outcome. The report runs further dialogs, and behind those a button
+// can still be pressed by others than mouse and keyboard: assistive programs and timers.
+
+#include <QPushButton>
+
+#include "tests/windows/dialogs/recorded_events.h"
+#include "tests/windows/qt_tests/qt_test.h"
+#include "ui/uninstall/src/fvd_open_ms_dlg.h"
+#include "ui/uninstall/src/question_dlg.h"
+
+class DialogOutcomeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void surveyReportsNothingMoreDuringAReport_data();
+    void surveyReportsNothingMoreDuringAReport();
+    void offerReportsNothingMoreDuringAReport_data();
+    void offerReportsNothingMoreDuringAReport();
+
+private:
+    // Presses every button of the dialog and closes it.
+    static void tryEverything(QDialog& dialog);
+};
+
+void DialogOutcomeTest::tryEverything(QDialog& dialog)
+{
+    const auto buttons = dialog.findChildren<QPushButton*>();
+    QVERIFY(!buttons.isEmpty());
+    for (QPushButton* button : buttons)
+        button->click();
+    dialog.close();
+}
+
+void DialogOutcomeTest::surveyReportsNothingMoreDuringAReport_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("answer") << QStringLiteral("btnOne") << 1
+                            << QByteArray("uninstall_quiz_license");
+    QTest::newRow("skip") << QString() << 6 << QByteArray("skip");
+}
+
+void DialogOutcomeTest::surveyReportsNothingMoreDuringAReport()
+{
+    QFETCH(QString, button);
+    QFETCH(int, code);
+    QFETCH(QByteArray, name);
+    RecordedEvents events;
+    QDialog* shown = nullptr; // once it is constructed
+    QuestionDlg survey(
+        nullptr, "Clip", "en",
+        [&](std::int32_t eventCode, const std::string& eventName, const std::string& value) {
+            events.append({eventCode, QByteArray::fromStdString(eventName),
+                           QByteArray::fromStdString(value)});
+            if (shown != nullptr)
+                tryEverything(*shown);
+        });
+    shown = &survey;
+    survey.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&survey));
+    events.clear();
+    if (button.isEmpty())
+        survey.close();
+    else
+        QTest::mouseClick(survey.findChild<QPushButton*>(button), Qt::LeftButton);
+    const RecordedEvents expected{{code, name, ""}};
+    QCOMPARE(events, expected);
+    QVERIFY(!survey.isVisible());
+}
+
+void DialogOutcomeTest::offerReportsNothingMoreDuringAReport_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("code");
+    QTest::newRow("store") << QStringLiteral("mainBtn") << 4;
+    QTest::newRow("close") << QString() << 6;
+}
+
+void DialogOutcomeTest::offerReportsNothingMoreDuringAReport()
+{
+    QFETCH(QString, button);
+    QFETCH(int, code);
+    RecordedEvents events;
+    QDialog* shown = nullptr;
+    FvdOpenMsDlg offer(nullptr, 60, false,
+                       [&](std::int32_t eventCode, const std::string& eventName) {
+                           events.append({eventCode, QByteArray::fromStdString(eventName), ""});
+                           if (shown != nullptr)
+                               tryEverything(*shown);
+                       });
+    shown = &offer;
+    offer.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&offer));
+    events.clear();
+    if (button.isEmpty())
+        offer.close();
+    else
+        QTest::mouseClick(offer.findChild<QPushButton*>(button), Qt::LeftButton);
+    const RecordedEvents expected{{code, "offer_install_ms_store", ""}};
+    QCOMPARE(events, expected);
+    QVERIFY(!offer.isVisible());
+}
+
+TESSERA_QT_TEST(DialogOutcomeTest)
+#include "dialog_outcome_test.moc"

@@ -1,0 +1,79 @@
+// A later copy has the right to put windows in front, the first copy has not. Wine knows no such
+// right, so the calls themselves are watched.
+
+#include "tests/windows/ipc/messaged_window.h"
+#include "tests/windows/ipc/serving_peer.h"
+#include "tests/windows/qt_tests/qt_test.h"
+#include "tools/wine/import_slot.h"
+
+using namespace ipctest;
+
+namespace {
+
+QStringList calls;
+
+decltype(&AllowSetForegroundWindow) systemAllow = nullptr;
+decltype(&TransactNamedPipe) systemTransact = nullptr;
+
+BOOL WINAPI watchedAllow(DWORD process)
+{
+    calls << QStringLiteral("allow ") +
+                 (process == ASFW_ANY ? QStringLiteral("any") : QString::number(process));
+    return systemAllow(process);
+}
+
+BOOL WINAPI watchedTransact(HANDLE pipe, LPVOID request, DWORD requestSize, LPVOID answer,
+                            DWORD answerSize, LPDWORD answered, LPOVERLAPPED overlapped)
+{
+    calls << QStringLiteral("send");
+    return systemTransact(pipe, request, requestSize, answer, answerSize, answered, overlapped);
+}
+
+} // namespace
+
+class ForegroundTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void laterCopyPassesItsRightOnBeforeItSends_data();
+    void laterCopyPassesItsRightOnBeforeItSends();
+};
+
+void ForegroundTest::initTestCase()
+{
+    replaceImport("AllowSetForegroundWindow", &watchedAllow, systemAllow);
+    replaceImport("TransactNamedPipe", &watchedTransact, systemTransact);
+    QVERIFY(systemAllow != nullptr);
+    QVERIFY(systemTransact != nullptr);
+}
+
+void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends_data()
+{
+    QTest::addColumn<QByteArray>("argument");
+    QTest::addColumn<bool>("passes");
+    QTest::newRow("no arguments") << QByteArray() << true;
+    QTest::newRow("show") << QByteArray("/show") << true;
+    QTest::newRow("nothing comes up") << QByteArray("/app") << false;
+    QTest::newRow("minimised") << QByteArray("/show/minimized") << false;
+}
+
+void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends()
+{
+    QFETCH(QByteArray, argument);
+    QFETCH(bool, passes);
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    std::vector<std::string> arguments;
+    if (!argument.isEmpty())
+        arguments.push_back(argument.toStdString());
+    calls.clear();
+    Window window(arguments);
+    QVERIFY(window.isAnotherInstanceRunning());
+    const QStringList sent{QStringLiteral("send")};
+    QCOMPARE(calls, passes ? QStringList{QStringLiteral("allow any")} + sent : sent);
+}
+
+TESSERA_QT_TEST(ForegroundTest)
+#include "foreground_test.moc"

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QListWidgetItem>
+
+#include "ui/uninstall/src/run_state.h"
+
+namespace uninstall {
+
+// One row of the application list. Its check box refuses every change while `run` keeps the choice
+// to itself, whether it comes from mouse, key, assistive technology or code. `run` must outlive
+// every change; the destructor does not use it.
+class ApplicationItem : public QListWidgetItem
+{
+public:
+    ApplicationItem(const QString& name, const RunState& run);
+
+    void setData(int role, const QVariant& value) override;
+
+private:
+    const RunState& run;
+};
+
+} // namespace uninstall

@@ -1,0 +1,22 @@
+#include "ui/uninstall/src/system_program.h"
+
+#include <windows.h>
+
+#include "ui/common/sys/win32_error.h"
+
+namespace uninstall {
+
+std::wstring systemProgram(const std::wstring& fileName)
+{
+    wchar_t folder[MAX_PATH] = {};
+    const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH) {
+        win32::logFailure("MainForm", "ui/uninstall/src/system_program", __LINE__,
+                          "GetSystemDirectoryW",
+                          length == 0 ? GetLastError() : ERROR_INSUFFICIENT_BUFFER);
+        return {};
+    }
+    return std::wstring(folder, length) + L'\\' + fileName;
+}
+
+} // namespace uninstall
