@@ -2,12 +2,11 @@
 # COST orders the entries: about the seconds that one takes, so that the longest start first.
 
 # tessera_add_host_test(NAME SOURCES ... [LIBRARIES ...])
-#   One GoogleTest executable on the logic library, with the host's stand-ins for the seams
-#   that Windows code fills in the program.
+#   One GoogleTest executable on what the program decides.
 function(tessera_add_host_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE tessera_build_options tessera_logic tessera_host_seams
+    target_link_libraries(${name} PRIVATE tessera_build_options tessera_uninstall tessera_host_test_support
         ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
@@ -33,12 +32,13 @@ function(tessera_add_windows_entry name)
 endfunction()
 
 # tessera_add_windows_test(NAME SOURCES ... [LIBRARIES ...] [TIMEOUT seconds] [COST seconds])
-#   One GoogleTest program for Windows, and its entry.
+#   One GoogleTest program for Windows, and its entry. Like the program of the Qt tests it runs only
+#   where the user's settings may be changed: tests/windows/support/settings_guard.h.
 function(tessera_add_windows_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE tessera_build_options ${ARG_LIBRARIES}
-        tessera_platform tessera_logic GTest::gmock GTest::gtest_main)
+    target_link_libraries(${name} PRIVATE tessera_build_options tessera_windows_test_guard
+        ${ARG_LIBRARIES} tessera_uninstall GTest::gmock GTest::gtest_main)
     tessera_add_windows_entry(${name} COMMAND ${name} ${ARG_UNPARSED_ARGUMENTS})
 endfunction()
 

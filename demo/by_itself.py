@@ -8,7 +8,7 @@ from demo import computer
 from tests.harness import layout
 from tests.harness.screen import Window, pressing, wait_for_window
 from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
-from tools.sample_suite.applications import HOLDING, RUNNING
+from tests.sample_suite.applications import HOLDING, RUNNING
 
 # Set for the copy of this program that has the private screen.
 ON_PRIVATE_SCREEN = "TESSERA_DEMO_ON_PRIVATE_SCREEN"

@@ -9,7 +9,7 @@ from tests.harness import layout
 from tests.harness.prefix import Prefix
 from tests.harness.records import Run
 from tests.harness.suite import LIST_NAMES, PRODUCT_BRAND, SUITE_KEY, RunningApplication, Suite
-from tools.sample_suite.applications import ALL, DAMAGED, HOLDING, RUNNING, Application
+from tests.sample_suite.applications import ALL, DAMAGED, HOLDING, RUNNING, Application
 
 FOLDER = layout.REPOSITORY / "build" / "demo"
 

@@ -9,10 +9,10 @@ from typing import Dict, List
 from tests.e2e.stat.statistics_world import (GEO_HOST, STATISTICS_HOST, TRUST_ROOT, event_of,
                                              proxy_values, store_settings)
 from tests.harness.suite import Suite
+from tests.sample_suite.applications import CLIP_SAVER
 from tests.services.certificates import Authority
 from tests.services.connect_proxy import ConnectProxy
 from tests.services.http_service import HttpService, answer
-from tools.sample_suite.applications import CLIP_SAVER
 
 COUNTRY = "NL"
 LAST_EVENT_NUMBER = 41

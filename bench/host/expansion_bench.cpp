@@ -1,5 +1,5 @@
-// The expansion of one event body, beside template libraries and plain concatenation: with the
-// template taken apart beforehand, as the program does it, and with reading it every time.
+// The expansion of one event body, beside template libraries and plain concatenation. All have
+// taken their template apart beforehand, as the program does it.
 
 #include "bench/host/event_texts.h"
 #include "ui/common/stat/template_params.h"
@@ -39,15 +39,6 @@ void expansionOurs(benchmark::State& state)
     check(params.expand(prepared, false).text);
     for (auto _ : state)
         benchmark::DoNotOptimize(params.expand(prepared, false));
-}
-
-void readingExpansionOurs(benchmark::State& state)
-{
-    const stats::TemplateParams params = allParams();
-    const std::string source = bench::bodyTemplate("{", "}");
-    check(params.expand(source, false).text);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(params.expand(source, false));
 }
 
 // What the rules ask for without any template: literals and values in a row.
@@ -131,15 +122,6 @@ void expansionCtemplate(benchmark::State& state)
         benchmark::DoNotOptimize(expandCtemplate(*prepared, values));
 }
 
-void readingExpansionCtemplate(benchmark::State& state)
-{
-    ctemplate::TemplateDictionary values("event");
-    fill(values);
-    const std::string source = bench::bodyTemplate("{{", "}}");
-    for (auto _ : state)
-        benchmark::DoNotOptimize(expandCtemplate(*ctemplateOf(source), values));
-}
-
 kainjow::mustache::data mustacheValues()
 {
     kainjow::mustache::data values;
@@ -157,20 +139,9 @@ void expansionMustache(benchmark::State& state)
         benchmark::DoNotOptimize(prepared.render(values));
 }
 
-void readingExpansionMustache(benchmark::State& state)
-{
-    const kainjow::mustache::data values = mustacheValues();
-    const std::string source = bench::bodyTemplate("{{{", "}}}");
-    for (auto _ : state)
-        benchmark::DoNotOptimize(kainjow::mustache::mustache(source).render(values));
-}
-
 } // namespace
 
 BENCHMARK(expansionOurs);
 BENCHMARK(expansionConcatenation);
 BENCHMARK(expansionCtemplate);
 BENCHMARK(expansionMustache);
-BENCHMARK(readingExpansionOurs);
-BENCHMARK(readingExpansionCtemplate);
-BENCHMARK(readingExpansionMustache);

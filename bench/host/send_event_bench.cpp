@@ -2,7 +2,7 @@
 // alone.
 
 #include "bench/host/event_texts.h"
-#include "bench/host/seams.h"
+#include "bench/host/fake_service.h"
 #include "ui/common/stat/app_event_stat.h"
 
 #include <benchmark/benchmark.h>

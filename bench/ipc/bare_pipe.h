@@ -3,7 +3,7 @@
 // The least that one exchange over the program's pipe takes: the platform's calls and nothing
 // else, with the same names, modes and sizes.
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <string>
 #include <vector>

@@ -10,7 +10,7 @@
 #include "bench/support/samples.h"
 #include "support/keelbase/keelbase.h"
 #include "tests/windows/widget/suite_registry.h"
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 #include "ui/uninstall/src/widget.h"
 
 #include <QApplication>

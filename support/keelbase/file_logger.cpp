@@ -5,6 +5,7 @@
 #include <spdlog/pattern_formatter.h>
 #include <spdlog/sinks/rotating_file_sink.h>
 
+#include <system_error>
 #include <utility>
 
 namespace Keelbase {
@@ -46,11 +47,19 @@ void FileLogger::write(const LogRecord& record) noexcept
     try {
         const std::string line = composeLine(record);
         const std::lock_guard<std::mutex> lock(mutex);
-        if (failedOpens < failedOpensTolerated)
+        if (failedOpens < failedOpensTolerated && !folderWasRemoved())
             append(line);
     } catch (...) {
         // A message that cannot be written is lost; the program goes on.
     }
+}
+
+// Opening the file makes missing folders. Whoever removed them, an uninstaller told to delete the
+// user's history among them, must not find them again.
+bool FileLogger::folderWasRemoved() const
+{
+    std::error_code ignored;
+    return opened && !std::filesystem::is_directory(file.parent_path(), ignored);
 }
 
 void FileLogger::append(const std::string& line)
@@ -64,6 +73,7 @@ void FileLogger::append(const std::string& line)
         spdlog::sinks::rotating_file_sink_st sink(file.native(), limits.fileSize,
                                                   limits.olderFiles);
         failedOpens = 0;
+        opened = true;
         sink.set_formatter(std::make_unique<spdlog::pattern_formatter>(
             "%Y-%m-%d %H:%M:%S.%e %P:%t %v", spdlog::pattern_time_type::local, "\n"));
         try {

@@ -19,9 +19,10 @@ struct RotationLimits
 };
 
 // The file is open only while a message is written: what was logged survives a crash, and the
-// log folder can be removed while the program runs. Missing folders are made. After a few
-// messages in a row for which the file cannot be opened the logger falls silent for good, since
-// each attempt takes some 50 ms.
+// log folder can be removed while the program runs. Missing folders are made for the first message
+// only: a folder that is removed later stays removed, and messages are dropped while it is missing.
+// After a few messages in a row for which the file cannot be opened the logger falls silent for
+// good, since each attempt takes some 50 ms.
 class FileLogger : public ILogger
 {
 public:
@@ -32,6 +33,7 @@ public:
     void write(const LogRecord& record) noexcept override;
 
 private:
+    bool folderWasRemoved() const;
     void append(const std::string& line);
 
     const std::filesystem::path file;
@@ -39,6 +41,7 @@ private:
     const RotationLimits limits;
     std::mutex mutex; // guards what follows
     WriteGate gate;
+    bool opened = false; // at least once
     int failedOpens = 0;
 };
 

@@ -7,6 +7,8 @@
 //   2026-11-21 01:39:46.123 1234:5678 6 MainForm ui/uninstall/src/widget:77 | text
 //   local time              pid :tid  level category  source file:line      | text
 // At 1 MiB the file is moved to <program>.1.log and so on up to .3.log; the oldest goes.
+// Missing folders are made for a program's first message only. Where the system does not tell the
+// folder of the roaming application data, there is no log.
 // Threads: everything here may be called from any thread, except setSettingsName, which belongs
 // into a static initialiser, before the first createLogger.
 // Failures: logging never makes the program fail. A log that cannot be opened or written is

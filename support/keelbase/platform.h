@@ -10,6 +10,12 @@ namespace Keelbase {
 // Where this program's log file lies; empty when the platform has no place for one.
 std::filesystem::path logFilePath(const std::string& settingsName);
 
+// The log file of the program `program` below the folder `roaming`; empty when either is, since a
+// relative path would put the log into whatever folder is the current one.
+std::filesystem::path logFileBelow(const std::filesystem::path& roaming,
+                                   const std::string& settingsName,
+                                   const std::filesystem::path& program);
+
 // Lets one process after the other write to a log file. Not for threads of one process: the
 // logger that owns the gate serialises those.
 class WriteGate

@@ -1,12 +1,13 @@
 #include "support/keelbase/platform.h"
 
-#include "ui/common/sys/known_folders.h"
-#include "ui/common/sys/module_path.h"
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <functional>
 
 #include <windows.h>
+
+#include <objbase.h>
+#include <shlobj.h>
 
 namespace Keelbase {
 
@@ -23,15 +24,31 @@ std::wstring gateName(const std::filesystem::path& logFile)
     return L"Local\\Keelbase_log_" + std::to_wstring(std::hash<std::wstring>{}(folded));
 }
 
+// The user's roaming application data; empty when the system does not tell it.
+std::wstring roamingFolder()
+{
+    // shlobj.h only declares the identifier, and the import library that defines it is not wanted.
+    constexpr GUID roamingAppData = {
+        0x3EB685DB, 0x65F9, 0x4CF6, {0xA0, 0x3A, 0xE3, 0xEF, 0x65, 0x72, 0x9F, 0x3D}};
+    wchar_t* found = nullptr;
+    const bool known = SUCCEEDED(SHGetKnownFolderPath(roamingAppData, 0, nullptr, &found));
+    const std::unique_ptr<wchar_t, decltype(&CoTaskMemFree)> owner(found, &CoTaskMemFree);
+    return known && found != nullptr ? found : std::wstring();
+}
+
+// Longer paths than this do not exist.
+std::wstring programPath()
+{
+    std::wstring path(32768, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path;
+}
+
 } // namespace
 
 std::filesystem::path logFilePath(const std::string& settingsName)
 {
-    std::wstring roaming;
-    sys::knownFolderPath(sys::KnownFolder::roamingAppData, roaming);
-    std::filesystem::path name = std::filesystem::path(sys::modulePath()).filename();
-    name.replace_extension(L".log");
-    return std::filesystem::path(roaming) / settingsName / L"logs" / name;
+    return logFileBelow(roamingFolder(), settingsName, programPath());
 }
 
 struct WriteGate::State

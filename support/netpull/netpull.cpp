@@ -1,9 +1,11 @@
 #include "support/netpull/netpull.h"
+#include "support/netpull/transfer.h"
 
 #include <algorithm>
 #include <curl/curl.h>
 #include <memory>
 #include <mutex>
+#include <new>
 
 namespace netpull {
 namespace {
@@ -54,7 +56,11 @@ std::size_t takeBody(char* data, std::size_t, std::size_t count, void* target)
         answer.tooLong = true;
         return 0;
     }
-    answer.body.append(data, count);
+    try {
+        answer.body.append(data, count);
+    } catch (const std::bad_alloc&) {
+        return 0; // an exception must not pass through libcurl's own functions
+    }
     return count;
 }
 
@@ -75,6 +81,9 @@ void setLimits(Options& options, const Request& request)
     options.set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(answerLimit));
     // Time-outs by signal would reach a random thread of the program.
     options.set(CURLOPT_NOSIGNAL, 1L);
+    // A name lookup cannot be broken off. Without this libcurl waits for its end, whatever the
+    // time-outs say; with it the thread that looks up ends by itself some time later.
+    options.set(CURLOPT_QUICK_EXIT, 1L);
 }
 
 void setSecurity(Options& options, const Request& request)
@@ -84,8 +93,9 @@ void setSecurity(Options& options, const Request& request)
     options.set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});
     options.set(CURLOPT_SSL_VERIFYPEER, request.verifyServer ? 1L : 0L);
     options.set(CURLOPT_SSL_VERIFYHOST, request.verifyServer ? 2L : 0L);
-    // A revocation list that cannot be reached must not cost the connection.
-    options.set(CURLOPT_SSL_OPTIONS, long{CURLSSLOPT_REVOKE_BEST_EFFORT});
+    // Windows would fetch revocation lists inside the handshake, for up to 20 seconds that no
+    // time-out ends, and best effort takes a certificate whose list is withheld all the same.
+    options.set(CURLOPT_SSL_OPTIONS, long{CURLSSLOPT_NO_REVOKE});
 }
 
 void setProxy(Options& options, const Proxy& proxy)
@@ -141,7 +151,7 @@ void init()
     std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
 }
 
-Response fetch(const Request& request)
+Response transfer(const Request& request)
 {
     init();
     Response response;

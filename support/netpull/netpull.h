@@ -8,9 +8,16 @@
 // proxy from the environment.
 //
 // Threads: everything here may be called from any thread. fetch blocks its caller until the
-// answer is complete or has failed. Nothing throws except std::bad_alloc.
+// answer is complete or has failed. Nothing throws except std::bad_alloc, and a lack of memory in
+// the middle of an answer is a failed transfer (code 23).
+//
+// Time-outs also end a request whose name lookup hangs; the lookup's thread goes on alone until the
+// system gives it up. They do not end what Windows fetches inside a TLS handshake to complete a
+// certificate's chain: an intermediate certificate that the server did not send, a new root.
+// Revocation lists, the usual reason for such a wait, are not asked for.
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -55,5 +62,10 @@ struct Response
 void init();
 
 Response fetch(const Request& request);
+
+// Answers all following requests by `replacement` instead of the network, on the thread that
+// fetches; null brings the network back. For tests and measurements.
+using Fetch = std::function<Response(const Request&)>;
+void setFetch(Fetch replacement);
 
 } // namespace netpull

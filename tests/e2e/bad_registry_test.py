@@ -5,7 +5,7 @@ from tests.harness.case import SuiteTestCase
 from tests.harness.registry import (REG_BINARY, REG_DWORD, REG_EXPAND_SZ, REG_MULTI_SZ, Value,
                                     text_bytes)
 from tests.harness.suite import LIST_KEY, SELECTIVE, SUITE_KEY, Suite
-from tools.sample_suite.applications import PARTNER, RUNNING
+from tests.sample_suite.applications import PARTNER, RUNNING
 
 # As long as a command may be that Windows still starts, with the other switches added.
 LONG = 30_000

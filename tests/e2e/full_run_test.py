@@ -1,8 +1,10 @@
 """Runs with every row checked."""
 
+import shutil
+
 from tests.harness.case import SuiteTestCase
 from tests.harness.suite import START_OF_LOG, SUITE_KEY
-from tools.sample_suite.applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING,
+from tests.sample_suite.applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING,
                                              HOLDING, PARTNER, RUNNING, SECOND_RUNNING, SLIDESHOW,
                                              SUITE, TRACK_SAVER, UNKNOWN)
 
@@ -81,6 +83,20 @@ class FullRun(SuiteTestCase):
             self.assertFalse(suite.uninstall_log(application).exists())
         self.assertEqual(suite.registered(), [])
         self.assertEqual(suite.registry()[SUITE_KEY]["UninstallMode"], 1)
+
+    def test_a_settings_folder_that_went_during_the_run_stays_away(self):
+        suite = self.install([SUITE, PARTNER])
+        program = self.start_program(suite, rows=2)
+        self.assertTrue(suite.log())
+        settings = suite.prefix.unix_path(suite.prefix.settings)
+        shutil.rmtree(settings)  # as the suite's own uninstaller may do
+        program.main_window.select_all()
+        program.main_window.press_uninstall()
+        self.assertEqual(program.exit_code(), 0)
+
+        for application in (PARTNER, SUITE):
+            self.assert_removed(suite, application, with_settings=True)
+        self.assertFalse(settings.exists())
 
     def test_checking_the_suite_row_alone_is_a_full_run_of_all(self):
         suite = self.install([SUITE, PARTNER])

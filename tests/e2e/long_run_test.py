@@ -12,7 +12,7 @@ from tests.harness.case import SuiteTestCase
 from tests.harness.registry import Value
 from tests.harness.suite import LIST_KEY, MAIN_TITLE, START_OF_LOG, RunningProgram, Suite
 from tests.harness.waiting import PATIENCE
-from tools.sample_suite.applications import SUITE
+from tests.sample_suite.applications import SUITE
 
 FOLDER = "C:\\Program Files\\Lumacraft\\Long run"
 VISIBLE_ROWS = 9

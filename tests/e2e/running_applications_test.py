@@ -6,7 +6,7 @@ from tests.harness import layout
 from tests.harness.case import SuiteTestCase
 from tests.harness.screen import pressing
 from tests.harness.suite import START_OF_LOG, WARNING_TITLE
-from tools.sample_suite.applications import (AWKWARD_FOLDER, PARTNER, RUNNING, SECOND_RUNNING,
+from tests.sample_suite.applications import (AWKWARD_FOLDER, PARTNER, RUNNING, SECOND_RUNNING,
                                              SLIDESHOW, SUITE, UNKNOWN)
 
 BEGUN = "--> uninstallButtonClicked"

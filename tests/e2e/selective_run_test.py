@@ -2,7 +2,7 @@
 
 from tests.harness.case import SuiteTestCase
 from tests.harness.suite import START_OF_LOG, SUITE_KEY
-from tools.sample_suite.applications import (AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING,
+from tests.sample_suite.applications import (AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING,
                                              FAILURE_CODE, HOLDING, PARTNER, SECOND_RUNNING,
                                              SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
 

@@ -3,7 +3,7 @@
 from tests.harness import screen
 from tests.harness.case import SuiteTestCase
 from tests.harness.suite import MAIN_TITLE, PRODUCT_BRAND, START_OF_LOG, Suite
-from tools.sample_suite.applications import AWKWARD_FOLDER, CLIP_SAVER, PARTNER, SLIDESHOW
+from tests.sample_suite.applications import AWKWARD_FOLDER, CLIP_SAVER, PARTNER, SLIDESHOW
 
 ROWS = [AWKWARD_FOLDER, CLIP_SAVER, SLIDESHOW, PARTNER]
 

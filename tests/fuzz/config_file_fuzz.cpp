@@ -8,7 +8,7 @@
 #include "tests/fuzz/config_reference.h"
 #include "tests/fuzz/fuzz_support.h"
 #include "ui/common/config/config.h"
-#include "ui/common/sys/file_io.h"
+#include "ui/common/sys/replaceable.h"
 #include "ui/common/sys/result_codes.h"
 
 #include <optional>
@@ -28,34 +28,26 @@ struct MemoryFile
 
 MemoryFile file;
 
-} // namespace
-
-namespace sys {
-
-bool fileExists(const std::wstring& path)
+bool exists(const std::wstring& path)
 {
     return !path.empty() && file.content.has_value();
 }
 
-int readWholeFile(const std::wstring&, std::string& content)
+int read(const std::wstring&, std::string& content)
 {
     if (!file.content || file.refusesReading)
-        return readOrWriteFailed;
+        return sys::readOrWriteFailed;
     content = *file.content;
-    return success;
+    return sys::success;
 }
 
-int writeWholeFile(const std::wstring&, const std::string& text)
+int write(const std::wstring&, const std::string& text)
 {
     if (file.refusesWriting)
-        return readOrWriteFailed;
+        return sys::readOrWriteFailed;
     file.content = text.c_str(); // up to the first NUL, as on disk
-    return success;
+    return sys::success;
 }
-
-} // namespace sys
-
-namespace {
 
 std::string plainlyWritten(const Pairs& pairs)
 {
@@ -207,6 +199,7 @@ void step(Settings& settings, char operation, const std::string& text)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
+    sys::setFileFunctions({&read, &write, &exists});
     file = {};
     Settings settings[2];
     for (Settings& each : settings)

@@ -12,7 +12,7 @@ from tests.harness.prefix import Prefix
 from tests.harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, RunningApplication,
                                  RunningProgram, Suite)
 from tests.harness.waiting import wait_until
-from tools.sample_suite.applications import Application
+from tests.sample_suite.applications import Application
 
 
 class SuiteTestCase(unittest.TestCase):

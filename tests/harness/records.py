@@ -1,4 +1,4 @@
-"""What the sample uninstallers wrote about themselves (tools/sample_suite/records.nsh)."""
+"""What the sample uninstallers wrote about themselves (tests/sample_suite/records.nsh)."""
 
 from dataclasses import dataclass
 from pathlib import Path

@@ -11,7 +11,7 @@ from tests.harness.prefix import Prefix
 from tests.harness.records import Records
 from tests.harness.registry import Tree
 from tests.harness.waiting import PATIENCE, Timeout, wait_until
-from tools.sample_suite.applications import SUITE, Application
+from tests.sample_suite.applications import SUITE, Application
 
 COMPANY_BRAND = "Corvane"
 PRODUCT_BRAND = "Lumacraft"

@@ -6,7 +6,7 @@
 //                   C:\records\hands_over.release is there
 //   drops_key.exe   deletes everything that the suite has in the registry
 // elevated_uninstaller.exe is the same program with a manifest that asks for administrator rights.
-#include "tools/sample_suite/record_file.h"
+#include "tests/sample_suite/record_file.h"
 
 #include <cstdio>
 #include <string>

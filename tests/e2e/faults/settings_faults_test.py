@@ -13,8 +13,8 @@ from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_
                                              store_settings)
 from tests.harness import processes, screen
 from tests.harness.suite import SURVEY_TITLE
+from tests.sample_suite.applications import CLIP_SAVER, PARTNER
 from tests.services.http_service import answer
-from tools.sample_suite.applications import CLIP_SAVER, PARTNER
 
 DETAILED = {"KEELBASE_LOG_LEVEL": "7"}
 WITHOUT_LOG = {"KEELBASE_LOG_LEVEL": "0"}

@@ -7,7 +7,7 @@ from tests.harness import probes, processes
 from tests.harness.case import SuiteTestCase
 from tests.harness.registry import Value
 from tests.harness.suite import LIST_KEY, SELECTIVE, Suite
-from tools.sample_suite.applications import SUITE
+from tests.sample_suite.applications import SUITE
 
 FULL = [*SELECTIVE, "/DISABLEREDIRECT"]
 WAIT = 2.0

@@ -1,6 +1,6 @@
 // An uninstaller that takes longer than the program waits for it, and records its begin and its
 // end.
-#include "tools/sample_suite/record_file.h"
+#include "tests/sample_suite/record_file.h"
 
 namespace {
 

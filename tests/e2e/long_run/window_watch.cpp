@@ -6,7 +6,7 @@
 // Writes "ready" after the first answer; at the end a line of numbers: how often it asked, how
 // often there was no answer in time, how often the system held the window for hung, and the longest
 // time of an answer in milliseconds.
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -11,8 +11,8 @@ from tests.harness import layout, screen
 from tests.harness.registry import Value
 from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
 from tests.harness.waiting import wait_until
+from tests.sample_suite.applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 from tests.services.http_service import answer
-from tools.sample_suite.applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 
 # Middles of the survey's answers and of the offer's button.
 ANSWERS = {"license": (244, 87), "quality": (244, 137), "features": (244, 187)}

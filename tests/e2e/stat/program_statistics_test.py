@@ -7,8 +7,8 @@ from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_
                                              store_settings, stored_settings)
 from tests.harness import screen
 from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
+from tests.sample_suite.applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 from tests.services.http_service import answer
-from tools.sample_suite.applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
 
 SECOND_START_LIMIT = 10.0
 

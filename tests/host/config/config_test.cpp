@@ -90,6 +90,20 @@ TEST_F(Config, LoadsTheFile)
     EXPECT_FALSE(config.isModified());
 }
 
+TEST_F(Config, HasTheKeysOfTheFileAlsoWithoutAValue)
+{
+    write("a=1\nempty=\n");
+    CConfig config;
+    config.setFileName(path());
+    EXPECT_FALSE(config.has("a"));
+    EXPECT_EQ(config.load(), sys::success);
+    EXPECT_TRUE(config.has("a"));
+    EXPECT_TRUE(config.has("empty"));
+    EXPECT_FALSE(config.has("b"));
+    config.setValue("b", "");
+    EXPECT_TRUE(config.has("b"));
+}
+
 TEST_F(Config, LoadsAnEmptyFile)
 {
     write("");

@@ -106,7 +106,6 @@ TEST(ConfigText, FirstEntryOfARepeatedKeyWinsInALargeShuffledFile)
     EXPECT_EQ(parsed(text), expected);
 }
 
-// More lines than are put in order at a time: the first entry still wins, wherever it stands.
 TEST(ConfigText, FirstEntryWinsAcrossAVeryLongFile)
 {
     constexpr int keys = 150000;

@@ -110,12 +110,34 @@ TEST_F(LogFile, DefaultLimitsAreOneMebibyteAndThreeOlderFiles)
     EXPECT_EQ(limits.olderFiles, 3U);
 }
 
-TEST_F(LogFile, LogFolderCanBeRemovedWhileTheProgramRuns)
+TEST_F(LogFile, FolderThatIsRemovedWhileTheProgramRunsStaysRemoved)
 {
     const auto open = logger();
     write(*open, "first");
     std::filesystem::remove_all(folder.narrowPath("logs"));
+    for (int number = 0; number < 10; ++number)
+        write(*open, "dropped");
+    EXPECT_FALSE(folder.holds("logs"));
+    // Somebody else brings it back: the log goes on.
+    std::filesystem::create_directories(folder.narrowPath("logs"));
     write(*open, "second");
+    EXPECT_EQ(texts(), std::vector<std::string>{"second"});
+}
+
+TEST_F(LogFile, FileThatIsRemovedWhileTheProgramRunsIsMadeAgain)
+{
+    const auto open = logger();
+    write(*open, "first");
+    std::filesystem::remove(folder.narrowPath("logs/Program.log"));
+    write(*open, "second");
+    EXPECT_EQ(texts(), std::vector<std::string>{"second"});
+}
+
+TEST_F(LogFile, EachProgramsFirstMessageMakesTheFolders)
+{
+    write(*logger(), "first");
+    std::filesystem::remove_all(folder.narrowPath("logs"));
+    write(*logger(), "second");
     EXPECT_EQ(texts(), std::vector<std::string>{"second"});
 }
 
@@ -146,11 +168,11 @@ TEST_F(LogFile, RecoversFromAFewMessagesThatCouldNotBeWritten)
     write(*open, "written");
     EXPECT_EQ(texts(), std::vector<std::string>{"written"});
     // Only failures in a row count.
-    std::filesystem::remove_all(folder.narrowPath("logs"));
-    folder.write("logs", "");
+    folder.remove("logs/Program.log");
+    std::filesystem::create_directories(folder.narrowPath("logs/Program.log"));
     write(*open, "lost");
     write(*open, "lost");
-    folder.remove("logs");
+    folder.remove("logs/Program.log");
     write(*open, "written");
     EXPECT_EQ(texts(), std::vector<std::string>{"written"});
 }

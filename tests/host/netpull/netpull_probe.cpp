@@ -3,17 +3,24 @@
 //   netpull_probe METHOD URL [name=value ...]
 //
 // Names are data, dataSize (so many "x"), header, proxy, proxyPort, proxyUser, proxyPassword,
-// timeout, connect, longest and httpVersion.
+// timeout, connect, longest, httpVersion and largestBlock (more bytes than that cannot be had from
+// operator new at once).
 // Prints transport code, HTTP status, milliseconds and size of the body, then the body itself.
 
 #include "support/netpull/netpull.h"
 
+#include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <iostream>
+#include <new>
 #include <string>
 
 namespace {
+
+std::atomic<std::size_t> largestBlock{SIZE_MAX};
 
 bool apply(const std::string& name, const std::string& value, netpull::Request& request)
 {
@@ -39,12 +46,32 @@ bool apply(const std::string& name, const std::string& value, netpull::Request& 
         request.longestSeconds = std::stoi(value);
     else if (name == "httpVersion")
         request.httpVersion = std::stoi(value);
+    else if (name == "largestBlock")
+        largestBlock = std::stoul(value);
     else
         return false;
     return true;
 }
 
 } // namespace
+
+void* operator new(std::size_t size)
+{
+    void* const block = size <= largestBlock ? std::malloc(size) : nullptr;
+    if (block == nullptr)
+        throw std::bad_alloc();
+    return block;
+}
+
+void operator delete(void* block) noexcept
+{
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept
+{
+    std::free(block);
+}
 
 int main(int argc, char** argv)
 {

@@ -15,12 +15,14 @@ from tests.services.http_service import (HttpService, answer, declared_size, hea
 from tests.services.local_server import LocalServer
 
 PROBE = os.environ["NETPULL_PROBE"]
+HANGING_PROBE = os.environ["NETPULL_HANGING_PROBE"]
 ANSWER_LIMIT = 1024 * 1024
 
 # libcurl's error codes
 COULD_NOT_RESOLVE_HOST = 6
 COULD_NOT_CONNECT = 7
 PARTIAL_FILE = 18
+WRITE_ERROR = 23
 TIMED_OUT = 28
 BAD_ARGUMENT = 43
 GOT_NOTHING = 52
@@ -38,9 +40,9 @@ class Outcome:
     body: bytes
 
 
-def fetch(method: str, url: str, environment=None, **options) -> Outcome:
+def fetch(method: str, url: str, environment=None, probe=PROBE, **options) -> Outcome:
     arguments = [f"{name}={value}" for name, value in options.items()]
-    done = subprocess.run([PROBE, method, url, *arguments], check=True, timeout=60,
+    done = subprocess.run([probe, method, url, *arguments], check=True, timeout=60,
                           stdout=subprocess.PIPE, env={**os.environ, **(environment or {})})
     head, body = done.stdout.split(b"\n", 1)
     code, status, milliseconds, size = map(int, head.split())
@@ -136,6 +138,12 @@ class Answers(unittest.TestCase):
         self.assertLessEqual(len(outcome.body), ANSWER_LIMIT)
         self.assertLess(outcome.seconds, 5)
 
+    def test_an_answer_that_memory_cannot_hold_is_an_error(self):
+        with HttpService(answer(200, b"y" * ANSWER_LIMIT)) as service:
+            outcome = get(service.port, largestBlock=ANSWER_LIMIT // 4)
+        self.assertEqual((outcome.code, outcome.status), (WRITE_ERROR, 200))
+        self.assertLess(len(outcome.body), ANSWER_LIMIT)
+
     def test_a_truncated_body_is_an_error(self):
         self.check(truncated, PARTIAL_FILE, 200, b"only this")
 
@@ -178,6 +186,17 @@ class Limits(unittest.TestCase):
         with Silent() as server:
             outcome = fetch("GET", f"https://127.0.0.1:{server.port}/", timeout=9, connect=1)
             self.check_time(outcome, 1)
+
+    def test_a_name_lookup_that_hangs_costs_the_connecting_time(self):
+        self.check_time(fetch("GET", "http://host.invalid/", probe=HANGING_PROBE, timeout=9,
+                              connect=1), 1)
+
+    def test_a_name_lookup_that_hangs_costs_the_timeout_when_that_is_shorter(self):
+        self.check_time(fetch("GET", "http://host.invalid/", probe=HANGING_PROBE, timeout=1), 1)
+
+    def test_a_hanging_lookup_of_the_proxy_counts_too(self):
+        self.check_time(fetch("GET", "http://127.0.0.1/", probe=HANGING_PROBE, timeout=1,
+                              proxy="proxy.invalid"), 1)
 
     def test_requests_without_time_are_refused(self):
         for option in ("timeout", "longest", "connect"):

@@ -20,12 +20,24 @@ Script& script()
     return instance;
 }
 
+netpull::Response answer(const netpull::Request& request)
+{
+    scripted::Server server;
+    {
+        const std::lock_guard lock(script().mutex);
+        script().requests.push_back(request);
+        server = script().server;
+    }
+    return server(request);
+}
+
 } // namespace
 
 namespace scripted {
 
 void setServer(Server server)
 {
+    netpull::setFetch(&answer);
     const std::lock_guard lock(script().mutex);
     script().server = std::move(server);
     script().requests.clear();
@@ -50,20 +62,3 @@ std::vector<netpull::Request> requests()
 }
 
 } // namespace scripted
-
-namespace netpull {
-
-void init() {}
-
-Response fetch(const Request& request)
-{
-    scripted::Server server;
-    {
-        const std::lock_guard lock(script().mutex);
-        script().requests.push_back(request);
-        server = script().server;
-    }
-    return server(request);
-}
-
-} // namespace netpull

@@ -1,8 +1,8 @@
 #include "tests/host/stat/stat_fixture.h"
 
 #include "ui/common/config/common_config.h"
-#include "ui/common/stat/exclusive_save.h"
 #include "ui/common/stat/guid.h"
+#include "ui/uninstall/src/application_config.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -10,7 +10,6 @@
 
 namespace {
 
-std::filesystem::path settingsFolder;
 std::optional<std::string> nextGuid;
 int guidCount = 0;
 
@@ -21,37 +20,6 @@ void writeFile(const std::filesystem::path& file, const std::string& text)
 }
 
 } // namespace
-
-// The settings as the program finds them, in the test's folder.
-namespace fs {
-
-CConfig& commonConfig()
-{
-    static CConfig config;
-    return config;
-}
-
-std::wstring applicationConfigPath(int appId)
-{
-    return (settingsFolder / std::to_string(appId) / "application.cfg").wstring();
-}
-
-} // namespace fs
-
-namespace stats {
-
-int saveExclusively(fs::CConfig& common)
-{
-    return common.save();
-}
-
-std::string createGuid()
-{
-    ++guidCount;
-    return nextGuid.value_or("01234567-89ab-4cde-8f01-23456789abcd");
-}
-
-} // namespace stats
 
 void setNextGuid(const std::string& guid)
 {
@@ -65,9 +33,13 @@ int createdGuids()
 
 StatTest::StatTest()
 {
-    settingsFolder = folder.narrowPath("");
+    setEnvironment("XDG_CONFIG_HOME", folder.narrowPath(""));
     nextGuid.reset();
     guidCount = 0;
+    stats::setGuidSource([] {
+        ++guidCount;
+        return nextGuid.value_or("01234567-89ab-4cde-8f01-23456789abcd");
+    });
     common().setFileName(commonFile().wstring());
     setLogLevel(Keelbase::levelDetail);
     scripted::answerInOrder({});
@@ -77,6 +49,7 @@ StatTest::~StatTest()
 {
     for (const std::string& name : environment)
         unsetenv(name.c_str());
+    stats::setGuidSource(nullptr);
 }
 
 std::vector<std::string> StatTest::log() const
@@ -107,7 +80,7 @@ fs::CConfig& StatTest::common()
 
 std::filesystem::path StatTest::applicationFile(int applicationId) const
 {
-    return fs::applicationConfigPath(applicationId);
+    return uninstall::applicationConfigPath(applicationId);
 }
 
 void StatTest::storeCommon(const std::string& text)

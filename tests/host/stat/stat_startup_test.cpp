@@ -1,10 +1,10 @@
 #include "tests/host/stat/stat_fixture.h"
 #include "ui/common/stat/app_event_stat.h"
-#include "ui/common/stat/stat_startup.h"
+#include "ui/uninstall/src/stat_startup.h"
 
-using stats::applicationCode;
 using stats::AppStatHelper;
-using stats::startStatistics;
+using uninstall::applicationCode;
+using uninstall::startStatistics;
 
 namespace {
 
@@ -109,17 +109,25 @@ TEST_F(StatStartup, GoesOnWithoutACountry)
     EXPECT_NE(body.find("\"guid\"%3A\"01234567"), std::string::npos);
 }
 
-TEST_F(StatStartup, LeavesTheBlockingCallToTheRunner)
+TEST_F(StatStartup, LeavesWhatMayBlockToTheRunner)
 {
     storeCommon("EventStatEnabled=1\n");
     scripted::answerInOrder({{0, 200, "DE"}});
-    bool ranBeforeTheGuid = false;
+    storeApplication(60, "Version=1\n");
     startStatistics(60, false, [&](const std::function<void()>& call) {
         EXPECT_TRUE(scripted::requests().empty());
+        EXPECT_EQ(createdGuids(), 0);
         call();
         EXPECT_EQ(scripted::requests().size(), 1U);
-        ranBeforeTheGuid = createdGuids() == 0;
+        EXPECT_EQ(contentOf(commonFile()),
+                  std::string("ClientGuid=") + guid + "\nEventStatEnabled=1\nLocation=DE\n");
+        // What is read or saved behind the runner's back would miss the files.
+        std::filesystem::remove(commonFile());
+        storeApplication(60, "Version=2\n");
     });
-    EXPECT_TRUE(ranBeforeTheGuid);
-    EXPECT_NE(nextBody().find("\"country_id\"%3A\"DE\""), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(commonFile()));
+    const std::string body = nextBody();
+    EXPECT_NE(body.find("\"country_id\"%3A\"DE\""), std::string::npos);
+    EXPECT_NE(body.find("\"guid\"%3A\"01234567"), std::string::npos);
+    EXPECT_NE(body.find("\"ver\"%3A\"1\""), std::string::npos);
 }

@@ -58,10 +58,3 @@ TEST_F(CommonConfig, IsOneObjectForTheProcess)
 {
     EXPECT_EQ(&fs::commonConfig(), &fs::commonConfig());
 }
-
-TEST(ApplicationConfig, LiesInTheApplicationsFolderUnderItsIdString)
-{
-    const std::wstring settings = sys::folderPath(sys::FolderKind::suiteSettings);
-    EXPECT_EQ(fs::applicationConfigPath(60), settings + L"\\ClipSaver\\ClipSaver.cfg");
-    EXPECT_EQ(fs::applicationConfigPath(0), settings + L"\\Tessera\\Tessera.cfg");
-}

@@ -1,12 +1,14 @@
+#include "support/win32/unique_handle.h"
 #include "tests/windows/support/scratch_folder.h"
 #include "ui/common/config/config.h"
-#include "ui/common/sys/unique_handle.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <future>
 #include <string>
 
+using namespace std::chrono_literals;
 using fs::CConfig;
 using windows_tests::readBytes;
 using windows_tests::ScratchFolder;
@@ -85,6 +87,39 @@ TEST_F(ConfigFiles, UnreadableFile)
     EXPECT_EQ(readBytes(file), "a=1\nb=2\n");
     EXPECT_EQ(config.save(), 0);
     EXPECT_EQ(readBytes(file), "a=changed\nb=2\n");
+}
+
+// A save that took a file in use for an unreadable one would write its own key and nothing else.
+TEST_F(ConfigFiles, SaveKeepsWhatIsInAFileThatSomebodyHasOpenForAMoment)
+{
+    struct Hold
+    {
+        const char* how;
+        DWORD access;
+        DWORD sharing;
+    };
+    for (const Hold& hold :
+         {Hold{"for itself alone", GENERIC_READ, 0},
+          Hold{"for writing", GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE}}) {
+        SCOPED_TRACE(hold.how);
+        writeBytes(file, "a=1\nb=2\n");
+        win32::FileHandle other(CreateFileW(file.c_str(), hold.access, hold.sharing, nullptr,
+                                            OPEN_EXISTING, 0, nullptr));
+        ASSERT_TRUE(other);
+        config.setValue("c", "3");
+        std::promise<void> begun;
+        std::future<int> result = std::async(std::launch::async, [&] {
+            begun.set_value();
+            return config.save();
+        });
+        begun.get_future().wait();
+        if (hold.sharing == 0) {
+            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it is still trying";
+        }
+        other.reset();
+        EXPECT_EQ(result.get(), 0);
+        EXPECT_EQ(readBytes(file), "a=1\nb=2\nc=3\n");
+    }
 }
 
 TEST_F(ConfigFiles, WriteProtectedFileKeepsItsContent)

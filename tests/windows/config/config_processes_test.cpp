@@ -2,8 +2,9 @@
 //
 // The file is not locked between processes. Two promises hold and are checked here:
 // - saves that do not overlap lose nothing, however old the memory of each process is;
-// - saves that do overlap may lose pairs (the last one wins with what it read), but each of them
-//   succeeds, every line that the file holds was written by somebody, and the next save is sound.
+// - saves that do overlap may lose pairs (the last one wins with what it read), and Windows may
+//   refuse one of them the file while the other reads it; but a save that was refused succeeds
+//   later, every line that the file holds was written by somebody, and the next save is sound.
 
 #include "tests/support/lines.h"
 #include "tests/windows/config/turns.h"
@@ -79,7 +80,7 @@ TEST(ConfigProcesses, LastToSaveWinsForTheSameKey)
     EXPECT_EQ(windows_tests::readBytes(file), "b0000=parent\n");
 }
 
-TEST(ConfigProcesses, OverlappingSavesSucceedAndWriteOnlyWholeLines)
+TEST(ConfigProcesses, OverlappingSavesSucceedInTheEndAndWriteOnlyWholeLines)
 {
     // All lines have the same size and the file stays below a page, so that whatever mixture of
     // two writes the system leaves, a line in it that nobody wrote would be a fault of ours.

@@ -1,11 +1,13 @@
 // config_writer FILE LETTER COUNT TURNS START: sets COUNT keys LETTER0000, LETTER0001, ... in FILE
-// and saves after each.
+// and saves after each. Without turns a save that fails is repeated: another process may have the
+// file open at that moment.
 //   TURNS  the name of the turns to take with another process, or "-" to write freely
 //   START  the name of an event to wait for before the first save, or "-"
 // Ends with the number of the first step that failed, 0 when none did.
 
 #include "tests/windows/config/turns.h"
 #include "ui/common/config/config.h"
+#include "ui/common/sys/result_codes.h"
 
 #include <cstdio>
 #include <memory>
@@ -22,6 +24,16 @@ std::string fourDigits(int number)
     char text[16] = {};
     std::snprintf(text, sizeof(text), "%04d", number);
     return text;
+}
+
+bool saveRepeatedly(fs::CConfig& config)
+{
+    constexpr ULONGLONG patienceMs = 60000;
+    const ULONGLONG begun = GetTickCount64();
+    int result = config.save();
+    while (result == sys::readOrWriteFailed && GetTickCount64() - begun < patienceMs)
+        result = config.save();
+    return result == sys::success;
 }
 
 } // namespace
@@ -54,7 +66,8 @@ int main()
         if (turns && !turns->wait())
             return 3;
         config.setValue(prefix + fourDigits(round), prefix + fourDigits(round));
-        if (config.save() != 0)
+        const bool saved = turns ? config.save() == sys::success : saveRepeatedly(config);
+        if (!saved)
             return 4;
         if (turns)
             turns->handOver();

@@ -2,7 +2,7 @@
 
 // Two processes taking turns, by two named events with the same start of their names.
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <string>
 

@@ -79,6 +79,19 @@ TEST_F(ChannelExchange, NoAnswerIsAFailureAfterSevenAttemptsButIsDeliveredOnce)
     EXPECT_EQ(exchange("#deliveries").answer, "2");
 }
 
+TEST_F(ChannelExchange, ReceiverThatThrowsCostsOneAnswerAndNoMore)
+{
+    for (const char* text : {"#no memory", "#throw"}) {
+        ASSERT_EQ(exchange("before"), (Exchange{0, "before"}));
+        Stranger client;
+        ASSERT_TRUE(client.connected());
+        EXPECT_EQ(client.transact(frame(1, text)), Bytes()) << text;
+        EXPECT_NE(client.error(), 0u);
+        client.disconnect();
+        EXPECT_EQ(exchange("after"), (Exchange{0, "after"})) << text;
+    }
+}
+
 TEST_F(ChannelExchange, EachSendForgetsTheAnswerBeforeIt)
 {
     Client client;
@@ -177,9 +190,13 @@ TEST_F(ChannelExchange, PipeIsOneOfMessagesOpenToEveryAccount)
     Stranger client;
     ASSERT_TRUE(client.connected());
     DWORD flags = 0;
+    DWORD outSize = 0;
+    DWORD inSize = 0;
     DWORD instances = 0;
-    ASSERT_TRUE(GetNamedPipeInfo(client.handle(), &flags, nullptr, nullptr, &instances));
+    ASSERT_TRUE(GetNamedPipeInfo(client.handle(), &flags, &outSize, &inSize, &instances));
     EXPECT_TRUE(flags & PIPE_TYPE_MESSAGE);
+    EXPECT_EQ(outSize, 65535u);
+    EXPECT_EQ(inSize, 65535u);
     EXPECT_GE(instances, DWORD{PIPE_UNLIMITED_INSTANCES}); // Wine says "unlimited" by -1
 
     PACL list = nullptr;

@@ -5,6 +5,7 @@
 #include "tests/windows/ipc/pipe_stranger.h"
 #include "tests/windows/ipc/serving_peer.h"
 #include "tests/windows/support/unique_name.h"
+#include "ui/common/sys/thread_start.h"
 
 #include <gtest/gtest.h>
 
@@ -67,11 +68,51 @@ ChildProcess sender(const std::wstring& text)
     return ChildProcess(siblingProgram(L"ipc_peer"), {L"send", text}, {true, true});
 }
 
+void expectNoPipe(const CInterprocessCommunicationWin& channel)
+{
+    EXPECT_FALSE(channel.isPipeOpen());
+    const Stranger nobody(milliseconds(0));
+    EXPECT_EQ(nobody.error(), DWORD{ERROR_FILE_NOT_FOUND});
+}
+
 TEST(ChannelServer, WithoutAClaimedMutexThereIsNoThreadToStart)
 {
     CInterprocessCommunicationWin channel;
     EXPECT_EQ(channel.createServer(), 87);
-    EXPECT_TRUE(channel.isPipeOpen());
+    expectNoPipe(channel);
+}
+
+// As _beginthreadex does when there is no memory for another thread.
+std::uintptr_t beginNoThread(void*, unsigned, unsigned(__stdcall*)(void*), void*, unsigned,
+                             unsigned*)
+{
+    return 0;
+}
+
+TEST(ChannelServer, ThreadThatDoesNotStartLeavesNoPipeBehind)
+{
+    Server server;
+    win32::setBeginThread(&beginNoThread);
+    EXPECT_EQ(server.channel.createServer(), 10);
+    win32::setBeginThread(nullptr);
+    expectNoPipe(server.channel);
+    // Nothing is in the way of another try.
+    ASSERT_EQ(server.start(), 0);
+    EXPECT_EQ(Stranger().transact(frame(1, "text")), frame(GetCurrentProcessId(), "text"));
+}
+
+TEST(ChannelServer, SecondStartIsBusyAndTouchesNothing)
+{
+    Server server;
+    ASSERT_EQ(server.start(), 0);
+    Stranger connected;
+    ASSERT_TRUE(connected.connected());
+    EXPECT_EQ(server.channel.createServer(), 170);
+    EXPECT_TRUE(server.channel.isPipeOpen());
+    // There is no second instance of the pipe, and the first one's client is served.
+    const Stranger other(milliseconds(0));
+    EXPECT_EQ(other.error(), DWORD{ERROR_PIPE_BUSY});
+    EXPECT_EQ(connected.transact(frame(1, "text")), frame(GetCurrentProcessId(), "text"));
 }
 
 TEST(ChannelServer, SecondStartIsBusyAndServingGoesOn)
@@ -155,9 +196,47 @@ TEST(ChannelServerClose, DuringADeliveryWaitsForItsEnd)
     EXPECT_EQ(closed.wait_for(milliseconds(300)), std::future_status::timeout);
     gate.set();
     EXPECT_TRUE(endsInTime([&] { closed.wait(); }));
-    // The delivery was finished properly: its sender has the answer.
-    EXPECT_EQ(client.waitForExit(), 0u);
-    EXPECT_EQ(client.output(), "text");
+    client.waitForExit();
+}
+
+// A delivery under way that asks for a stop at its end, or while it lasts.
+class StopDuringADelivery : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        server.receiver.gate = &gate;
+        ASSERT_EQ(server.start(), 0);
+        answer =
+            std::async(std::launch::async, [] { return Stranger().transact(frame(1, "text")); });
+        ASSERT_TRUE(server.receiver.entered.wait());
+    }
+
+    Server server;
+    const NamedEvent gate{uniqueName(L"tessera_ipc_gate")};
+    std::future<Bytes> answer;
+};
+
+TEST_F(StopDuringADelivery, NoAnswerIsWrittenAfterIt)
+{
+    server.channel.requestStop();
+    gate.set();
+    EXPECT_EQ(answer.get(), Bytes());
+    EXPECT_EQ(server.receiver.answerText, "text"); // there would have been one
+}
+
+TEST_F(StopDuringADelivery, IsNotTakenBackByASecondStart)
+{
+    server.channel.requestStop();
+    EXPECT_EQ(server.channel.createServer(), 170);
+    gate.set();
+    EXPECT_EQ(answer.get(), Bytes());
+}
+
+TEST_F(StopDuringADelivery, WithoutOneTheAnswerIsWritten)
+{
+    gate.set();
+    EXPECT_EQ(answer.get(), frame(GetCurrentProcessId(), "text"));
 }
 
 TEST(ChannelServerClose, DestructorStopsAServingChannel)
@@ -201,6 +280,8 @@ TEST(ChannelServerThread, ClientBeforeTheFirstWaitEndsIt)
 {
     ServingPeer peer({L"client-before-first-wait"});
     ASSERT_TRUE(peer.ready());
+    // That client is let go, and does not wait for an answer until the process ends.
+    EXPECT_TRUE(peer.earlyClientIsLetGo());
     // The one pipe instance stays with the early client, and nobody serves it.
     Client client;
     EXPECT_EQ(client.connect(milliseconds(2000)), ERROR_PIPE_BUSY);

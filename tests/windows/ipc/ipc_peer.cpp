@@ -2,7 +2,8 @@
 //
 //   ipc_peer serve NAME [client-before-first-wait]
 //       serves until the event NAME_stop; NAME_ready is signalled once the server stands. Exit
-//       code: what createServer returned. Answers are described at ScriptedReceiver.
+//       code: what createServer returned. Answers are described at ScriptedReceiver. The client
+//       before the first wait reads; NAME_let_go is signalled when that has failed.
 //   ipc_peer send TEXT
 //       sends TEXT and prints the answer. Exit code: what connectToServer or sendMessage returned.
 //   ipc_peer claim NAME [forget]
@@ -22,7 +23,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <new>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <windows.h>
@@ -111,6 +114,10 @@ public:
             answerText = std::to_string(deliveries);
         } else if (text == "#usage") { // handles, KiB of memory
             answerText = usage();
+        } else if (text == "#no memory") {
+            throw std::bad_alloc();
+        } else if (text == "#throw") {
+            throw 1;
         } else if (text.compare(0, 6, "#size ") == 0) { // that many bytes
             answerText.assign(std::strtoul(text.c_str() + 6, nullptr, 10), 'x');
         } else {
@@ -121,6 +128,15 @@ public:
 private:
     unsigned long deliveries = 0;
 };
+
+// Reads as the early client, and signals when the server has hung up.
+void waitAsEarlyClient(const NamedEvent& letGo)
+{
+    char answer = 0;
+    DWORD size = 0;
+    if (!ReadFile(earlyClient, &answer, 1, &size, nullptr))
+        letGo.set();
+}
 
 int serve(const std::wstring& name, bool withEarlyClient)
 {
@@ -133,9 +149,15 @@ int serve(const std::wstring& name, bool withEarlyClient)
     const int result = withEarlyClient ? channel.createServer() : ipctest::serveForSure(channel);
     if (withEarlyClient && earlyClient == INVALID_HANDLE_VALUE)
         return badUsage;
+    const NamedEvent letGo(name + L"_let_go");
+    std::thread earlyReader;
+    if (withEarlyClient)
+        earlyReader = std::thread([&letGo] { waitAsEarlyClient(letGo); });
     NamedEvent(name + L"_ready").set();
     stop.wait(longestRun);
     channel.close();
+    if (earlyReader.joinable())
+        earlyReader.join();
     return result;
 }
 

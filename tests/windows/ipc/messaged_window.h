@@ -32,6 +32,15 @@ public:
                                           Q_ARG(unsigned long, 77), Q_ARG(QString, message)));
     }
 
+    // As the channel's server thread does.
+    void deliver(const std::string& text) { onMessageFromOtherProcess(1, text); }
+    // Whether messages reach the main thread.
+    bool isConnected() const
+    {
+        return isSignalConnected(QMetaMethod::fromSignal(
+            &CInterprocessCommunicationApp::messageFromOtherProcessReceived));
+    }
+
     QStringList hooked;
     QString reply;
     std::unique_ptr<NamedEvent> deliveryBegins;

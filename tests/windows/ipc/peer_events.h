@@ -2,7 +2,7 @@
 
 // Named events, with which a test and its child processes tell each other where they are.
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <string>
 

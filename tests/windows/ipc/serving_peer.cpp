@@ -16,7 +16,7 @@ std::vector<std::wstring> withName(const std::wstring& name, const std::vector<s
 
 ServingPeer::ServingPeer(const std::vector<std::wstring>& moreArguments)
     : name(uniqueName(L"tessera_ipc_peer")), readyEvent(name + L"_ready"),
-      stopEvent(name + L"_stop"),
+      letGoEvent(name + L"_let_go"), stopEvent(name + L"_stop"),
       process(siblingProgram(L"ipc_peer"), withName(name, moreArguments))
 {
     const HANDLE either[] = {readyEvent.handle(), process.handle()};

@@ -22,10 +22,13 @@ public:
     // Makes it close its channel; gives what createServer returned there.
     std::optional<DWORD> stop(milliseconds deadline = patience);
     DWORD pid() const { return process.pid(); }
+    // True once the client that came before the first wait has been let go; waits for that.
+    bool earlyClientIsLetGo() const { return letGoEvent.wait(); }
 
 private:
     std::wstring name;
     NamedEvent readyEvent;
+    NamedEvent letGoEvent;
     NamedEvent stopEvent;
     ChildProcess process;
     bool isReady = false;

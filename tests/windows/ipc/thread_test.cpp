@@ -49,11 +49,14 @@ TEST(BaseThread, IsBusyWhileItRunsAndStartsAgainAfterwards)
     Body body;
     win32::CBaseThread<100> owner;
     owner.setFunction(&body);
+    EXPECT_FALSE(owner.isRunning());
     ASSERT_EQ(owner.start(), 0);
+    EXPECT_TRUE(owner.isRunning());
     EXPECT_EQ(owner.start(), 170);
     EXPECT_EQ(owner.start(), 170);
     SetEvent(body.gate.get());
     owner.waitUntilFinished();
+    EXPECT_FALSE(owner.isRunning());
     EXPECT_EQ(owner.start(), 0);
     owner.waitUntilFinished();
     EXPECT_EQ(body.runs, 2);

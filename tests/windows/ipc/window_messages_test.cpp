@@ -16,6 +16,36 @@ bool minimised(const QWidget& window)
     return window.windowState().testFlag(Qt::WindowMinimized);
 }
 
+// Of two windows of this process.
+bool isAbove(const QWidget& upper, const QWidget& lower)
+{
+    const auto wanted = reinterpret_cast<HWND>(lower.winId());
+    auto next = reinterpret_cast<HWND>(upper.winId());
+    while (next != nullptr && next != wanted)
+        next = GetWindow(next, GW_HWNDNEXT);
+    return next == wanted;
+}
+
+class EventCounter : public QObject
+{
+public:
+    EventCounter(QObject& watched, QEvent::Type type) : wanted(type)
+    {
+        watched.installEventFilter(this);
+    }
+    int count() const { return seen; }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == wanted)
+            ++seen;
+        return false;
+    }
+
+private:
+    const QEvent::Type wanted;
+    int seen = 0;
+};
+
 } // namespace
 
 class WindowMessagesTest : public QObject
@@ -27,7 +57,9 @@ private slots:
     void castsByNameReachBothBases();
 
     void withoutTheCheckNothingIsServedOrSent();
+    void withoutTheCheckTheMutexIsTakenAllTheSame();
     void firstCopyServesAndIsNotAnotherInstance();
+    void messagesAreHandledAlthoughTheServerCouldNotStart();
     void answerIsWhatTheHookMakesOfTheMessage();
     void everyByteReachesTheHookAsLatin1();
     void deliveryIsHandledOnTheMainThreadBeforeItsAnswer();
@@ -36,6 +68,7 @@ private slots:
     void showRestoresAMinimisedWindow();
     void showKeepsTheMaximisedBit();
     void showLeavesAWindowThatIsNotMinimisedInItsState();
+    void showActivatesAndRaisesACoveredWindow();
     void showWithMinimizedMinimisesAndAnswersNothing_data();
     void showWithMinimizedMinimisesAndAnswersNothing();
     void minimizedAloneIsForTheHook();
@@ -46,6 +79,7 @@ private slots:
     void eachMessageForgetsTheAnswerBeforeIt();
 
     void endWithADeliveryUnderWayDoesNotHang();
+    void deliveryThatTheEndDropsIsNotAnswered();
 };
 
 void WindowMessagesTest::metaObjectHasTheSignalAndThenTheSlot()
@@ -77,6 +111,22 @@ void WindowMessagesTest::withoutTheCheckNothingIsServedOrSent()
     QCOMPARE(window.startArguments(), (std::vector<std::string>{"/app", "X"}));
     Stranger client(milliseconds(0));
     QCOMPARE(client.error(), DWORD{ERROR_FILE_NOT_FOUND});
+    QVERIFY(!window.isConnected());
+}
+
+void WindowMessagesTest::withoutTheCheckTheMutexIsTakenAllTheSame()
+{
+    const auto mutexExists = [] {
+        const win32::KernelHandle mutex(
+            OpenMutexW(SYNCHRONIZE, FALSE, L"Global\\LUMACRAFT_UNINSTALL"));
+        return static_cast<bool>(mutex);
+    };
+    QVERIFY(!mutexExists());
+    {
+        Window window({}, nullptr, false);
+        QVERIFY(mutexExists());
+    }
+    QVERIFY(!mutexExists());
 }
 
 void WindowMessagesTest::firstCopyServesAndIsNotAnotherInstance()
@@ -86,6 +136,20 @@ void WindowMessagesTest::firstCopyServesAndIsNotAnotherInstance()
     QCOMPARE(window.startArguments(), (std::vector<std::string>{"/app", "X"}));
     Stranger client(milliseconds(0));
     QVERIFY(client.connected());
+}
+
+void WindowMessagesTest::messagesAreHandledAlthoughTheServerCouldNotStart()
+{
+    // A server of another kind has the pipe's name: a pipe of bytes instead of messages.
+    const win32::FileHandle other(
+        CreateNamedPipeW(pipePath, PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 100, 100, 0, nullptr));
+    QVERIFY(other);
+    Window window;
+    QVERIFY(!window.isAnotherInstanceRunning());
+    QVERIFY(window.isConnected());
+    auto delivered = std::async(std::launch::async, [&window] { window.deliver("text"); });
+    QTRY_COMPARE_WITH_TIMEOUT(window.hooked, QStringList{QStringLiteral("text")}, patienceMs);
+    delivered.get();
 }
 
 void WindowMessagesTest::answerIsWhatTheHookMakesOfTheMessage()
@@ -175,6 +239,25 @@ void WindowMessagesTest::showLeavesAWindowThatIsNotMinimisedInItsState()
     QCOMPARE(window.windowState(), Qt::WindowStates(Qt::WindowMaximized));
 }
 
+void WindowMessagesTest::showActivatesAndRaisesACoveredWindow()
+{
+    Window window({}, nullptr, false);
+    window.setGeometry(100, 100, 300, 200);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QWidget cover;
+    cover.setGeometry(window.geometry());
+    cover.show();
+    QVERIFY(QTest::qWaitForWindowActive(&cover));
+    QVERIFY(!window.isActiveWindow());
+
+    EventCounter raised(window, QEvent::ZOrderChange);
+    window.receive(QStringLiteral("/show"));
+    QCOMPARE(raised.count(), 1);
+    QTRY_VERIFY_WITH_TIMEOUT(window.isActiveWindow(), patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(isAbove(window, cover), patienceMs);
+}
+
 void WindowMessagesTest::showWithMinimizedMinimisesAndAnswersNothing_data()
 {
     QTest::addColumn<QString>("message");
@@ -191,8 +274,10 @@ void WindowMessagesTest::showWithMinimizedMinimisesAndAnswersNothing()
     window.reply = QStringLiteral("never");
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    EventCounter raised(window, QEvent::ZOrderChange);
     window.receive(message);
     QTRY_VERIFY_WITH_TIMEOUT(minimised(window), patienceMs);
+    QCOMPARE(raised.count(), 0);
     QCOMPARE(window.answer(), std::string());
     QVERIFY(window.hooked.isEmpty());
 }
@@ -280,6 +365,18 @@ void WindowMessagesTest::endWithADeliveryUnderWayDoesNotHang()
         window.reset();
         QVERIFY(ended.get());
     }
+}
+
+void WindowMessagesTest::deliveryThatTheEndDropsIsNotAnswered()
+{
+    auto window = servingWindow();
+    window->answerText = "an older message's";
+    const std::wstring name = uniqueName(L"tessera_ipc_delivery");
+    window->deliveryBegins = std::make_unique<NamedEvent>(name);
+    auto answer = sendFromThread("text");
+    QVERIFY(NamedEvent(name).wait());
+    window.reset();
+    QCOMPARE(answer.get(), std::string());
 }
 
 TESSERA_QT_TEST(WindowMessagesTest)

@@ -5,7 +5,7 @@
 // Ends with 0, or 9 after the crash.
 
 #include "support/keelbase/keelbase.h"
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <cstdlib>
 #include <string>

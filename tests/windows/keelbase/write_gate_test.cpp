@@ -1,6 +1,6 @@
 #include "support/keelbase/platform.h"
+#include "support/win32/unique_handle.h"
 #include "tests/windows/support/unique_name.h"
-#include "ui/common/sys/unique_handle.h"
 
 #include <gtest/gtest.h>
 

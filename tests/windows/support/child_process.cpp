@@ -64,7 +64,7 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
         SetHandleInformation(write, HANDLE_FLAG_INHERIT, HANDLE_FLAG_INHERIT);
         startup.dwFlags = STARTF_USESTDHANDLES;
         startup.hStdOutput = write;
-        startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+        startup.hStdError = options.captureErrors ? write : GetStdHandle(STD_ERROR_HANDLE);
     }
     PROCESS_INFORMATION information = {};
     // With dozens of processes starting at once Wine now and then loses one before its first

@@ -2,7 +2,7 @@
 
 // Child processes of a test, which never outlive it.
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <chrono>
 #include <optional>
@@ -28,6 +28,8 @@ struct ChildOptions
     bool withEnvironment = false;
     // Its standard output goes to ChildProcess::output().
     bool captureOutput = false;
+    // And its standard error with it.
+    bool captureErrors = false;
 };
 
 class ChildProcess

@@ -1,16 +1,21 @@
+#include "support/win32/unique_handle.h"
 #include "tests/support/recorded_log.h"
 #include "tests/windows/support/scratch_folder.h"
 #include "ui/common/sys/file_io.h"
-#include "ui/common/sys/file_io_open.h"
+#include "ui/common/sys/replaceable.h"
 #include "ui/common/sys/result_codes.h"
-#include "ui/common/sys/unique_handle.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <chrono>
+#include <future>
 #include <string>
 #include <vector>
 
+#include <share.h>
+
+using namespace std::chrono_literals;
 using windows_tests::readBytes;
 using windows_tests::ScratchFolder;
 using windows_tests::writeBytes;
@@ -33,6 +38,32 @@ int openNothing(std::FILE** stream, const wchar_t*, const wchar_t*)
 int openForAppending(std::FILE** stream, const wchar_t* path, const wchar_t*)
 {
     return _wfopen_s(stream, path, L"ab");
+}
+
+// Others who have a file open so that Windows' _wfopen_s refuses it.
+struct Hold
+{
+    const char* how;
+    DWORD access;
+    DWORD sharing;
+};
+constexpr Hold refusedHolds[] = {
+    {"for itself alone", GENERIC_READ, 0},
+    {"for writing", GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE},
+    {"for reading and writing", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE},
+};
+
+win32::FileHandle holder; // closed at the attempt `closedAt`
+int attempts;
+int closedAt;
+
+// Shares as Windows' _wfopen_s does for reading. Wine's shares with everybody.
+int openSecurely(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
+{
+    if (++attempts == closedAt)
+        holder.reset();
+    *stream = _wfsopen(path, mode, _SH_DENYWR);
+    return *stream != nullptr ? 0 : errno;
 }
 
 std::wstring requestedMode;
@@ -105,16 +136,74 @@ TEST(FileIo, FailedReadHasItsOwnCode)
     EXPECT_EQ(content, "before");
 }
 
-TEST(FileIo, ReadsWhileOthersHoldTheFileOpenForWriting)
+TEST(FileIo, ReadsOnceOthersHaveClosedTheFile)
 {
     const ScratchFolder scratch;
-    writeBytes(scratch / L"file", "bytes");
-    const win32::FileHandle other =
-        openFile(scratch / L"file", GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
-    ASSERT_TRUE(other);
+    const std::wstring file = scratch / L"file";
+    writeBytes(file, "bytes");
+    for (const Hold& hold : refusedHolds) {
+        SCOPED_TRACE(hold.how);
+        win32::FileHandle other = openFile(file, hold.access, hold.sharing);
+        ASSERT_TRUE(other);
+        std::string content;
+        std::promise<void> begun;
+        std::future<int> result = std::async(std::launch::async, [&] {
+            begun.set_value();
+            return sys::readWholeFile(file, content);
+        });
+        begun.get_future().wait();
+        if (hold.sharing == 0) {
+            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it is still trying";
+        }
+        other.reset();
+        EXPECT_EQ(result.get(), 0);
+        EXPECT_EQ(content, "bytes");
+    }
+}
+
+TEST(FileIo, ReadIsTriedAgainWhateverKeepsOthersFromSharing)
+{
+    const ScratchFolder scratch;
+    const std::wstring file = scratch / L"file";
+    writeBytes(file, "bytes");
+    for (const Hold& hold : refusedHolds) {
+        SCOPED_TRACE(hold.how);
+        holder = openFile(file, hold.access, hold.sharing);
+        ASSERT_TRUE(holder);
+        attempts = 0;
+        closedAt = 5;
+        std::string content;
+        EXPECT_EQ(sys::readWholeFile(file, content, &openSecurely), 0);
+        EXPECT_EQ(attempts, closedAt);
+        EXPECT_EQ(content, "bytes");
+    }
+}
+
+TEST(FileIo, ReadGivesUpAfterHalfASecond)
+{
+    const ScratchFolder scratch;
+    writeBytes(scratch / L"locked", "x");
+    const win32::FileHandle lock = openFile(scratch / L"locked", GENERIC_READ, 0);
+    ASSERT_TRUE(lock);
+    std::string content = "before";
+    const auto begun = std::chrono::steady_clock::now();
+    EXPECT_EQ(sys::readWholeFile(scratch / L"locked", content), EACCES);
+    const auto spent = std::chrono::steady_clock::now() - begun;
+    EXPECT_GE(spent, 450ms);
+    EXPECT_LT(spent, 5s);
+    EXPECT_EQ(content, "before");
+}
+
+TEST(FileIo, ReadThatTimeCannotHelpIsNotTriedAgain)
+{
+    const ScratchFolder scratch;
     std::string content;
-    EXPECT_EQ(sys::readWholeFile(scratch / L"file", content), 0);
-    EXPECT_EQ(content, "bytes");
+    attempts = 0;
+    closedAt = 0;
+    EXPECT_EQ(sys::readWholeFile(scratch / L"missing", content, &openSecurely), ENOENT);
+    EXPECT_EQ(attempts, 1);
+    EXPECT_EQ(sys::readWholeFile(scratch.path(), content, &openSecurely), EACCES);
+    EXPECT_EQ(attempts, 2);
 }
 
 TEST(FileIo, WritesTheBytesAsTheyAre)

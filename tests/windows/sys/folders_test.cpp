@@ -25,13 +25,7 @@ std::wstring settings()
 TEST(Folders, SuiteSettingsLieInTheRoamingFolder)
 {
     EXPECT_EQ(folderPath(FolderKind::suiteSettings), settings());
-    EXPECT_EQ(folderPath(FolderKind::suiteSettings, 0xFFFFFFFF), settings());
-}
-
-TEST(Folders, ApplicationHasItsOwnSubFolderWhenAnIndexIsGiven)
-{
-    EXPECT_EQ(folderPath(FolderKind::suiteSettings, 60), settings() + L"\\ClipSaver");
-    EXPECT_EQ(folderPath(FolderKind::suiteSettings, 0), settings() + L"\\Tessera");
+    EXPECT_EQ(folderPath(FolderKind::suiteSettings, L"ClipSaver"), settings() + L"\\ClipSaver");
 }
 
 TEST(Folders, LogsLieInTheSuiteSettingsFolder)
@@ -41,12 +35,12 @@ TEST(Folders, LogsLieInTheSuiteSettingsFolder)
 
 TEST(Folders, LocalFolderHasTheGivenName)
 {
-    EXPECT_EQ(folderPath(FolderKind::local, sys::noAppIndex, L"Caf\u00E9"),
+    EXPECT_EQ(folderPath(FolderKind::local, L"Caf\u00E9"),
               known(sys::KnownFolder::localAppData) + L"\\Caf\u00E9");
 }
 
 TEST(Folders, AnyOtherKindIsTheCurrentFolder)
 {
     EXPECT_EQ(folderPath(static_cast<FolderKind>(17)), L".");
-    EXPECT_EQ(folderPath(static_cast<FolderKind>(17), 60), L".");
+    EXPECT_EQ(folderPath(static_cast<FolderKind>(17), L"ClipSaver"), L".");
 }

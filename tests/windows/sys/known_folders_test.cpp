@@ -1,5 +1,5 @@
 #include "ui/common/sys/known_folders.h"
-#include "ui/common/sys/known_folders_lookup.h"
+#include "ui/common/sys/replaceable.h"
 
 #include <gtest/gtest.h>
 

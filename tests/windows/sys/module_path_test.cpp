@@ -1,5 +1,5 @@
 #include "ui/common/sys/module_path.h"
-#include "ui/common/sys/module_path_lookup.h"
+#include "ui/common/sys/replaceable.h"
 
 #include <gtest/gtest.h>
 

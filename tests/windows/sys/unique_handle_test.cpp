@@ -1,4 +1,4 @@
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <gtest/gtest.h>
 

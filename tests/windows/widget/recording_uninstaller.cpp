@@ -1,7 +1,7 @@
 // An uninstaller that removes nothing: it appends the arguments it was started with, one line of
 // UTF-8 a start, to "<own path>.args". A copy named "slow.exe" then stays for ten seconds and
 // writes "<own path>.done".
-#include "tools/sample_suite/record_file.h"
+#include "tests/sample_suite/record_file.h"
 
 #include <cstdio>
 #include <string>

@@ -16,31 +16,25 @@ namespace {
 std::atomic<bool> countryAsked = false;
 QSemaphore countryAnswer;
 
-} // namespace
-
-// Stand in for the library's own, which the linker then leaves out. The country service keeps the
-// program waiting until the test lets it answer.
-namespace netpull {
-
-void init() {}
-
-Response fetch(const Request&)
+// The country service keeps the program waiting until the test lets it answer.
+netpull::Response answer(const netpull::Request&)
 {
     countryAsked = true;
     countryAnswer.tryAcquire(1, 60'000);
-    Response response;
+    netpull::Response response;
     response.httpStatus = 200;
     response.body = "NL";
     return response;
 }
 
-} // namespace netpull
+} // namespace
 
 class WidgetIntrusionTest : public RunTestBase
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { netpull::setFetch(&answer); }
     void nothingIntrudesOnTheWaitForAnUninstaller();
     void nothingIntrudesOnTheWaitForTheCountry();
     void nothingIntrudesBehindTheWarning();
@@ -230,8 +224,8 @@ void WidgetIntrusionTest::nothingIntrudesAfterTheRun()
     verifyOutcome(under, quick);
 }
 
-// Buttons that do not match the rows stay as they are too. "/app" leaves the select button alone, so
-// that it does not match where every row is checked.
+// Buttons that do not match the rows stay as they are too. "/app" leaves the select button alone,
+// so that it does not match where every row is checked.
 void WidgetIntrusionTest::nothingIntrudesOnButtonsThatDoNotMatchTheRows()
 {
     const QString slow = QStringLiteral("slow.exe");

@@ -37,6 +37,7 @@ private slots:
     void selectButtonWorksFromTheKeyboard();
     void enterPressesNoButton();
     void slotOnAnEmptyListCountsAsAllChecked();
+    void changeItemsStateLeavesTheButtonsAlone();
     void setSelectButtonModeSetsTextAndState();
     void appArgumentChecksItsRowAndLeavesTheSelectButton();
     void appArgumentOfTheSuiteChecksOnlyItsRow();
@@ -259,6 +260,16 @@ void WidgetSelectionTest::slotOnAnEmptyListCountsAsAllChecked()
     QVERIFY(!under.deleteSettings->isEnabled());
 }
 
+void WidgetSelectionTest::changeItemsStateLeavesTheButtonsAlone()
+{
+    WindowUnderTest under;
+    under.window.changeItemsState(true);
+    QCoreApplication::processEvents();
+    QCOMPARE(under.checkedRows(), 4);
+    QVERIFY(!under.uninstall->isEnabled());
+    QCOMPARE(under.selectState(), 1);
+}
+
 void WidgetSelectionTest::setSelectButtonModeSetsTextAndState()
 {
     WindowUnderTest under;
@@ -284,6 +295,7 @@ void WidgetSelectionTest::appArgumentChecksItsRowAndLeavesTheSelectButton()
 void WidgetSelectionTest::appArgumentOfTheSuiteChecksOnlyItsRow()
 {
     const WindowUnderTest under({"/app", "Tessera"});
+    QCoreApplication::processEvents();
     QCOMPARE(under.checkedRows(), 1);
     QVERIFY(under.isChecked(under.rowOf(suiteName)));
 }

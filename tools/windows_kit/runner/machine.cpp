@@ -1,6 +1,6 @@
 #include "tools/windows_kit/runner/machine.h"
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <cstdio>
 #include <fstream>
@@ -36,8 +36,8 @@ std::string versionNumber()
     using RtlGetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
     OSVERSIONINFOW version = {};
     version.dwOSVersionInfoSize = sizeof(version);
-    const auto get = reinterpret_cast<RtlGetVersion>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion")));
+    const auto get = reinterpret_cast<RtlGetVersion>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion")));
     if (get == nullptr || get(&version) != 0)
         return "unknown";
     DWORD revision = 0;

@@ -7,7 +7,7 @@
 #include "tools/windows_kit/runner/test_list.h"
 #include "tools/windows_kit/runner/test_run.h"
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -44,13 +44,14 @@ std::filesystem::path ownFolder()
 
 bool userAgrees(std::size_t tests)
 {
-    std::printf("This runs %zu test programs, one after the other, in some minutes.\n"
-                "Windows will open and close; please leave mouse and keyboard alone, and close\n"
-                "Uninstall.exe and the suite's applications first.\n\n"
-                "For that time HKEY_CURRENT_USER\\Software\\Corvane and %%APPDATA%%\\Lumacraft are\n"
-                "put aside. They are put back at the end, and also after Ctrl+C.\n\n"
-                "Go on? (yes/no) ",
-                tests);
+    std::printf(
+        "This runs %zu test programs, one after the other, in some minutes.\n"
+        "Windows will open and close; please leave mouse and keyboard alone, and close\n"
+        "Uninstall.exe and the suite's applications first.\n\n"
+        "For that time HKEY_CURRENT_USER\\Software\\Corvane and %%APPDATA%%\\Lumacraft are\n"
+        "put aside. They are put back at the end, and also after Ctrl+C.\n\n"
+        "Go on? (yes/no) ",
+        tests);
     std::fflush(stdout);
     std::string answer;
     std::getline(std::cin, answer);

@@ -1,6 +1,6 @@
 #include "tools/windows_kit/runner/test_run.h"
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 namespace kit {
 

@@ -3,7 +3,6 @@
 #include "ui/common/config/config.h"
 
 #include <memory>
-#include <string>
 
 namespace fs {
 
@@ -12,9 +11,5 @@ std::unique_ptr<CConfig> makeCommonConfig();
 
 // The process's own object on "common.cfg", made on first use. Any thread.
 CConfig& commonConfig();
-
-// The path of an application's settings file, <id string>\<id string>.cfg in the suite settings
-// folder, by its numeric id in the catalogue. Neither file nor folder need exist.
-std::wstring applicationConfigPath(int appId);
 
 } // namespace fs

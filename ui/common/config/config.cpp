@@ -88,6 +88,12 @@ void CConfig::setValue(const std::string& key, const std::string& value)
     modified = true;
 }
 
+bool CConfig::has(const std::string& key) const
+{
+    const std::lock_guard lock(mutex);
+    return values.count(key) != 0;
+}
+
 std::string CConfig::getValue(const std::string& key, const std::string& defaultValue) const
 {
     const std::lock_guard lock(mutex);

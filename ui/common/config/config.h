@@ -21,6 +21,9 @@ namespace fs {
 // Between processes there is no lock: save() reads the file again and lays only this process's
 // changes over it, so that two processes with different keys both keep theirs.
 //
+// The three that touch the disk may take half a second more while somebody else has the file open
+// (sys::readWholeFile), and save() keeps the object locked meanwhile.
+//
 // Results are sys:: result codes (ui/common/sys/result_codes.h). Nothing is saved on destruction.
 class CConfig
 {
@@ -47,6 +50,8 @@ public:
 
     // Changes memory only. The empty value deletes the key at the next save().
     void setValue(const std::string& key, const std::string& value);
+    // True for a key with the empty value too.
+    bool has(const std::string& key) const;
     std::string getValue(const std::string& key, const std::string& defaultValue) const;
 
     // True for the text "1" only; the default is taken when the key is absent.

@@ -2,6 +2,7 @@
 
 #include "ui/common/config/brand.h"
 #include "ui/common/sys/file_io.h"
+#include "ui/common/sys/folders.h"
 #include "ui/common/sys/module_path.h"
 #include "ui/common/sys/result_codes.h"
 #include "ui/common/sys/text_convert.h"
@@ -37,7 +38,7 @@ std::string runtimeBrandFor(const std::wstring& moduleFolder)
     if (const auto brand = brandFromFolderName(sys::toNarrow(name)))
         return *brand;
 
-    const std::wstring globalConfig = std::wstring(parent) + L"\\global.cfg";
+    const std::wstring globalConfig = sys::joinedPath(std::wstring(parent), L"global.cfg");
     std::string content;
     if (!sys::fileExists(globalConfig) || sys::readWholeFile(globalConfig, content) != sys::success)
         return defaultBrand;

@@ -1,7 +1,6 @@
 #include "ui/common/stat/app_event_stat.h"
 
 #include "support/keelbase/keelbase.h"
-#include "ui/common/config/common_config.h"
 #include "ui/common/stat/http_post_form.h"
 #include "ui/common/stat/service_endpoints.h"
 #include "ui/common/sys/environment.h"
@@ -61,15 +60,6 @@ AppStatHelper& AppStatHelper::instance()
 {
     static AppStatHelper helper;
     return helper;
-}
-
-AppStatHelper::AppStatHelper()
-{
-    // A post under way at process exit still reads the proxy and logs. Made before this object,
-    // both outlive it.
-    fs::commonConfig();
-    Keelbase::LoggerHandle logger;
-    Keelbase::createLogger(logger);
 }
 
 void AppStatHelper::init(std::shared_ptr<TemplateParams> newParams, bool newEnabled,

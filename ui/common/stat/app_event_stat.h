@@ -37,7 +37,7 @@ public:
     AppStatHelper& operator=(const AppStatHelper&) = delete;
 
 protected:
-    AppStatHelper();
+    AppStatHelper() = default;
     ~AppStatHelper() = default;
 
 private:

@@ -36,7 +36,7 @@ bool succeeded(RPC_STATUS status, const char* api)
 
 } // namespace
 
-std::string createGuid()
+std::string systemGuid()
 {
     UUID uuid = {};
     RpcText text;

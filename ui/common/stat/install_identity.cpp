@@ -1,6 +1,5 @@
 #include "ui/common/stat/install_identity.h"
 
-#include "ui/common/stat/exclusive_save.h"
 #include "ui/common/stat/guid.h"
 #include "ui/common/sys/environment.h"
 
@@ -9,19 +8,15 @@ namespace {
 
 constexpr const char* clientGuidKey = "ClientGuid";
 
-// No value read from a file holds a line feed, so as a default it tells "absent" from "empty".
-constexpr const char* absent = "\n";
-
 } // namespace
 
 std::string getOrCreateClientGuid(fs::CConfig& common)
 {
-    std::string guid = common.getValue(clientGuidKey, absent);
-    if (guid != absent)
-        return guid;
-    guid = createGuid();
+    if (common.has(clientGuidKey))
+        return common.getValue(clientGuidKey, "");
+    std::string guid = createGuid();
     common.setValue(clientGuidKey, guid);
-    saveExclusively(common);
+    common.save();
     return guid;
 }
 

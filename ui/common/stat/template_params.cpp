@@ -15,23 +15,21 @@ void removeLastPair(std::string& text)
 
 } // namespace
 
-const TemplateParams::Entry* TemplateParams::find(std::string_view name) const
+const std::string* TemplateParams::find(std::string_view name) const
 {
-    // For so few names, most of them of different length, faster than a binary search.
     for (const Entry& entry : entries) {
         if (entry.name == name)
-            return &entry;
+            return &entry.value;
     }
     return nullptr;
 }
 
 void TemplateParams::set(const std::string& name, const std::string& value, bool overwrite)
 {
-    const auto place = std::lower_bound(
-        entries.begin(), entries.end(), name,
-        [](const Entry& entry, const std::string& key) { return entry.name < key; });
-    if (place == entries.end() || place->name != name)
-        entries.insert(place, {name, value});
+    const auto place = std::find_if(entries.begin(), entries.end(),
+                                    [&](const Entry& entry) { return entry.name == name; });
+    if (place == entries.end())
+        entries.push_back({name, value});
     else if (overwrite)
         place->value = value;
 }
@@ -45,8 +43,8 @@ void TemplateParams::set(const std::vector<std::pair<std::string, std::string>>&
 
 std::string TemplateParams::get(const std::string& name) const
 {
-    const Entry* const entry = find(name);
-    return entry != nullptr ? entry->value : std::string();
+    const std::string* const value = find(name);
+    return value != nullptr ? *value : std::string();
 }
 
 TemplateParams::Expansion TemplateParams::expand(const TextTemplate& textTemplate,
@@ -57,9 +55,9 @@ TemplateParams::Expansion TemplateParams::expand(const TextTemplate& textTemplat
     text.reserve(2 * textTemplate.length());
     for (std::size_t index = 0; index < textTemplate.placeholderCount(); ++index) {
         text += textTemplate.literalBefore(index);
-        const Entry* const entry = find(textTemplate.name(index));
-        if (entry != nullptr) {
-            text += entry->value;
+        const std::string* const value = find(textTemplate.name(index));
+        if (value != nullptr) {
+            text += *value;
         } else if (!dropUnknown) {
             ++result.unresolvedCount;
             removeLastPair(text);

@@ -43,10 +43,10 @@ private:
         std::string value;
     };
 
-    const Entry* find(std::string_view name) const;
+    const std::string* find(std::string_view name) const;
 
-    // In the order of the names' bytes. A set holds some twenty names and is copied for every
-    // event: one block of memory serves that better than a tree.
+    // In no particular order. A set holds some twenty names and is copied for every event: one
+    // block of memory serves that better than a tree.
     std::vector<Entry> entries;
 };
 

@@ -2,7 +2,6 @@
 
 #include "support/keelbase/keelbase.h"
 #include "ui/common/config/common_config.h"
-#include "ui/common/stat/exclusive_save.h"
 #include "ui/common/stat/service_endpoints.h"
 #include "ui/common/stat/service_request.h"
 #include "ui/common/sys/environment.h"
@@ -75,7 +74,7 @@ void getOrCreateUserLocation(const ProxySettings& proxy)
         const std::string country = countryFrom(answer);
         log(Keelbase::levelInformation, successLine, "getOrCreateUserLocation | ", country);
         common.setValue(locationKey, country);
-        saveExclusively(common);
+        common.save();
     } catch (...) {
         log(Keelbase::levelError, exceptionLine, "Failed to dlutil_getUserLocation()");
     }

@@ -10,6 +10,9 @@ namespace sys {
 // Reads the file as it is, in binary, into `content`. Returns 0; the error number of the open
 // call; openedWithoutStream; or readOrWriteFailed when the bytes cannot be read. `content` is
 // changed on success only.
+//
+// A file that somebody has open for writing, or for himself alone, is tried again for half a second
+// before it counts as unreadable; every other failure is returned at once.
 int readWholeFile(const std::wstring& path, std::string& content);
 
 // Creates or replaces the file with the bytes of `text` up to its first NUL; other processes may

@@ -1,6 +1,5 @@
-#include "ui/common/sys/file_io.h"
+#include "ui/common/sys/replaceable.h"
 
-#include "ui/common/sys/file_io_open.h"
 #include "ui/common/sys/result_codes.h"
 #include "ui/common/sys/win32_error.h"
 
@@ -26,9 +25,28 @@ struct StreamCloser
 };
 using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
+// _wfopen_s refuses a file that anybody has open for writing: other applications of the suite,
+// protection software and backups do, mostly for a moment.
+constexpr ULONGLONG patienceMs = 500;
+constexpr DWORD pauseMs = 10;
+
 int openStream(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
 {
     return _wfopen_s(stream, path, mode);
+}
+
+// Opens for reading, again and again while others have the file open. `systemError` receives the
+// system's number for the failure, 0 for none.
+int openPatiently(OpenFile open, std::FILE** stream, const wchar_t* path, DWORD& systemError)
+{
+    const ULONGLONG begun = GetTickCount64();
+    for (;;) {
+        const int error = open(stream, path, L"rb");
+        systemError = error != 0 ? _doserrno : ERROR_SUCCESS;
+        if (systemError != ERROR_SHARING_VIOLATION || GetTickCount64() - begun >= patienceMs)
+            return error;
+        Sleep(pauseMs);
+    }
 }
 
 // The stream's size in bytes; the stream stands at its start again.
@@ -48,8 +66,9 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
 {
     try {
         std::FILE* opened = nullptr;
-        if (const int error = open(&opened, path.c_str(), L"rb"); error != 0) {
-            win32::logFailure(category, source, __LINE__, "CreateFileW", GetLastError());
+        DWORD systemError = ERROR_SUCCESS;
+        if (const int error = openPatiently(open, &opened, path.c_str(), systemError); error != 0) {
+            win32::logFailure(category, source, __LINE__, "CreateFileW", systemError);
             return error;
         }
         const Stream stream(opened);
@@ -72,12 +91,14 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
     }
 }
 
-int readWholeFile(const std::wstring& path, std::string& content)
+namespace {
+
+int readFile(const std::wstring& path, std::string& content)
 {
     return readWholeFile(path, content, &openStream);
 }
 
-int writeWholeFile(const std::wstring& path, const std::string& text)
+int writeFile(const std::wstring& path, const std::string& text)
 {
     try {
         std::ofstream stream(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
@@ -96,9 +117,16 @@ int writeWholeFile(const std::wstring& path, const std::string& text)
     return readOrWriteFailed;
 }
 
-bool fileExists(const std::wstring& path)
+bool exists(const std::wstring& path)
 {
     return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+} // namespace
+
+FileFunctions systemFiles()
+{
+    return {&readFile, &writeFile, &exists};
 }
 
 } // namespace sys

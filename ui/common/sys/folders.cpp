@@ -1,8 +1,6 @@
 #include "ui/common/sys/folders.h"
 
 #include "ui/common/sys/known_folders.h"
-#include "ui/common/sys/text_convert.h"
-#include "ui/uninstall/src/app_catalogue.h"
 
 #include <filesystem>
 
@@ -13,33 +11,36 @@ namespace {
 // All applications of the suite share this folder under both brands.
 constexpr const wchar_t* suiteFolderName = L"Lumacraft";
 
-std::filesystem::path knownFolder(KnownFolder folder)
+std::wstring knownFolder(KnownFolder folder)
 {
     std::wstring path;
     knownFolderPath(folder, path);
     return path;
 }
 
-std::filesystem::path suiteSettingsFolder()
+std::wstring suiteSettingsFolder()
 {
-    return knownFolder(KnownFolder::roamingAppData) / suiteFolderName;
+    return joinedPath(knownFolder(KnownFolder::roamingAppData), suiteFolderName);
 }
 
 } // namespace
 
-std::wstring folderPath(FolderKind kind, unsigned appIndex, const std::wstring& localName)
+std::wstring folderPath(FolderKind kind, const std::wstring& name)
 {
     switch (kind) {
     case FolderKind::suiteSettings:
-        if (appIndex == noAppIndex)
-            return suiteSettingsFolder();
-        return suiteSettingsFolder() / fromUtf8(uninstall::idToString(static_cast<int>(appIndex)));
+        return name.empty() ? suiteSettingsFolder() : joinedPath(suiteSettingsFolder(), name);
     case FolderKind::logs:
-        return suiteSettingsFolder() / L"logs";
+        return joinedPath(suiteSettingsFolder(), L"logs");
     case FolderKind::local:
-        return knownFolder(KnownFolder::localAppData) / localName;
+        return joinedPath(knownFolder(KnownFolder::localAppData), name);
     }
     return L".";
+}
+
+std::wstring joinedPath(const std::wstring& folder, const std::wstring& name)
+{
+    return (std::filesystem::path(folder) / name).wstring();
 }
 
 } // namespace sys

@@ -31,7 +31,9 @@ CInterprocessCommunicationApp::~CInterprocessCommunicationApp()
 {
     // The channel's destructor waits for the server thread, which may in turn be waiting for this
     // thread to handle a message. Without the connection no new message comes in, and dropping one
-    // that is queued lets the server thread go on.
+    // that is queued lets the server thread go on. Its sender gets no answer, since what stands
+    // there is an older message's.
+    channel.requestStop();
     disconnect(this, &CInterprocessCommunicationApp::messageFromOtherProcessReceived, this,
                &CInterprocessCommunicationApp::onMessageReceived);
     QCoreApplication::removePostedEvents(this, QEvent::MetaCall);

@@ -2,8 +2,8 @@
 
 #include "ui/common/sys/interprocess_communication_win.h"
 
+#include "ui/common/sys/log_source.h"
 #include "ui/common/sys/pipe_frame.h"
-#include "ui/common/sys/win32_error.h"
 
 namespace {
 
@@ -11,10 +11,7 @@ constexpr DWORD connectWait = 15000; // ms
 constexpr int attempts = 7;
 constexpr DWORD pauseBetweenAttempts = 300; // ms
 
-void logFailure(int line, const char* api, DWORD error)
-{
-    win32::logFailure("IPC", "ui/common/sys/interprocess_communication_client", line, api, error);
-}
+constexpr win32::LogSource logSource("IPC", "ui/common/sys/interprocess_communication_client");
 
 } // namespace
 
@@ -30,7 +27,7 @@ int CInterprocessCommunicationWin::connectToServer()
     wchar_t computer[16] = {};
     DWORD computerSize = 16;
     if (!GetComputerNameW(computer, &computerSize))
-        logFailure(__LINE__, "GetComputerNameW", GetLastError());
+        logSource.failure(__LINE__, "GetComputerNameW", GetLastError());
     // Through the computer's name the system's file sharing opens the pipe, which gives a handle
     // in message-read mode, as TransactNamedPipe needs it.
     const std::wstring path = std::wstring(L"\\\\") + computer + L"\\pipe\\" + getPipeName();
@@ -39,7 +36,7 @@ int CInterprocessCommunicationWin::connectToServer()
                     nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (opened == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
-        logFailure(__LINE__, "CreateFileW", error);
+        logSource.failure(__LINE__, "CreateFileW", error);
         return static_cast<int>(error);
     }
     pipe.reset(opened);
@@ -58,7 +55,7 @@ int CInterprocessCommunicationWin::sendMessage(const std::string& text)
         return ERROR_BUFFER_OVERFLOW;
 
     DWORD error = 0;
-    for (int attempt = 0; attempt < attempts && !stopRequested(); ++attempt) {
+    for (int attempt = 1; !stopRequested(); ++attempt) {
         DWORD received = 0;
         if (TransactNamedPipe(pipe.get(), sendBuffer.get(), static_cast<DWORD>(size),
                               receiveBuffer.get(), static_cast<DWORD>(sys::largestFrame), &received,
@@ -68,8 +65,9 @@ int CInterprocessCommunicationWin::sendMessage(const std::string& text)
             break;
         }
         error = GetLastError();
-        logFailure(__LINE__, "TransactNamedPipe", error);
-        if (WaitForSingleObject(stopEvent.get(), pauseBetweenAttempts) == WAIT_OBJECT_0)
+        logSource.failure(__LINE__, "TransactNamedPipe", error);
+        if (attempt == attempts ||
+            WaitForSingleObject(stopEvent.get(), pauseBetweenAttempts) == WAIT_OBJECT_0)
             break;
     }
     return static_cast<int>(error);

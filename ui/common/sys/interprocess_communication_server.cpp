@@ -2,27 +2,41 @@
 
 #include "ui/common/sys/interprocess_communication_win.h"
 
+#include "ui/common/sys/log_source.h"
 #include "ui/common/sys/pipe_frame.h"
-#include "ui/common/sys/win32_error.h"
+
+#include <exception>
 
 namespace {
 
 constexpr DWORD defaultWait = 15000; // ms, what WaitNamedPipe uses for NMPWAIT_USE_DEFAULT_WAIT
 
-void logFailure(int line, const char* api, DWORD error)
+constexpr win32::LogSource logSource("IPC", "ui/common/sys/interprocess_communication_server");
+
+void logGivenUp(const char* reason) noexcept
 {
-    win32::logFailure("IPC", "ui/common/sys/interprocess_communication_server", line, api, error);
+    logSource.write(Keelbase::levelError, __LINE__, [reason](std::ostream& message) {
+        message << "An exchange was given up: " << reason;
+    });
 }
 
 } // namespace
 
 int CInterprocessCommunicationWin::createServer()
 {
+    // Settled first: what follows would take the pipe, and a requested stop, away from the thread
+    // that is serving.
+    if (serverThread.isRunning())
+        return ERROR_BUSY;
     prepare();
-    const int error = openPipe();
-    if (error != 0)
-        return error;
-    return serverThread.start();
+    const int opened = openPipe();
+    if (opened != 0)
+        return opened;
+    const int started = serverThread.start();
+    // Clients of a pipe that nobody serves would wait for as long as this process lives.
+    if (started != 0)
+        pipe.reset();
+    return started;
 }
 
 int CInterprocessCommunicationWin::openPipe()
@@ -46,7 +60,7 @@ int CInterprocessCommunicationWin::openPipe()
                          static_cast<DWORD>(sys::largestFrame), defaultWait, &attributes);
     if (created == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
-        logFailure(__LINE__, "CreateNamedPipeW", error);
+        logSource.failure(__LINE__, "CreateNamedPipeW", error);
         return static_cast<int>(error);
     }
     pipe.reset(created);
@@ -68,12 +82,20 @@ void CInterprocessCommunicationWin::run(int)
                 // happens to a pipe that was opened a moment ago: serving ends for this run, and
                 // later copies find the pipe busy and end all the same. That first client must
                 // not wait for an answer for as long as this process lives, so it is let go.
-                logFailure(__LINE__, "ConnectNamedPipe", error);
+                logSource.failure(__LINE__, "ConnectNamedPipe", error);
                 DisconnectNamedPipe(pipe.get());
                 return;
             }
         }
-        goOn = serveOneClient(text);
+        // The receiver is not ours, and memory may run out: that costs this client its answer, and
+        // no more.
+        try {
+            goOn = serveOneClient(text);
+        } catch (const std::exception& failure) {
+            logGivenUp(failure.what());
+        } catch (...) {
+            logGivenUp("exception of an unknown type");
+        }
         DisconnectNamedPipe(pipe.get());
     } while (goOn && !stopRequested());
 }
@@ -89,7 +111,7 @@ bool CInterprocessCommunicationWin::serveOneClient(std::string& text)
                   &overlapped)) {
         const DWORD error = GetLastError();
         if (error != ERROR_IO_PENDING && error != ERROR_MORE_DATA) {
-            logFailure(__LINE__, "ReadFile", error);
+            logSource.failure(__LINE__, "ReadFile", error);
             return true;
         }
     }
@@ -98,7 +120,7 @@ bool CInterprocessCommunicationWin::serveOneClient(std::string& text)
 
     DWORD received = 0;
     if (!GetOverlappedResult(pipe.get(), &overlapped, &received, FALSE)) {
-        logFailure(__LINE__, "GetOverlappedResult", GetLastError());
+        logSource.failure(__LINE__, "GetOverlappedResult", GetLastError());
         return true;
     }
     deliver(received, text);
@@ -113,6 +135,10 @@ void CInterprocessCommunicationWin::deliver(std::uint32_t received, std::string&
         text.assign(request->text);
         receiver->onMessageFromOtherProcess(request->pid, text);
     }
+    // Who closes the channel may have dropped the delivery, and the answer would be an older
+    // message's; nor may closing have to wait until a client reads.
+    if (stopRequested())
+        return;
     // A request that was too short to be delivered gets what the receiver answered last.
     writeAnswer(receiver->answerText);
 }
@@ -126,7 +152,7 @@ void CInterprocessCommunicationWin::writeAnswer(const std::string& answer)
         return;
     DWORD written = 0;
     if (!WriteFile(pipe.get(), sendBuffer.get(), static_cast<DWORD>(size), &written, nullptr))
-        logFailure(__LINE__, "WriteFile", GetLastError());
+        logSource.failure(__LINE__, "WriteFile", GetLastError());
 }
 
 CInterprocessCommunicationWin::Wake CInterprocessCommunicationWin::waitForIo() const
@@ -138,7 +164,7 @@ CInterprocessCommunicationWin::Wake CInterprocessCommunicationWin::waitForIo() c
     case WAIT_OBJECT_0 + 1:
         return Wake::io;
     default:
-        logFailure(__LINE__, "WaitForMultipleObjects", GetLastError());
+        logSource.failure(__LINE__, "WaitForMultipleObjects", GetLastError());
         return Wake::failure;
     }
 }

@@ -1,7 +1,7 @@
 #include "ui/common/sys/interprocess_communication_win.h"
 
+#include "ui/common/sys/log_source.h"
 #include "ui/common/sys/pipe_frame.h"
-#include "ui/common/sys/win32_error.h"
 
 #include <cctype>
 #include <mutex>
@@ -11,10 +11,7 @@ namespace {
 // The program's role in the suite; copies of one role meet under it.
 constexpr const char* roleName = "Uninstall";
 
-void logFailure(int line, const char* api, DWORD error)
-{
-    win32::logFailure("IPC", "ui/common/sys/interprocess_communication_win", line, api, error);
-}
+constexpr win32::LogSource logSource("IPC", "ui/common/sys/interprocess_communication_win");
 
 // All names here are ASCII.
 std::wstring widen(const std::string& text)
@@ -51,10 +48,10 @@ void CInterprocessCommunicationWin::claimMutex()
         static_cast<void>(mutex.release());
         mutex.reset(OpenMutexW(MUTEX_ALL_ACCESS, TRUE, name.c_str()));
         if (!mutex)
-            logFailure(__LINE__, "OpenMutexW", GetLastError());
+            logSource.failure(__LINE__, "OpenMutexW", GetLastError());
         firstInstance = false;
     } else if (!mutex) {
-        logFailure(__LINE__, "CreateMutexW", error);
+        logSource.failure(__LINE__, "CreateMutexW", error);
     }
     setStop(false);
     ResetEvent(stopEvent.get());

@@ -19,7 +19,8 @@ public:
     virtual ~IMessageFromOtherProcess() = default;
 
     // Called on the channel's server thread, one message at a time. When it returns, the channel
-    // reads `answerText` and sends it back, unless it is empty.
+    // reads `answerText` and sends it back, unless it is empty or the channel is being closed. When
+    // it throws, the sender gets no answer, and the next client is served.
     virtual void onMessageFromOtherProcess(unsigned long pid, const std::string& text) = 0;
 
     // Read by the server thread right after each call, and also after a request that was too short
@@ -53,7 +54,8 @@ public:
     std::wstring getPipeName();
 
     // Opens the pipe's server end to any account and starts the server thread. Besides the error
-    // of CreateNamedPipeW: 87, 170 and 10 as win32::CBaseThread::start().
+    // of CreateNamedPipeW: 87, 170 and 10 as win32::CBaseThread::start(). With 170 the channel
+    // serves on, untouched; with the other two no pipe stays open.
     int createServer();
 
     // Opens the client end. ERROR_PIPE_BUSY (231) while the server handles another client,
@@ -61,7 +63,7 @@ public:
     int connectToServer();
 
     // Sends one text and waits, without limit, for the answer, which getAnswer() then returns.
-    // A failed transaction is tried again, seven times in all, 300 ms apart.
+    // A failed transaction is tried again, seven times in all, with pauses of 300 ms between.
     // The first instance sends nothing and returns 0. Returns ERROR_BAD_ENVIRONMENT (10) without
     // an open pipe and ERROR_BUFFER_OVERFLOW (111) for more than 65526 bytes.
     int sendMessage(const std::string& text);
@@ -76,8 +78,8 @@ public:
     // the caller must not be the one whom that delivery waits for. Safe on a client, and twice.
     void close();
 
-    // The first step of close(), for any thread: the server thread ends, and a sendMessage that
-    // pauses before its next attempt returns at once.
+    // The first step of close(), for any thread: the server thread ends without writing another
+    // answer, and a sendMessage that pauses before its next attempt returns at once.
     void requestStop();
 
     // True until claimMutex() finds another copy. The owner sets it when it takes over.

@@ -1,12 +1,24 @@
 #include "ui/common/sys/thread.h"
 
-#include "ui/common/sys/win32_error.h"
+#include "ui/common/sys/log_source.h"
+#include "ui/common/sys/thread_start.h"
 
 #include <cstdint>
 
-#include <process.h>
-
 namespace win32 {
+
+namespace {
+
+constexpr LogSource logSource("IPC", "ui/common/sys/thread");
+
+BeginThread beginThread = &_beginthreadex;
+
+} // namespace
+
+void setBeginThread(BeginThread begin)
+{
+    beginThread = begin ? begin : &_beginthreadex;
+}
 
 template <int argument>
 CBaseThread<argument>::CBaseThread()
@@ -26,20 +38,25 @@ CBaseThread<argument>::~CBaseThread()
 }
 
 template <int argument>
+bool CBaseThread<argument>::isRunning() const
+{
+    DWORD exitCode = 0;
+    return thread && GetExitCodeThread(thread.get(), &exitCode) && exitCode == STILL_ACTIVE;
+}
+
+template <int argument>
 int CBaseThread<argument>::start()
 {
     if (!function)
         return ERROR_INVALID_PARAMETER;
-    DWORD exitCode = 0;
-    if (thread && GetExitCodeThread(thread.get(), &exitCode) && exitCode == STILL_ACTIVE)
+    if (isRunning())
         return ERROR_BUSY;
     thread.reset();
     ResetEvent(startedEvent.get());
     ResetEvent(finishedEvent.get());
-    const std::uintptr_t started =
-        _beginthreadex(nullptr, 0, &CBaseThread::entry, this, 0, nullptr);
+    const std::uintptr_t started = beginThread(nullptr, 0, &CBaseThread::entry, this, 0, nullptr);
     if (started == 0) {
-        logFailure("IPC", "ui/common/sys/thread", __LINE__, "_beginthreadex", GetLastError());
+        logSource.failure(__LINE__, "_beginthreadex", GetLastError());
         return ERROR_BAD_ENVIRONMENT;
     }
     thread.reset(reinterpret_cast<HANDLE>(started));

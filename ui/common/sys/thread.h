@@ -2,7 +2,7 @@
 
 // Threads and locks on the Win32 primitives, without C++ exceptions crossing a thread's start.
 
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 #include <windows.h>
 
@@ -34,6 +34,9 @@ public:
 
     // Not owned; null is allowed and makes start() fail.
     void setFunction(CThreadFunction* body) { function = body; }
+
+    // True from start() to the end of the thread.
+    bool isRunning() const;
 
     // Starts the thread and waits, without limit, until it runs. Returns 0,
     // ERROR_INVALID_PARAMETER (87) without a function object, ERROR_BUSY (170) while the previous

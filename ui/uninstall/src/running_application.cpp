@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "ui/common/sys/text_convert.h"
-#include "ui/common/sys/unique_handle.h"
+#include "support/win32/unique_handle.h"
 
 namespace uninstall {
 

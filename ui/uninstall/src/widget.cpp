@@ -183,10 +183,8 @@ void Widget::toggleItem(QListWidgetItem*)
 {
     if (!run.choiceIsOpen())
         return;
-    controlsLagBehind = false;
     // Removing the suite removes everything, so its row checks all the others.
     if (uninstall::suiteRowChecked(listRows())) {
-        const QSignalBlocker blocker(ui->listWidget);
         for (int row = 0; row < ui->listWidget->count(); ++row)
             ui->listWidget->item(row)->setCheckState(Qt::Checked);
     }
@@ -202,6 +200,7 @@ void Widget::toggleItem(QListWidgetItem*)
         ui->btnUninstall->setEnabled(false);
         ui->cbDeleteSettings->setEnabled(false);
     }
+    controlsLagBehind = false;
 }
 
 std::vector<uninstall::ListRow> Widget::listRows() const

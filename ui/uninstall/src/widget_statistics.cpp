@@ -3,12 +3,12 @@
 
 #include "ui/uninstall/src/widget.h"
 
-#include "ui/common/stat/stat_startup.h"
 #include "ui/uninstall/src/responsive_wait.h"
+#include "ui/uninstall/src/stat_startup.h"
 
 void Widget::startStatistics(int appId)
 {
     // Only tells apart events of the suite itself, and the suite is never surveyed.
     constexpr bool suiteFlag = false;
-    stats::startStatistics(appId, suiteFlag, uninstall::runAside);
+    uninstall::startStatistics(appId, suiteFlag, uninstall::runAside);
 }

@@ -1,7 +1,6 @@
-#include "bench/host/seams.h"
+#include "bench/host/fake_service.h"
 
 #include "support/netpull/netpull.h"
-#include "ui/common/config/common_config.h"
 
 #include <atomic>
 
@@ -16,10 +15,15 @@ namespace bench {
 Service::Service()
 {
     currentService = this;
+    netpull::setFetch([](const netpull::Request&) {
+        currentService.load()->answer();
+        return netpull::Response{0, 200, {}};
+    });
 }
 
 Service::~Service()
 {
+    netpull::setFetch(nullptr);
     currentService = nullptr;
 }
 
@@ -51,25 +55,3 @@ void Service::answer()
 }
 
 } // namespace bench
-
-namespace netpull {
-
-void init() {}
-
-Response fetch(const Request&)
-{
-    currentService.load()->answer();
-    return {0, 200, {}};
-}
-
-} // namespace netpull
-
-namespace fs {
-
-CConfig& commonConfig()
-{
-    static CConfig config;
-    return config;
-}
-
-} // namespace fs

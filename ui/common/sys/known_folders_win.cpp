@@ -1,7 +1,7 @@
 #include "ui/common/sys/known_folders.h"
 
-#include "ui/common/sys/known_folders_lookup.h"
-#include "ui/common/sys/unique_handle.h"
+#include "ui/common/sys/replaceable.h"
+#include "support/win32/unique_handle.h"
 
 #include <iostream>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "ui/common/stat/stat_startup.h"
+#include "ui/uninstall/src/stat_startup.h"
 
 #include "ui/common/config/common_config.h"
 #include "ui/common/stat/app_event_stat.h"
@@ -7,15 +7,16 @@
 #include "ui/common/stat/proxy_settings.h"
 #include "ui/common/stat/user_location.h"
 #include "ui/uninstall/src/app_catalogue.h"
+#include "ui/uninstall/src/application_config.h"
 
 #include <memory>
 
-namespace stats {
+namespace uninstall {
 
 std::string applicationCode(int applicationId, bool suiteFlag)
 {
-    std::string code = uninstall::shortCode(applicationId);
-    if (applicationId != uninstall::suiteId)
+    std::string code = shortCode(applicationId);
+    if (applicationId != suiteId)
         return code;
     return code + (suiteFlag ? "_qx" : "_a");
 }
@@ -23,24 +24,26 @@ std::string applicationCode(int applicationId, bool suiteFlag)
 void startStatistics(int applicationId, bool suiteFlag, const BlockingRunner& runBlocking)
 {
     fs::CConfig& common = fs::commonConfig();
-    const ProxySettings proxy = readProxySettings();
-    runBlocking([&proxy] { getUserCountry(proxy); });
-    const std::string guid = getOrCreateClientGuid(common);
-
+    const stats::ProxySettings proxy = stats::readProxySettings();
+    std::string guid;
     fs::CConfig application;
-    application.setFileName(fs::applicationConfigPath(applicationId));
-    application.load();
+    runBlocking([&] {
+        stats::getUserCountry(proxy);
+        guid = stats::getOrCreateClientGuid(common);
+        application.setFileName(applicationConfigPath(applicationId));
+        application.load();
+    });
 
-    const auto params = std::make_shared<TemplateParams>();
+    const auto params = std::make_shared<stats::TemplateParams>();
     params->set("GUID", guid, true);
     params->set("COUNTRY_ID", common.getValue("Location", ""), true);
     params->set("APPID", applicationCode(applicationId, suiteFlag), true);
     params->set("VER", application.getValue("Version", "0.0.0.0"), true);
-    fillInstallParams(*params, application);
+    stats::fillInstallParams(*params, application);
 
-    const int eventNumber = decimalFromText(application.getValue("EventNumber", "0"));
+    const int eventNumber = stats::decimalFromText(application.getValue("EventNumber", "0"));
     const bool enabled = common.getBool("EventStatEnabled", false);
-    AppStatHelper::instance().init(params, enabled, eventNumber);
+    stats::AppStatHelper::instance().init(params, enabled, eventNumber);
 }
 
-} // namespace stats
+} // namespace uninstall

@@ -1,7 +1,7 @@
 // The running application of the sample suite. Installed as <IdString>.exe it holds the mutex that
 // tells the suite that the application runs, says "ready" on its standard output, and stays until
 // it is ended from outside.
-#include "tools/sample_suite/record_file.h"
+#include "tests/sample_suite/record_file.h"
 
 #include <cstdio>
 #include <string>

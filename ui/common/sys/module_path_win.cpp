@@ -1,6 +1,6 @@
 #include "ui/common/sys/module_path.h"
 
-#include "ui/common/sys/module_path_lookup.h"
+#include "ui/common/sys/replaceable.h"
 
 #include <windows.h>
 

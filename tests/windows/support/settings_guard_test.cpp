@@ -1,0 +1,91 @@
+// What a test program does without permission to change the user's settings.
+
+#include "tests/windows/support/settings_guard.h"
+
+#include "tests/windows/support/child_process.h"
+#include "tests/windows/support/scoped_variable.h"
+
+#include <gtest/gtest.h>
+
+using namespace windows_tests;
+
+namespace {
+
+constexpr const wchar_t* suiteKey = L"Software\\Corvane";
+
+// A value where tests clear everything.
+class RegistryMark
+{
+public:
+    RegistryMark() { RegSetKeyValueW(HKEY_CURRENT_USER, suiteKey, name, REG_SZ, L"x", 4); }
+    ~RegistryMark() { RegDeleteKeyValueW(HKEY_CURRENT_USER, suiteKey, name); }
+    bool isThere() const
+    {
+        return RegGetValueW(HKEY_CURRENT_USER, suiteKey, name, RRF_RT_REG_SZ, nullptr, nullptr,
+                            nullptr) == ERROR_SUCCESS;
+    }
+
+private:
+    static constexpr const wchar_t* name = L"SettingsGuardTest";
+};
+
+using Arguments = std::vector<std::wstring>;
+
+ChildProcess started(const std::wstring& program, const Arguments& arguments)
+{
+    ChildOptions options;
+    options.captureOutput = true;
+    options.captureErrors = true;
+    return ChildProcess(program, arguments, options);
+}
+
+void expectRefused(const std::wstring& program, const Arguments& arguments)
+{
+    ChildProcess test = started(program, arguments);
+    EXPECT_EQ(test.waitForExit(), static_cast<DWORD>(refusedExitCode));
+    const std::string output = test.output();
+    EXPECT_EQ(output.rfind("Not run: ", 0), 0u) << output;
+    EXPECT_NE(output.find("TESSERA_TESTS_MAY_CHANGE_SETTINGS=1"), std::string::npos) << output;
+    EXPECT_NE(output.find("HKCU\\Software\\Corvane"), std::string::npos) << output;
+}
+
+// This program, running what follows it; and one on Qt Test that clears the suite's key.
+const std::wstring googleTest = siblingProgram(L"windows_settings_guard");
+const Arguments onlyAllowed = {L"--gtest_filter=SettingsGuard.AllowedProgramRuns"};
+const std::wstring qtTest = siblingProgram(L"qt_tests");
+const Arguments listFunctions = {L"TranslatorsTest", L"-functions"};
+
+TEST(SettingsGuard, AllowedProgramRuns)
+{
+    SUCCEED();
+}
+
+TEST(SettingsGuard, ProgramsRunWithTheVariableAndSayNothing)
+{
+    for (const auto& [program, arguments] :
+         {std::pair(googleTest, onlyAllowed), std::pair(qtTest, listFunctions)}) {
+        ChildProcess test = started(program, arguments);
+        EXPECT_EQ(test.waitForExit(), 0u);
+        EXPECT_EQ(test.output().find("Not run"), std::string::npos);
+    }
+}
+
+TEST(SettingsGuard, WithoutTheVariableProgramsRefuseAndTouchNothing)
+{
+    const ScopedVariable variable(settingsVariable, nullptr);
+    const RegistryMark mark;
+    ASSERT_TRUE(mark.isThere());
+    expectRefused(googleTest, onlyAllowed);
+    expectRefused(qtTest, {L"TranslatorsTest", L"-silent"});
+    EXPECT_TRUE(mark.isThere());
+}
+
+TEST(SettingsGuard, OnlyOneAllows)
+{
+    for (const wchar_t* value : {L"0", L"yes", L"11", L"1 ", L"100000000"}) {
+        const ScopedVariable variable(settingsVariable, value);
+        expectRefused(googleTest, onlyAllowed);
+    }
+}
+
+} // namespace
