@@ -15,7 +15,8 @@ endfunction()
 # tessera_add_windows_entry(NAME COMMAND program arguments... [ENVIRONMENT variable=value...]
 #                           [TIMEOUT seconds] [COST seconds])
 #   One CTest entry for a Windows test program, with a Wine prefix of its own, so that registry,
-#   mutexes and pipes never meet. CTest runs it through the cross-compiling emulator.
+#   mutexes and pipes never meet. CTest runs it through the cross-compiling emulator. Without
+#   ENVIRONMENT the test also goes into the kit for a real Windows (tools/windows_kit).
 function(tessera_add_windows_entry name)
     cmake_parse_arguments(ARG "" "TIMEOUT;COST" "COMMAND;ENVIRONMENT" ${ARGN})
     if(NOT ARG_TIMEOUT)
@@ -25,6 +26,13 @@ function(tessera_add_windows_entry name)
         set(ARG_COST 5)
     endif()
     add_test(NAME ${name} COMMAND ${ARG_COMMAND})
+    # What needs a variable needs something of Wine's.
+    if(NOT ARG_ENVIRONMENT)
+        list(POP_FRONT ARG_COMMAND program)
+        list(JOIN ARG_COMMAND " " arguments)
+        set_property(GLOBAL APPEND PROPERTY TESSERA_KIT_TESTS
+            "${name} ${ARG_TIMEOUT} $<TARGET_FILE_NAME:${program}> ${arguments}")
+    endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
         COST ${ARG_COST}

@@ -108,7 +108,7 @@ bool removeFolder(const std::filesystem::path& folder)
     return false;
 }
 
-bool rename(const std::filesystem::path& from, const std::filesystem::path& to)
+bool moveFolder(const std::filesystem::path& from, const std::filesystem::path& to)
 {
     for (int attempt = 0; attempt < attempts; ++attempt) {
         if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH))
@@ -119,15 +119,15 @@ bool rename(const std::filesystem::path& from, const std::filesystem::path& to)
     return false;
 }
 
-bool exists(const std::filesystem::path& folder)
+bool isThere(const std::filesystem::path& folder)
 {
     return GetFileAttributesW(folder.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
 bool restoreFolder()
 {
-    if (exists(asideFolder()))
-        return removeFolder(settingsFolder()) && rename(asideFolder(), settingsFolder());
+    if (isThere(asideFolder()))
+        return removeFolder(settingsFolder()) && moveFolder(asideFolder(), settingsFolder());
     // There was none. When there was one, it is back already.
     return flag(hadFolderValue) || removeFolder(settingsFolder());
 }
@@ -141,11 +141,10 @@ bool restoreKey()
 
 bool putSettingsAside()
 {
-    if (keyExists(settingsKey) ? !copyTree(settingsKey, copyKey) : !setFlag(completeValue, false))
-        return deleteTree(asideKey) && false;
-    const bool hasFolder = exists(settingsFolder());
+    const bool hasFolder = isThere(settingsFolder());
     if (!setFlag(hadFolderValue, hasFolder) ||
-        (hasFolder && !rename(settingsFolder(), asideFolder())) || !setFlag(completeValue, true)) {
+        (keyExists(settingsKey) && !copyTree(settingsKey, copyKey)) ||
+        (hasFolder && !moveFolder(settingsFolder(), asideFolder())) || !setFlag(completeValue, true)) {
         restoreSettings();
         return false;
     }
@@ -164,7 +163,7 @@ bool restoreSettings()
     if (!keyExists(asideKey))
         return true;
     const bool complete = flag(completeValue);
-    if (!complete && exists(asideFolder()) && !rename(asideFolder(), settingsFolder()))
+    if (!complete && isThere(asideFolder()) && !moveFolder(asideFolder(), settingsFolder()))
         return false;
     if (complete) {
         const bool keyIsBack = restoreKey();
