@@ -94,6 +94,18 @@ int createLogger(LoggerHandle& logger) noexcept
     return 0;
 }
 
+LoggerHandle processLogger() noexcept
+{
+    LoggerHandle logger;
+    createLogger(logger);
+    return logger;
+}
+
+bool isLogged(int level) noexcept
+{
+    return processLogger()->level() >= level;
+}
+
 void setLogger(LoggerHandle logger)
 {
     Library& shared = library();

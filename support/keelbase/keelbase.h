@@ -76,6 +76,8 @@ public:
     CLogMsgMultibyte(const CLogMsgMultibyte&) = delete;
     CLogMsgMultibyte& operator=(const CLogMsgMultibyte&) = delete;
 
+    std::ostream& text() { return *this; }
+
 private:
     LoggerHandle logger;
     int level;
@@ -84,15 +86,37 @@ private:
     int sourceLine;
 };
 
-// Writes one message, composed by `compose(std::ostream&)` only when the level asks for it.
-template <typename Compose>
-void log(int level, const char* category, const char* sourceFile, int sourceLine, Compose&& compose)
+// Where the messages of one source file come from: a constant at the file's top. Both texts are
+// kept by pointer: literals.
+struct LogSource
 {
-    LoggerHandle logger;
-    if (createLogger(logger) != 0 || logger->level() < level)
-        return;
-    CLogMsgMultibyte message(std::move(logger), level, category, sourceFile, sourceLine);
-    std::forward<Compose>(compose)(static_cast<std::ostream&>(message));
-}
+    const char* category;
+    const char* file;
+};
+
+// Whether the process's logger writes messages of this level.
+bool isLogged(int level) noexcept;
+
+// The parts of KEELBASE_LOG.
+LoggerHandle processLogger() noexcept;
+struct LogStatement
+{
+    void operator&(const std::ostream&) const {}
+};
 
 } // namespace Keelbase
+
+// One message as a statement:
+//
+//     KEELBASE_LOG(logSource, Keelbase::levelInformation) << "text " << value;
+//
+// What stands behind the macro is evaluated only when the level is logged. The second form names
+// the line of the source, for messages that are known by it.
+#define KEELBASE_LOG(source, messageLevel) KEELBASE_LOG_AT(source, messageLevel, __LINE__)
+#define KEELBASE_LOG_AT(source, messageLevel, sourceLine)                                          \
+    !Keelbase::isLogged(messageLevel)                                                              \
+        ? static_cast<void>(0)                                                                     \
+        : Keelbase::LogStatement() &                                                               \
+              Keelbase::CLogMsgMultibyte(Keelbase::processLogger(), messageLevel,                  \
+                                         (source).category, (source).file, sourceLine)             \
+                  .text()

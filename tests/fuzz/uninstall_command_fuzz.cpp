@@ -6,6 +6,7 @@
 #include "tests/fuzz/fuzz_support.h"
 #include "ui/uninstall/src/app_catalogue.h"
 #include "ui/uninstall/src/command_line.h"
+#include "ui/uninstall/src/registry_names.h"
 #include "ui/uninstall/src/uninstall_command.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include <cwchar>
 #include <string>
 
-#include "tools/wine/import_slot.h"
+#include "tests/support/import_slot.h"
 
 namespace {
 

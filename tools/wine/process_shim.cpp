@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "tools/wine/import_slot.h"
+#include "tests/support/import_slot.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include "support/keelbase/keelbase.h"
 #include "ui/common/config/common_config.h"
 #include "ui/common/stat/app_event_stat.h"
-#include "ui/common/stat/stat_startup.h"
+#include "ui/uninstall/src/stat_startup.h"
 #include "ui/common/stat/user_location.h"
 
 #include <chrono>
@@ -34,7 +34,7 @@ long long spent(Clock::time_point begun)
 void start(int applicationId)
 {
     const auto begun = Clock::now();
-    stats::startStatistics(applicationId, false, [](const std::function<void()>& call) { call(); });
+    uninstall::startStatistics(applicationId, false, [](const std::function<void()>& call) { call(); });
     std::cout << spent<std::chrono::milliseconds>(begun);
 }
 

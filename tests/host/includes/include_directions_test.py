@@ -62,7 +62,7 @@ class IncludeDirections(unittest.TestCase):
             "ui/common/sys/folders.cpp": "ui/uninstall/src/app_catalogue.h",
             "ui/common/stat/guid.cpp": "ui/uninstall/src/app_catalogue.h",
             "ui/uninstall/src/widget.cpp": "tests/support/lines.h",
-            "tests/host/a_test.cpp": "tools/wine/import_slot.h",
+            "tests/host/a_test.cpp": "tools/wine/launcher.h",
             "ui/common/config/config.cpp": "somewhere/else.h",
         }
         for path, included in planted.items():

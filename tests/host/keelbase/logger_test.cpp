@@ -12,6 +12,12 @@
 using Keelbase::CLogMsgMultibyte;
 using testing_support::RecordedLog;
 
+namespace {
+
+constexpr Keelbase::LogSource source{"c", "s"};
+
+} // namespace
+
 TEST(Logger, CreateLoggerSucceedsWithoutAPlaceForALog)
 {
     Keelbase::setLogger(nullptr);
@@ -71,10 +77,11 @@ TEST(Logger, LogComposesOnlyWhatTheLevelAsksFor)
         const RecordedLog log(level);
         for (const int messageLevel : {3, 6, 7}) {
             bool composed = false;
-            Keelbase::log(messageLevel, "c", "s", 1, [&](std::ostream& text) {
+            const auto text = [&] {
                 composed = true;
-                text << "message";
-            });
+                return "message";
+            };
+            KEELBASE_LOG(source, messageLevel) << text();
             EXPECT_EQ(composed, messageLevel <= level) << messageLevel << " at " << level;
         }
         const std::size_t expected = level == 7 ? 3U : level == 6 ? 2U : level == 3 ? 1U : 0U;
@@ -98,7 +105,7 @@ TEST(Logger, ManyThreadsMayLogAtOnce)
     for (int number = 0; number < 8; ++number) {
         threads.emplace_back([] {
             for (int count = 0; count < 200; ++count)
-                Keelbase::log(6, "c", "s", count, [](std::ostream& text) { text << "message"; });
+                KEELBASE_LOG_AT(source, 6, count) << "message";
         });
     }
     for (std::thread& thread : threads)

@@ -29,7 +29,7 @@ public:
         return false;
     };
     std::vector<RecordedRow> rows;
-    std::vector<std::string> steps;
+    mutable std::vector<std::string> steps;
 
     std::vector<std::string> run()
     {
@@ -48,11 +48,11 @@ public:
         return found;
     }
 
-    bool isChecked(std::size_t row) override { return rows.at(row).checked; }
-    std::string command(std::size_t row) override { return rows.at(row).command; }
+    bool isChecked(std::size_t row) const override { return rows.at(row).checked; }
+    std::string command(std::size_t row) const override { return rows.at(row).command; }
     void setCurrentAppId(int id) override { steps.push_back("id " + std::to_string(id)); }
     void openExitSurvey(int id) override { steps.push_back("survey " + std::to_string(id)); }
-    bool isRunning(const std::string& idString) override
+    bool isRunning(const std::string& idString) const override
     {
         steps.push_back("probe [" + idString + "]");
         return running.count(idString) != 0;
@@ -63,12 +63,11 @@ public:
         if (cancels(idString))
             isCancelled = true;
     }
-    bool cancelled() override { return isCancelled; }
-    void uninstall(int remaining, int index, const std::vector<std::string>& commandParts,
-                   bool full) override
+    bool cancelled() const override { return isCancelled; }
+    void uninstall(int remaining, const std::vector<std::string>& commandParts, bool full) override
     {
-        std::string step = "uninstall " + std::to_string(index) + " of " +
-                           std::to_string(remaining) + (full ? " full" : " selective");
+        std::string step = "uninstall " + std::to_string(remaining) + " remaining, " +
+                           (full ? "full" : "selective");
         for (const std::string& part : commandParts)
             step += " [" + part + "]";
         steps.push_back(step);
@@ -85,10 +84,10 @@ inline std::string commandOf(const std::string& idString)
     return "C:\\" + idString + ".exe /log=\"C:\\logs\\" + idString + "_uninstall.log\"";
 }
 
-inline std::string uninstallStep(int index, int remaining, bool full, const std::string& idString)
+inline std::string uninstallStep(int remaining, bool full, const std::string& idString)
 {
-    return "uninstall " + std::to_string(index) + " of " + std::to_string(remaining) +
-           (full ? " full" : " selective") + " [C:\\" + idString + ".exe] [=\"C:\\logs\\" +
+    return "uninstall " + std::to_string(remaining) + " remaining, " +
+           (full ? "full" : "selective") + " [C:\\" + idString + ".exe] [=\"C:\\logs\\" +
            idString + "_uninstall.log\"]";
 }
 

@@ -35,7 +35,7 @@ TEST(CancelledRun, CancelInTheMiddleKeepsWhatWasDone)
     run.cancels = [](const std::string& idString) { return idString == "TrackRipper"; };
     run.run();
     EXPECT_THAT(run.only({"warning", "uninstall", "remove"}),
-                ElementsAre("warning [ClipTrimmer]", uninstallStep(0, 4, false, "ClipTrimmer"),
+                ElementsAre("warning [ClipTrimmer]", uninstallStep(4, false, "ClipTrimmer"),
                             "remove 0", "warning [TrackRipper]"));
     EXPECT_EQ(run.only({"probe"}).size(), 2U);
 }
@@ -69,7 +69,7 @@ TEST(CancelledRun, RowsUncheckedByTheCancelAreSkipped)
         return true;
     };
     EXPECT_THAT(run.run(),
-                ElementsAre("id 2", "probe [ClipTrimmer]", uninstallStep(0, 4, true, "ClipTrimmer"),
+                ElementsAre("id 2", "probe [ClipTrimmer]", uninstallStep(4, true, "ClipTrimmer"),
                             "remove 0", "id 5", "probe [DiscComposer]", "warning [DiscComposer]"));
 }
 

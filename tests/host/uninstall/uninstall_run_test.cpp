@@ -37,9 +37,9 @@ TEST(UninstallRun, SelectiveRunTakesTheCheckedRowsInOrder)
                      {commandOf("TrackRipper"), false},
                      {commandOf("DiscComposer"), true}});
     EXPECT_THAT(run.run(), ElementsAre("id 2", "probe [ClipTrimmer]",
-                                       uninstallStep(0, 3, selective, "ClipTrimmer"), "remove 0",
+                                       uninstallStep(3, selective, "ClipTrimmer"), "remove 0",
                                        "id 5", "probe [DiscComposer]",
-                                       uninstallStep(2, 2, selective, "DiscComposer"), "remove 2"));
+                                       uninstallStep(2, selective, "DiscComposer"), "remove 2"));
 }
 
 TEST(UninstallRun, FullRunLeavesTheSuiteToTheEnd)
@@ -48,9 +48,9 @@ TEST(UninstallRun, FullRunLeavesTheSuiteToTheEnd)
         {{commandOf("ClipTrimmer")}, {commandOf("Tessera")}, {commandOf("DiscComposer")}});
     run.run();
     EXPECT_THAT(run.only(removalWords),
-                ElementsAre(uninstallStep(0, 3, full, "ClipTrimmer"), "remove 0",
-                            uninstallStep(2, 2, full, "DiscComposer"), "remove 2",
-                            uninstallStep(1, 1, full, "Tessera"), "remove 1"));
+                ElementsAre(uninstallStep(3, full, "ClipTrimmer"), "remove 0",
+                            uninstallStep(2, full, "DiscComposer"), "remove 2",
+                            uninstallStep(1, full, "Tessera"), "remove 1"));
     EXPECT_THAT(run.only({"id"}), ElementsAre("id 2", "id 0", "id 5"));
 }
 
@@ -59,7 +59,7 @@ TEST(UninstallRun, SuiteAloneIsTheLastApplication)
     RecordedRun run({{commandOf("Tessera")}});
     run.run();
     EXPECT_THAT(run.only(removalWords),
-                ElementsAre(uninstallStep(0, 1, full, "Tessera"), "remove 0"));
+                ElementsAre(uninstallStep(1, full, "Tessera"), "remove 0"));
 }
 
 TEST(UninstallRun, SuiteStaysWhenAnotherRowIsUnchecked)
@@ -69,7 +69,7 @@ TEST(UninstallRun, SuiteStaysWhenAnotherRowIsUnchecked)
                      {commandOf("DiscComposer"), false}});
     run.run();
     EXPECT_THAT(run.only(removalWords),
-                ElementsAre(uninstallStep(1, 3, selective, "ClipTrimmer"), "remove 1"));
+                ElementsAre(uninstallStep(3, selective, "ClipTrimmer"), "remove 1"));
 }
 
 // All ids of the range in rising order; those without an application give the empty id string.
@@ -95,7 +95,7 @@ TEST(UninstallRun, SuiteRowWarnsOfEveryRunningApplication)
     run.run();
     EXPECT_THAT(run.only({"warning", "uninstall"}),
                 ElementsAre("warning [ClipTrimmer]", "warning [LightTable]",
-                            uninstallStep(0, 1, full, "Tessera")));
+                            uninstallStep(1, full, "Tessera")));
 }
 
 TEST(UninstallRun, WarnsBeforeEachRunningApplicationGoes)
@@ -103,9 +103,9 @@ TEST(UninstallRun, WarnsBeforeEachRunningApplicationGoes)
     RecordedRun run({{commandOf("ClipTrimmer")}, {commandOf("DiscComposer")}, {"x", false}});
     run.running = {"ClipTrimmer", "DiscComposer"};
     EXPECT_THAT(run.run(), ElementsAre("id 2", "probe [ClipTrimmer]", "warning [ClipTrimmer]",
-                                       uninstallStep(0, 3, selective, "ClipTrimmer"), "remove 0",
+                                       uninstallStep(3, selective, "ClipTrimmer"), "remove 0",
                                        "id 5", "probe [DiscComposer]", "warning [DiscComposer]",
-                                       uninstallStep(1, 2, selective, "DiscComposer"), "remove 1"));
+                                       uninstallStep(2, selective, "DiscComposer"), "remove 1"));
 }
 
 TEST(UninstallRun, SurveyComesBeforeTheRunningCheck)
@@ -114,9 +114,9 @@ TEST(UninstallRun, SurveyComesBeforeTheRunningCheck)
     run.running = {"ClipSaver"};
     EXPECT_THAT(run.run(),
                 ElementsAre("id 60", "survey 60", "probe [ClipSaver]", "warning [ClipSaver]",
-                            uninstallStep(0, 3, selective, "ClipSaver"), "remove 0", "id 61",
+                            uninstallStep(3, selective, "ClipSaver"), "remove 0", "id 61",
                             "survey 61", "probe [TrackSaver]",
-                            uninstallStep(1, 2, selective, "TrackSaver"), "remove 1"));
+                            uninstallStep(2, selective, "TrackSaver"), "remove 1"));
 }
 
 TEST(UninstallRun, OnlyTheTwoApplicationsHaveASurvey)
@@ -148,7 +148,7 @@ TEST(UninstallRun, RowFiftyThreeIsProbedUnderItsSpacedName)
     RecordedRun run({{commandOf("PhotoStoryAndSlideshow")}, {"x", false}});
     EXPECT_THAT(run.run(),
                 ElementsAre("id 53", "probe [Photo Story and Slideshow]",
-                            uninstallStep(0, 2, selective, "PhotoStoryAndSlideshow"), "remove 0"));
+                            uninstallStep(2, selective, "PhotoStoryAndSlideshow"), "remove 0"));
 }
 
 TEST(UninstallRun, UnknownApplicationIsProbedWithoutANameAndUninstalled)
@@ -156,25 +156,25 @@ TEST(UninstallRun, UnknownApplicationIsProbedWithoutANameAndUninstalled)
     RecordedRun run({{commandOf("Stranger")}, {"C:\\plain.exe"}, {"x", false}});
     run.running = {""};
     EXPECT_THAT(run.run(), ElementsAre("id -1", "probe []", "warning []",
-                                       uninstallStep(0, 3, selective, "Stranger"), "remove 0",
+                                       uninstallStep(3, selective, "Stranger"), "remove 0",
                                        "id -1", "probe []", "warning []",
-                                       "uninstall 1 of 2 selective [C:\\plain.exe]", "remove 1"));
+                                       "uninstall 2 remaining, selective [C:\\plain.exe]", "remove 1"));
 }
 
 TEST(UninstallRun, EmptyCommandIsAnUnknownApplication)
 {
     RecordedRun run({{""}, {"x", false}});
     EXPECT_THAT(run.run(),
-                ElementsAre("id -1", "probe []", "uninstall 0 of 2 selective []", "remove 0"));
+                ElementsAre("id -1", "probe []", "uninstall 2 remaining, selective []", "remove 0"));
 }
 
 TEST(UninstallRun, FullRunWithoutASuiteRowStillEndsWithTheSuitesTurn)
 {
     RecordedRun run({{commandOf("ClipTrimmer")}, {""}});
     EXPECT_THAT(run.run(),
-                ElementsAre("id 2", "probe [ClipTrimmer]", uninstallStep(0, 2, full, "ClipTrimmer"),
-                            "remove 0", "id -1", "probe []", "uninstall 1 of 1 full []", "remove 1",
-                            "uninstall -1 of 0 full"));
+                ElementsAre("id 2", "probe [ClipTrimmer]", uninstallStep(2, full, "ClipTrimmer"),
+                            "remove 0", "id -1", "probe []", "uninstall 1 remaining, full []", "remove 1",
+                            "uninstall 0 remaining, full"));
 }
 
 TEST(UninstallRun, LastOfSeveralSuiteRowsIsTheOneUninstalled)
@@ -183,8 +183,8 @@ TEST(UninstallRun, LastOfSeveralSuiteRowsIsTheOneUninstalled)
     RecordedRun run({{commandOf("Tessera")}, {second}, {commandOf("ClipTrimmer")}});
     run.run();
     EXPECT_THAT(run.only(removalWords),
-                ElementsAre(uninstallStep(2, 3, full, "ClipTrimmer"), "remove 2",
-                            "uninstall 1 of 2 full [D:\\other.exe] [=D:\\logs\\Tessera_uninstall]",
+                ElementsAre(uninstallStep(3, full, "ClipTrimmer"), "remove 2",
+                            "uninstall 2 remaining, full [D:\\other.exe] [=D:\\logs\\Tessera_uninstall]",
                             "remove 1"));
     EXPECT_EQ(run.only({"probe"}).size(), 2 * 68U + 1);
 }
@@ -195,8 +195,8 @@ TEST(UninstallRun, TakesHugeCommands)
     RecordedRun run({{huge}, {huge + " /log" + huge}, {"x", false}});
     run.run();
     EXPECT_THAT(run.only({"uninstall"}),
-                ElementsAre("uninstall 0 of 3 selective [" + huge + "]",
-                            "uninstall 1 of 2 selective [" + huge + "] [" + huge + "]"));
+                ElementsAre("uninstall 3 remaining, selective [" + huge + "]",
+                            "uninstall 2 remaining, selective [" + huge + "] [" + huge + "]"));
 }
 
 } // namespace uninstall

@@ -3,6 +3,8 @@
 
 #include <QPushButton>
 
+#include <utility>
+
 #include "tests/windows/dialogs/recorded_events.h"
 #include "tests/windows/qt_tests/qt_test.h"
 #include "ui/uninstall/src/fvd_open_ms_dlg.h"
@@ -48,14 +50,14 @@ void DialogOutcomeTest::surveyReportsNothingMoreDuringAReport()
     QFETCH(int, code);
     QFETCH(QByteArray, name);
     RecordedEvents events;
-    QDialog* shown = nullptr; // once it is constructed
+    QDialog* shown = nullptr; // from its construction to its first report after that
     QuestionDlg survey(
         nullptr, "Clip", "en",
         [&](std::int32_t eventCode, const std::string& eventName, const std::string& value) {
             events.append({eventCode, QByteArray::fromStdString(eventName),
                            QByteArray::fromStdString(value)});
-            if (shown != nullptr)
-                tryEverything(*shown);
+            if (QDialog* open = std::exchange(shown, nullptr))
+                tryEverything(*open);
         });
     shown = &survey;
     survey.show();
@@ -87,8 +89,8 @@ void DialogOutcomeTest::offerReportsNothingMoreDuringAReport()
     FvdOpenMsDlg offer(nullptr, 60, false,
                        [&](std::int32_t eventCode, const std::string& eventName) {
                            events.append({eventCode, QByteArray::fromStdString(eventName), ""});
-                           if (shown != nullptr)
-                               tryEverything(*shown);
+                           if (QDialog* open = std::exchange(shown, nullptr))
+                               tryEverything(*open);
                        });
     shown = &offer;
     offer.show();

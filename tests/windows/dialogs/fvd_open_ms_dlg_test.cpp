@@ -267,7 +267,7 @@ void FvdOpenMsDlgTest::partnerFollowsTheFlag()
     QFETCH(QByteArray, eventName);
     if (!flag.isEmpty())
         fs::commonConfig().setValue(flag.toStdString(), value.toStdString());
-    QCOMPARE(FvdOpenMsDlg::partnerFor(applicationId, exitMode).id, partner);
+    QCOMPARE(uninstall::partnerFor(applicationId, exitMode).id, partner);
     const Offer offer(applicationId, exitMode);
     const RecordedEvents expected{{10, eventName, ""}};
     QCOMPARE(offer.events, expected);

@@ -1,10 +1,10 @@
 // A later copy has the right to put windows in front, the first copy has not. Wine knows no such
 // right, so the calls themselves are watched.
 
+#include "tests/support/import_slot.h"
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/ipc/serving_peer.h"
 #include "tests/windows/qt_tests/qt_test.h"
-#include "tools/wine/import_slot.h"
 
 using namespace ipctest;
 
@@ -45,8 +45,6 @@ void ForegroundTest::initTestCase()
 {
     replaceImport("AllowSetForegroundWindow", &watchedAllow, systemAllow);
     replaceImport("TransactNamedPipe", &watchedTransact, systemTransact);
-    QVERIFY(systemAllow != nullptr);
-    QVERIFY(systemTransact != nullptr);
 }
 
 void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends_data()

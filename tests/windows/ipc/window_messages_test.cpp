@@ -244,10 +244,12 @@ void WindowMessagesTest::showActivatesAndRaisesACoveredWindow()
     Window window({}, nullptr, false);
     window.setGeometry(100, 100, 300, 200);
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
     QWidget cover;
     cover.setGeometry(window.geometry());
     cover.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&cover));
+    cover.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&cover));
     QVERIFY(!window.isActiveWindow());
 

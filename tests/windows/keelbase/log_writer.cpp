@@ -33,8 +33,8 @@ int main(int count, char** arguments)
         std::string text = letter + std::to_string(number);
         if (text.size() < size)
             text += ' ' + std::string(size - text.size() - 1, '.');
-        Keelbase::log(levels[number % 3], "Writer", "tests/log_writer", 1,
-                      [&](std::ostream& message) { message << text; });
+        constexpr Keelbase::LogSource source{"Writer", "tests/log_writer"};
+        KEELBASE_LOG_AT(source, levels[number % 3], 1) << text;
     }
     if (std::string(arguments[5]) == "crash")
         TerminateProcess(GetCurrentProcess(), 9);

@@ -52,14 +52,14 @@ void checkText(QStringList& faults, const QFont& font, QString text)
             continue;
         for (const QGlyphRun& run : runs) {
             if (run.glyphIndexes().contains(0))
-                missing += QString::fromUcs4(&letter, 1);
+                missing += QStringLiteral(" U+") + QString::number(letter, 16);
             if (!mayMix(scriptOf(letter)))
                 fonts[scriptOf(letter)].insert(run.rawFont().familyName());
         }
     }
     if (!missing.isEmpty())
         faults.append(
-            QStringLiteral("\"%1\" in %2: no glyph for \"%3\"").arg(text, font.family(), missing));
+            QStringLiteral("\"%1\" in %2: no glyph for%3").arg(text, font.family(), missing));
     for (const QSet<QString>& used : qAsConst(fonts)) {
         if (used.size() > 1)
             faults.append(QStringLiteral("\"%1\" mixes %2")

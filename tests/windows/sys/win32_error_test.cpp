@@ -8,7 +8,7 @@
 TEST(Win32Error, LogsApiNumberAndSystemTextAtTheCallersPlace)
 {
     const testing_support::RecordedLog log;
-    win32::logFailure("IPC", "ui/common/sys/somewhere", 42, "CreateFileW", ERROR_FILE_NOT_FOUND);
+    win32::logFailure({"IPC", "ui/common/sys/somewhere"}, 42, "CreateFileW", ERROR_FILE_NOT_FOUND);
     ASSERT_EQ(log.records().size(), 1U);
     const Keelbase::LogRecord record = log.records()[0];
     EXPECT_EQ(record.level, 7);
@@ -26,7 +26,7 @@ TEST(Win32Error, LogsApiNumberAndSystemTextAtTheCallersPlace)
 TEST(Win32Error, NumberWithoutSystemTextIsLoggedAllTheSame)
 {
     const testing_support::RecordedLog log;
-    win32::logFailure("IPC", "source", 1, "Api", 0x2FFFFFFF);
+    win32::logFailure({"IPC", "source"}, 1, "Api", 0x2FFFFFFF);
     ASSERT_EQ(log.records().size(), 1U);
     EXPECT_EQ(log.records()[0].text, "Api failed: 805306367 (no text for this number)");
 }
@@ -34,7 +34,7 @@ TEST(Win32Error, NumberWithoutSystemTextIsLoggedAllTheSame)
 TEST(Win32Error, IsSilentBelowDetailLevel)
 {
     const testing_support::RecordedLog log(Keelbase::levelInformation);
-    win32::logFailure("IPC", "source", 1, "Api", ERROR_FILE_NOT_FOUND);
+    win32::logFailure({"IPC", "source"}, 1, "Api", ERROR_FILE_NOT_FOUND);
     EXPECT_TRUE(log.records().empty());
 }
 
@@ -42,6 +42,6 @@ TEST(Win32Error, LeavesTheErrorNumberForTheCaller)
 {
     const testing_support::RecordedLog log;
     SetLastError(ERROR_SUCCESS);
-    win32::logFailure("IPC", "source", 1, "Api", ERROR_PIPE_BUSY);
+    win32::logFailure({"IPC", "source"}, 1, "Api", ERROR_PIPE_BUSY);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_PIPE_BUSY));
 }

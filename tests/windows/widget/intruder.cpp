@@ -15,19 +15,8 @@ QAccessibleInterface* accessible(QWidget* widget)
     return QAccessible::queryAccessibleInterface(widget);
 }
 
-} // namespace
-
-Intruder::Intruder(WindowUnderTest& window)
-    : under(window), uninstallClicks(window.uninstall, &QPushButton::clicked),
-      selectClicks(window.select, &QPushButton::clicked)
-{}
-
-bool Intruder::pressesHaveArrived() const
-{
-    return pressed && uninstallClicks.count() > 0 && selectClicks.count() > 0;
-}
-
-QString Intruder::state() const
+// What a person sees of the choice, as one text.
+QString stateOf(const WindowUnderTest& under)
 {
     QString text;
     for (int row = 0; row < under.list->count(); ++row)
@@ -41,12 +30,24 @@ QString Intruder::state() const
                       .arg(under.uninstall->isEnabled());
 }
 
+} // namespace
+
+Intruder::Intruder(WindowUnderTest& window)
+    : under(window), uninstallClicks(window.uninstall, &QPushButton::clicked),
+      selectClicks(window.select, &QPushButton::clicked)
+{}
+
+bool Intruder::pressesHaveArrived() const
+{
+    return pressed && uninstallClicks.count() > 0 && selectClicks.count() > 0;
+}
+
 template <typename Attempt>
 void Intruder::attempt(const char* name, Attempt&& make)
 {
-    const QString before = state();
+    const QString before = stateOf(under);
     make();
-    if (state() != before)
+    if (stateOf(under) != before)
         changed.append(QLatin1String(name));
 }
 

@@ -16,7 +16,7 @@ public:
     void tryEverything();
 
     // The attempts that changed rows, buttons or check box at once, by name.
-    QStringList changes() const { return changed; }
+    QString changes() const { return changed.join(QLatin1String(", ")); }
 
     // True when the presses by assistive programs have arrived too.
     bool pressesHaveArrived() const;
@@ -24,7 +24,6 @@ public:
 private:
     template <typename Attempt>
     void attempt(const char* name, Attempt&& make);
-    QString state() const;
 
     WindowUnderTest& under;
     QSignalSpy uninstallClicks;

@@ -5,15 +5,13 @@
 #include "ui/common/stat/service_endpoints.h"
 #include "ui/common/sys/environment.h"
 
-#include <ostream>
 #include <utility>
 
 namespace stats {
 namespace {
 
 // Support's log filters know these messages by category, source and line.
-constexpr const char* logCategory = "AppEventStat";
-constexpr const char* logSource = "ui/common/stat/app_event_stat";
+constexpr Keelbase::LogSource logSource{"AppEventStat", "ui/common/stat/app_event_stat"};
 constexpr int rejectedLine = 65;
 constexpr int transportErrorLine = 68;
 constexpr int deliveredLine = 71;
@@ -29,23 +27,19 @@ void postEvent(const std::string& body)
 {
     const StatsPostResult first = httpPostForm(eventEndpoint, body, 0);
     if (first.transportCode != 0) {
-        Keelbase::log(
-            Keelbase::levelDetail, logCategory, logSource, transportErrorLine,
-            [&](std::ostream& line) { line << "stats::sendEvent: curl " << first.transportCode; });
+        KEELBASE_LOG_AT(logSource, Keelbase::levelDetail, transportErrorLine)
+            << "stats::sendEvent: curl " << first.transportCode;
         return;
     }
     if (!isRejected(first)) {
-        Keelbase::log(Keelbase::levelDetail, logCategory, logSource, deliveredLine,
-                      [](std::ostream& line) { line << "stats::sendEvent: ok"; });
+        KEELBASE_LOG_AT(logSource, Keelbase::levelDetail, deliveredLine) << "stats::sendEvent: ok";
         return;
     }
     const StatsPostResult second = httpPostForm(eventEndpoint, body, 0);
-    if (!isRejected(second))
-        return;
-    Keelbase::log(
-        Keelbase::levelError, logCategory, logSource, rejectedLine, [&](std::ostream& line) {
-            line << "stats::sendEvent rejected: http " << second.httpStatus << " | " << second.body;
-        });
+    if (isRejected(second)) {
+        KEELBASE_LOG_AT(logSource, Keelbase::levelError, rejectedLine)
+            << "stats::sendEvent rejected: http " << second.httpStatus << " | " << second.body;
+    }
 }
 
 // One more, and from the largest number to the smallest: a damaged EventNumber may be anything.

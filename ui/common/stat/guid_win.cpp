@@ -8,8 +8,7 @@
 namespace stats {
 namespace {
 
-constexpr const char* logCategory = "AppEventStat";
-constexpr const char* logSource = "ui/common/stat/guid_win";
+constexpr Keelbase::LogSource logSource{"AppEventStat", "ui/common/stat/guid_win"};
 
 // Owns a text that the RPC runtime has allocated; null: none.
 struct RpcText
@@ -29,7 +28,7 @@ struct RpcText
 bool succeeded(RPC_STATUS status, const char* api)
 {
     if (status != RPC_S_OK)
-        win32::logFailure(logCategory, logSource, __LINE__, api,
+        win32::logFailure(logSource, __LINE__, api,
                           static_cast<unsigned long>(status));
     return status == RPC_S_OK;
 }

@@ -9,14 +9,12 @@
 
 #include <algorithm>
 #include <new>
-#include <ostream>
 
 namespace stats {
 namespace {
 
 // The lookup reports as the main window, whose module it belongs to in support's log filters.
-constexpr const char* logCategory = "MainForm";
-constexpr const char* logSource = "ui/uninstall/src/widget";
+constexpr Keelbase::LogSource logSource{"MainForm", "ui/uninstall/src/widget"};
 constexpr int debugSkipLine = 152;
 constexpr int returnedErrorLine = 160;
 constexpr int successLine = 164;
@@ -24,12 +22,6 @@ constexpr int exceptionLine = 170;
 
 constexpr const char* locationKey = "Location";
 constexpr int timeoutSeconds = 15;
-
-void log(int level, int line, const char* text, const std::string& detail = {})
-{
-    Keelbase::log(level, logCategory, logSource, line,
-                  [&](std::ostream& message) { message << text << detail; });
-}
 
 // The answer as text: it ends at the first NUL, where the configuration file would end too and
 // lose the keys that follow.
@@ -60,23 +52,25 @@ void getOrCreateUserLocation(const ProxySettings& proxy)
     fs::CConfig& common = fs::commonConfig();
     if (sys::environmentSwitch("CV_DEBUG_WITHOUT_UPDATE_LOCATION") &&
         !common.getValue(locationKey, "").empty()) {
-        log(Keelbase::levelInformation, debugSkipLine,
-            "getOrCreateUserLocation | CV_DEBUG_WITHOUT_UPDATE_LOCATION is true");
+        KEELBASE_LOG_AT(logSource, Keelbase::levelInformation, debugSkipLine)
+            << "getOrCreateUserLocation | CV_DEBUG_WITHOUT_UPDATE_LOCATION is true";
         return;
     }
     try {
         sys::DataBuff answer;
         if (getUserLocation(answer, proxy) != sys::success) {
-            log(Keelbase::levelError, returnedErrorLine,
-                "getOrCreateUserLocation | dlutil_getUserLocation returned error");
+            KEELBASE_LOG_AT(logSource, Keelbase::levelError, returnedErrorLine)
+                << "getOrCreateUserLocation | dlutil_getUserLocation returned error";
             return;
         }
         const std::string country = countryFrom(answer);
-        log(Keelbase::levelInformation, successLine, "getOrCreateUserLocation | ", country);
+        KEELBASE_LOG_AT(logSource, Keelbase::levelInformation, successLine)
+            << "getOrCreateUserLocation | " << country;
         common.setValue(locationKey, country);
         common.save();
     } catch (...) {
-        log(Keelbase::levelError, exceptionLine, "Failed to dlutil_getUserLocation()");
+        KEELBASE_LOG_AT(logSource, Keelbase::levelError, exceptionLine)
+            << "Failed to dlutil_getUserLocation()";
     }
 }
 

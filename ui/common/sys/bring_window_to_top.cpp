@@ -68,7 +68,7 @@ void passForegroundOn()
     // To any process: the first copy's number is not known, because its pipe is opened as if it
     // were on another computer, where process numbers mean nothing.
     if (!AllowSetForegroundWindow(ASFW_ANY))
-        win32::logFailure("IPC", "ui/common/sys/bring_window_to_top", __LINE__,
+        win32::logFailure({"IPC", "ui/common/sys/bring_window_to_top"}, __LINE__,
                           "AllowSetForegroundWindow", GetLastError());
 }
 

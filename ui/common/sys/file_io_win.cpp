@@ -16,8 +16,7 @@ namespace sys {
 
 namespace {
 
-constexpr const char* category = "System";
-constexpr const char* source = "ui/common/sys/file_io";
+constexpr Keelbase::LogSource logSource{"System", "ui/common/sys/file_io"};
 
 struct StreamCloser
 {
@@ -68,7 +67,7 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
         std::FILE* opened = nullptr;
         DWORD systemError = ERROR_SUCCESS;
         if (const int error = openPatiently(open, &opened, path.c_str(), systemError); error != 0) {
-            win32::logFailure(category, source, __LINE__, "CreateFileW", systemError);
+            win32::logFailure(logSource, __LINE__, "CreateFileW", systemError);
             return error;
         }
         const Stream stream(opened);
@@ -80,7 +79,7 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
         std::string bytes(*size, '\0');
         const std::size_t read = std::fread(bytes.data(), 1, bytes.size(), stream.get());
         if (std::ferror(stream.get()) != 0 || (read == 0 && *size != 0)) {
-            win32::logFailure(category, source, __LINE__, "ReadFile", GetLastError());
+            win32::logFailure(logSource, __LINE__, "ReadFile", GetLastError());
             return readOrWriteFailed;
         }
         bytes.resize(read); // another process may have cut the file since
@@ -103,14 +102,14 @@ int writeFile(const std::wstring& path, const std::string& text)
     try {
         std::ofstream stream(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
         if (!stream.is_open()) {
-            win32::logFailure(category, source, __LINE__, "CreateFileW", GetLastError());
+            win32::logFailure(logSource, __LINE__, "CreateFileW", GetLastError());
             return readOrWriteFailed;
         }
         stream.write(text.data(), static_cast<std::streamsize>(std::strlen(text.c_str())));
         stream.close();
         if (stream)
             return success;
-        win32::logFailure(category, source, __LINE__, "WriteFile", GetLastError());
+        win32::logFailure(logSource, __LINE__, "WriteFile", GetLastError());
     } catch (const std::exception&) {
         // No memory for the path or the buffer.
     }

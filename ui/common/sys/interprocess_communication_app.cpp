@@ -10,6 +10,12 @@
 #include <string_view>
 #include <utility>
 
+namespace {
+
+constexpr Keelbase::LogSource logSource{"IPC", "ui/common/sys/interprocess_communication_app"};
+
+} // namespace
+
 CInterprocessCommunicationApp::CInterprocessCommunicationApp(std::vector<std::string> arguments,
                                                              QWidget* parent, bool check,
                                                              qint64 reserved)
@@ -90,11 +96,9 @@ QWidget* CInterprocessCommunicationApp::messageWindow()
 
 void CInterprocessCommunicationApp::onMessageReceived(unsigned long pid, const QString& msg)
 {
-    Keelbase::log(Keelbase::levelInformation, "IPC", "ui/common/sys/interprocess_communication_app",
-                  __LINE__, [&](std::ostream& line) {
-                      line << "onMessageReceived | Message from other process was received. PID: "
-                           << pid << ". MSG: " << msg.toUtf8().toStdString();
-                  });
+    KEELBASE_LOG(logSource, Keelbase::levelInformation)
+        << "onMessageReceived | Message from other process was received. PID: " << pid
+        << ". MSG: " << msg.toUtf8().toStdString();
     answerText.clear();
     QWidget* window = messageWindow();
     const sys::MessagePlan plan = sys::planForMessage(std::u16string_view(

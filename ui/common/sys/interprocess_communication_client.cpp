@@ -2,7 +2,7 @@
 
 #include "ui/common/sys/interprocess_communication_win.h"
 
-#include "ui/common/sys/log_source.h"
+#include "ui/common/sys/win32_error.h"
 #include "ui/common/sys/pipe_frame.h"
 
 namespace {
@@ -11,7 +11,7 @@ constexpr DWORD connectWait = 15000; // ms
 constexpr int attempts = 7;
 constexpr DWORD pauseBetweenAttempts = 300; // ms
 
-constexpr win32::LogSource logSource("IPC", "ui/common/sys/interprocess_communication_client");
+constexpr Keelbase::LogSource logSource{"IPC", "ui/common/sys/interprocess_communication_client"};
 
 } // namespace
 
@@ -27,7 +27,7 @@ int CInterprocessCommunicationWin::connectToServer()
     wchar_t computer[16] = {};
     DWORD computerSize = 16;
     if (!GetComputerNameW(computer, &computerSize))
-        logSource.failure(__LINE__, "GetComputerNameW", GetLastError());
+        win32::logFailure(logSource, __LINE__, "GetComputerNameW", GetLastError());
     // Through the computer's name the system's file sharing opens the pipe, which gives a handle
     // in message-read mode, as TransactNamedPipe needs it.
     const std::wstring path = std::wstring(L"\\\\") + computer + L"\\pipe\\" + getPipeName();
@@ -36,7 +36,7 @@ int CInterprocessCommunicationWin::connectToServer()
                     nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (opened == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
-        logSource.failure(__LINE__, "CreateFileW", error);
+        win32::logFailure(logSource, __LINE__, "CreateFileW", error);
         return static_cast<int>(error);
     }
     pipe.reset(opened);
@@ -65,7 +65,7 @@ int CInterprocessCommunicationWin::sendMessage(const std::string& text)
             break;
         }
         error = GetLastError();
-        logSource.failure(__LINE__, "TransactNamedPipe", error);
+        win32::logFailure(logSource, __LINE__, "TransactNamedPipe", error);
         if (attempt == attempts ||
             WaitForSingleObject(stopEvent.get(), pauseBetweenAttempts) == WAIT_OBJECT_0)
             break;

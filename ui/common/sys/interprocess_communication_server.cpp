@@ -2,7 +2,7 @@
 
 #include "ui/common/sys/interprocess_communication_win.h"
 
-#include "ui/common/sys/log_source.h"
+#include "ui/common/sys/win32_error.h"
 #include "ui/common/sys/pipe_frame.h"
 
 #include <exception>
@@ -11,13 +11,15 @@ namespace {
 
 constexpr DWORD defaultWait = 15000; // ms, what WaitNamedPipe uses for NMPWAIT_USE_DEFAULT_WAIT
 
-constexpr win32::LogSource logSource("IPC", "ui/common/sys/interprocess_communication_server");
+constexpr Keelbase::LogSource logSource{"IPC", "ui/common/sys/interprocess_communication_server"};
 
 void logGivenUp(const char* reason) noexcept
 {
-    logSource.write(Keelbase::levelError, __LINE__, [reason](std::ostream& message) {
-        message << "An exchange was given up: " << reason;
-    });
+    try {
+        KEELBASE_LOG(logSource, Keelbase::levelError) << "An exchange was given up: " << reason;
+    } catch (...) {
+        // No memory for the message.
+    }
 }
 
 } // namespace
@@ -60,7 +62,7 @@ int CInterprocessCommunicationWin::openPipe()
                          static_cast<DWORD>(sys::largestFrame), defaultWait, &attributes);
     if (created == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
-        logSource.failure(__LINE__, "CreateNamedPipeW", error);
+        win32::logFailure(logSource, __LINE__, "CreateNamedPipeW", error);
         return static_cast<int>(error);
     }
     pipe.reset(created);
@@ -82,7 +84,7 @@ void CInterprocessCommunicationWin::run(int)
                 // happens to a pipe that was opened a moment ago: serving ends for this run, and
                 // later copies find the pipe busy and end all the same. That first client must
                 // not wait for an answer for as long as this process lives, so it is let go.
-                logSource.failure(__LINE__, "ConnectNamedPipe", error);
+                win32::logFailure(logSource, __LINE__, "ConnectNamedPipe", error);
                 DisconnectNamedPipe(pipe.get());
                 return;
             }
@@ -111,7 +113,7 @@ bool CInterprocessCommunicationWin::serveOneClient(std::string& text)
                   &overlapped)) {
         const DWORD error = GetLastError();
         if (error != ERROR_IO_PENDING && error != ERROR_MORE_DATA) {
-            logSource.failure(__LINE__, "ReadFile", error);
+            win32::logFailure(logSource, __LINE__, "ReadFile", error);
             return true;
         }
     }
@@ -120,7 +122,7 @@ bool CInterprocessCommunicationWin::serveOneClient(std::string& text)
 
     DWORD received = 0;
     if (!GetOverlappedResult(pipe.get(), &overlapped, &received, FALSE)) {
-        logSource.failure(__LINE__, "GetOverlappedResult", GetLastError());
+        win32::logFailure(logSource, __LINE__, "GetOverlappedResult", GetLastError());
         return true;
     }
     deliver(received, text);
@@ -152,7 +154,7 @@ void CInterprocessCommunicationWin::writeAnswer(const std::string& answer)
         return;
     DWORD written = 0;
     if (!WriteFile(pipe.get(), sendBuffer.get(), static_cast<DWORD>(size), &written, nullptr))
-        logSource.failure(__LINE__, "WriteFile", GetLastError());
+        win32::logFailure(logSource, __LINE__, "WriteFile", GetLastError());
 }
 
 CInterprocessCommunicationWin::Wake CInterprocessCommunicationWin::waitForIo() const
@@ -164,7 +166,7 @@ CInterprocessCommunicationWin::Wake CInterprocessCommunicationWin::waitForIo() c
     case WAIT_OBJECT_0 + 1:
         return Wake::io;
     default:
-        logSource.failure(__LINE__, "WaitForMultipleObjects", GetLastError());
+        win32::logFailure(logSource, __LINE__, "WaitForMultipleObjects", GetLastError());
         return Wake::failure;
     }
 }

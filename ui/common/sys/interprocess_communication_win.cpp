@@ -1,6 +1,6 @@
 #include "ui/common/sys/interprocess_communication_win.h"
 
-#include "ui/common/sys/log_source.h"
+#include "ui/common/sys/win32_error.h"
 #include "ui/common/sys/pipe_frame.h"
 
 #include <cctype>
@@ -11,7 +11,7 @@ namespace {
 // The program's role in the suite; copies of one role meet under it.
 constexpr const char* roleName = "Uninstall";
 
-constexpr win32::LogSource logSource("IPC", "ui/common/sys/interprocess_communication_win");
+constexpr Keelbase::LogSource logSource{"IPC", "ui/common/sys/interprocess_communication_win"};
 
 // All names here are ASCII.
 std::wstring widen(const std::string& text)
@@ -48,10 +48,10 @@ void CInterprocessCommunicationWin::claimMutex()
         static_cast<void>(mutex.release());
         mutex.reset(OpenMutexW(MUTEX_ALL_ACCESS, TRUE, name.c_str()));
         if (!mutex)
-            logSource.failure(__LINE__, "OpenMutexW", GetLastError());
+            win32::logFailure(logSource, __LINE__, "OpenMutexW", GetLastError());
         firstInstance = false;
     } else if (!mutex) {
-        logSource.failure(__LINE__, "CreateMutexW", error);
+        win32::logFailure(logSource, __LINE__, "CreateMutexW", error);
     }
     setStop(false);
     ResetEvent(stopEvent.get());

@@ -10,8 +10,7 @@ namespace sys {
 
 namespace {
 
-constexpr const char* category = "System";
-constexpr const char* source = "ui/common/sys/text_convert";
+constexpr Keelbase::LogSource logSource{"System", "ui/common/sys/text_convert"};
 
 template <typename Text>
 bool hasConvertibleSize(const Text& text)
@@ -27,7 +26,7 @@ std::wstring toWide(std::string_view text, unsigned codePage, DWORD flags)
     const int size = static_cast<int>(text.size());
     const int wideSize = MultiByteToWideChar(codePage, flags, text.data(), size, nullptr, 0);
     if (wideSize <= 0) {
-        win32::logFailure(category, source, __LINE__, "MultiByteToWideChar", GetLastError());
+        win32::logFailure(logSource, __LINE__, "MultiByteToWideChar", GetLastError());
         return {};
     }
     std::wstring wide(static_cast<std::size_t>(wideSize), L'\0');

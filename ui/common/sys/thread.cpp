@@ -1,6 +1,6 @@
 #include "ui/common/sys/thread.h"
 
-#include "ui/common/sys/log_source.h"
+#include "ui/common/sys/win32_error.h"
 #include "ui/common/sys/thread_start.h"
 
 #include <cstdint>
@@ -9,7 +9,7 @@ namespace win32 {
 
 namespace {
 
-constexpr LogSource logSource("IPC", "ui/common/sys/thread");
+constexpr Keelbase::LogSource logSource{"IPC", "ui/common/sys/thread"};
 
 BeginThread beginThread = &_beginthreadex;
 
@@ -56,7 +56,7 @@ int CBaseThread<argument>::start()
     ResetEvent(finishedEvent.get());
     const std::uintptr_t started = beginThread(nullptr, 0, &CBaseThread::entry, this, 0, nullptr);
     if (started == 0) {
-        logSource.failure(__LINE__, "_beginthreadex", GetLastError());
+        win32::logFailure(logSource, __LINE__, "_beginthreadex", GetLastError());
         return ERROR_BAD_ENVIRONMENT;
     }
     thread.reset(reinterpret_cast<HANDLE>(started));

@@ -1,6 +1,5 @@
 #include "ui/common/sys/win32_error.h"
 
-#include "support/keelbase/keelbase.h"
 #include "ui/common/sys/text_convert.h"
 
 #include <string>
@@ -25,13 +24,12 @@ std::string systemText(DWORD error)
 
 } // namespace
 
-void logFailure(const char* category, const char* source, int line, const char* api,
+void logFailure(const Keelbase::LogSource& source, int line, const char* api,
                 unsigned long error) noexcept
 {
     try {
-        Keelbase::log(Keelbase::levelDetail, category, source, line, [&](std::ostream& message) {
-            message << api << " failed: " << error << " (" << systemText(error) << ")";
-        });
+        KEELBASE_LOG_AT(source, Keelbase::levelDetail, line)
+            << api << " failed: " << error << " (" << systemText(error) << ")";
     } catch (...) {
         // No memory for the message.
     }

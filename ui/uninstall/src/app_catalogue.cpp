@@ -39,19 +39,19 @@ constexpr Application applications[] = {
     {55, "TagSorter", "Tag Sorter", nullptr, "tgsrt"},
     {58, "PanoramaStitcher", "Panorama Stitcher", nullptr, "panst"},
     {59, "MediaVault", "Media Vault", nullptr, "mdvlt"},
-    {60, "ClipSaver", "Clip Saver 2026", "Tessera Clip Saver", "clsv"},
-    {61, "TrackSaver", "Track Saver 2026", "Tessera Track Saver", "trksv"},
+    {clipSaverId, "ClipSaver", "Clip Saver 2026", "Tessera Clip Saver", "clsv"},
+    {trackSaverId, "TrackSaver", "Track Saver 2026", "Tessera Track Saver", "trksv"},
     {62, "KaraokeStage", "Karaoke Stage", nullptr, "krstg"},
     {63, "BeatGrid", "Beat Grid", nullptr, "btgrd"},
     {64, "VidaloDownloader", "Vidalo Downloader", nullptr, "vdldl"},
     {65, "MusaloDownloader", "Musalo Downloader", nullptr, "msldl"},
     {66, "CaptionStudio", "Caption Studio", nullptr, "capst"},
     {67, "CodecDoctor", "Codec Doctor", nullptr, "cdcdr"},
-    {68, "LightTable", "Light Table", nullptr, "lttbl"},
+    {lastAppId, "LightTable", "Light Table", nullptr, "lttbl"},
 };
 
-// Registered without spaces, but every release so far has looked it up by its spaced name and
-// listed it without one; other data depends on that by now.
+// A deliberate oddity, kept for compatibility: found by its id string, but answered with its spaced
+// name as id string and without a display name.
 constexpr int photoStoryId = 53;
 
 const Application* findApplication(int id)

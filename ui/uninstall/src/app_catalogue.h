@@ -14,6 +14,14 @@ constexpr int unknownId = -1;
 constexpr int firstAppId = 1;
 constexpr int lastAppId = 68;
 
+// The two applications with an exit survey, and with a switch for the music offer.
+constexpr int clipSaverId = 60;
+constexpr int trackSaverId = 61;
+constexpr bool hasExitSurvey(int id)
+{
+    return id == clipSaverId || id == trackSaverId;
+}
+
 // The numeric id of an id string, compared byte by byte; unknownId when there is none.
 int idFromString(std::string_view text);
 

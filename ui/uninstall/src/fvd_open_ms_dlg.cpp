@@ -7,7 +7,6 @@
 
 #include <utility>
 
-#include "ui/common/config/common_config.h"
 #include "ui/uninstall/src/app_catalogue.h"
 #include "ui/uninstall/src/dialog_actions.h"
 #include "ui/uninstall/src/store_offer.h"
@@ -50,7 +49,7 @@ FvdOpenMsDlg::FvdOpenMsDlg(QWidget* parent, int applicationId, bool exitMode,
     connect(ui->mainBtn, &QPushButton::clicked, this, &FvdOpenMsDlg::openStore);
     ui->mainBtn->setText(tr("Open Microsoft Store"));
 
-    const uninstall::StorePartner& partner = partnerFor(applicationId, exitMode);
+    const uninstall::StorePartner& partner = uninstall::partnerFor(applicationId, exitMode);
     setTexts(partner);
     eventName = uninstall::offerEventName(partner.id, exitMode);
 
@@ -58,13 +57,6 @@ FvdOpenMsDlg::FvdOpenMsDlg(QWidget* parent, int applicationId, bool exitMode,
 }
 
 FvdOpenMsDlg::~FvdOpenMsDlg() = default;
-
-const uninstall::StorePartner& FvdOpenMsDlg::partnerFor(int applicationId, bool exitMode)
-{
-    const std::string flag = uninstall::musicOfferFlag(applicationId, exitMode);
-    const bool musicOffer = !flag.empty() && fs::commonConfig().getBool(flag, false);
-    return uninstall::choosePartner(applicationId, musicOffer);
-}
 
 void FvdOpenMsDlg::setUpFonts()
 {
@@ -122,7 +114,7 @@ void FvdOpenMsDlg::report(std::int32_t code)
 
 void FvdOpenMsDlg::keyPressEvent(QKeyEvent* event)
 {
-    // No other key may reach QDialog: Enter would press the button.
+    // Every other key is swallowed.
     if (event->key() == Qt::Key_Escape)
         close();
 }

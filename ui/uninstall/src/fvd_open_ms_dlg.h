@@ -34,9 +34,6 @@ public:
     FvdOpenMsDlg(QWidget* parent, int applicationId, bool exitMode, EventCallback eventCallback);
     ~FvdOpenMsDlg() override;
 
-    // The partner offered for an application, as the suite's settings have it at this moment.
-    static const uninstall::StorePartner& partnerFor(int applicationId, bool exitMode);
-
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

@@ -79,7 +79,7 @@ void QuestionDlg::report(std::int32_t code, const char* name)
 
 void QuestionDlg::keyPressEvent(QKeyEvent* event)
 {
-    // No other key may reach QDialog: Enter would press the first answer.
+    // Every other key is swallowed.
     if (event->key() != Qt::Key_Escape)
         return;
     answered = true;

@@ -1,7 +1,7 @@
 #include "ui/uninstall/src/registry_keys.h"
 
 #include "ui/common/config/runtime_brand.h"
-#include "ui/uninstall/src/uninstall_command.h"
+#include "ui/uninstall/src/registry_names.h"
 
 namespace uninstall {
 

@@ -1,26 +1,19 @@
 #include "ui/uninstall/src/store_offer.h"
 
+#include "ui/common/config/common_config.h"
 #include "ui/uninstall/src/app_catalogue.h"
 
 namespace uninstall {
 namespace {
 
-constexpr int clipSaverId = 60;
-constexpr int trackSaverId = 61;
-
 constexpr StorePartner videoPartner{64, "XP9EXAMPLE0064", OfferText::videoDownloader};
 constexpr StorePartner musicPartner{65, "XP9EXAMPLE0065", OfferText::musicDownloader};
-
-bool hasMusicOfferFlag(int id)
-{
-    return id == clipSaverId || id == trackSaverId;
-}
 
 } // namespace
 
 std::string musicOfferFlag(int uninstalledId, bool exitMode)
 {
-    if (!hasMusicOfferFlag(uninstalledId))
+    if (!hasExitSurvey(uninstalledId))
         return {};
     return shortCode(uninstalledId) + (exitMode ? "_t149_exit_ms_" : "_uninst_ms_") +
            shortCode(musicPartner.id) + "_enabled";
@@ -28,12 +21,18 @@ std::string musicOfferFlag(int uninstalledId, bool exitMode)
 
 const StorePartner& choosePartner(int uninstalledId, bool musicOfferEnabled)
 {
-    return hasMusicOfferFlag(uninstalledId) && musicOfferEnabled ? musicPartner : videoPartner;
+    return hasExitSurvey(uninstalledId) && musicOfferEnabled ? musicPartner : videoPartner;
+}
+
+const StorePartner& partnerFor(int uninstalledId, bool exitMode)
+{
+    const std::string flag = musicOfferFlag(uninstalledId, exitMode);
+    return choosePartner(uninstalledId, !flag.empty() && fs::commonConfig().getBool(flag, false));
 }
 
 std::string offerEventName(int partnerId, bool exitMode)
 {
-    // The first partner's events had no partner in their name, and reports still expect that.
+    // A deliberate oddity: the video partner's events carry no partner's code.
     std::string name = "offer_install_ms_store";
     if (partnerId < videoPartner.id)
         name += "_unknown";

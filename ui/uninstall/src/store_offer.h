@@ -1,7 +1,7 @@
 #pragma once
 
 // The store offer's data and decisions: which partner application is offered after an exit
-// survey, and the names that the offer has elsewhere. Pure; any thread.
+// survey, and the names that the offer has elsewhere. Any thread.
 
 #include <string>
 
@@ -26,6 +26,9 @@ std::string musicOfferFlag(int uninstalledId, bool exitMode);
 // The partner offered when `uninstalledId` is uninstalled. `musicOfferEnabled` is the value of
 // musicOfferFlag(); it counts only for applications that have the flag.
 const StorePartner& choosePartner(int uninstalledId, bool musicOfferEnabled);
+
+// The same by the value of the flag in common.cfg at this moment.
+const StorePartner& partnerFor(int uninstalledId, bool exitMode);
 
 // The offer's name in statistics events.
 std::string offerEventName(int partnerId, bool exitMode);

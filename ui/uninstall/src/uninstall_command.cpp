@@ -1,6 +1,6 @@
 #include "ui/uninstall/src/uninstall_command.h"
 
-#include "ui/common/config/brand.h"
+#include "ui/uninstall/src/text_parts.h"
 
 #include <cstddef>
 
@@ -10,17 +10,6 @@ namespace {
 
 constexpr std::string_view logSwitch = "/log";
 constexpr std::string_view logSeparator = " /log";
-
-std::string_view afterLast(std::string_view text, std::string_view mark)
-{
-    const std::size_t found = text.rfind(mark);
-    return found == std::string_view::npos ? text : text.substr(found + mark.size());
-}
-
-std::string_view beforeFirst(std::string_view text, std::string_view mark)
-{
-    return text.substr(0, text.find(mark));
-}
 
 } // namespace
 
@@ -50,7 +39,7 @@ std::string programOf(const std::vector<std::string>& parts)
 std::vector<std::string> uninstallArguments(const std::vector<std::string>& parts,
                                             const RunOptions& options)
 {
-    // While a large suite goes, and when its settings and history go too, no logs are kept.
+    // No logs while more than three rows remain, nor when settings and history are deleted.
     const bool dropsLog = options.full && (options.remaining > 3 || options.deleteSettings);
 
     std::vector<std::string> arguments;
@@ -68,16 +57,6 @@ std::vector<std::string> uninstallArguments(const std::vector<std::string>& part
 bool writesUninstallMode(const RunOptions& options)
 {
     return options.full && options.remaining >= 2;
-}
-
-std::string shownName(std::string_view installPath, std::string_view brand)
-{
-    return std::string(beforeFirst(afterLast(installPath, std::string(brand) + "\\"), "\\"));
-}
-
-std::string listName(std::string_view brand)
-{
-    return brand == fs::companyBrand ? "UninstallPaths" : "UninstPaths";
 }
 
 } // namespace uninstall

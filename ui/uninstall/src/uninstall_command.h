@@ -35,11 +35,4 @@ std::vector<std::string> uninstallArguments(const std::vector<std::string>& part
 // run, as long as more of the suite follows.
 bool writesUninstallMode(const RunOptions& options);
 
-// The folder name of an application, for the running-application warning: what follows the last
-// "<brand>\" in its install path, up to the next "\".
-std::string shownName(std::string_view installPath, std::string_view brand);
-
-// The registry subkey that holds the uninstall list of a brand.
-std::string listName(std::string_view brand);
-
 } // namespace uninstall

@@ -9,13 +9,7 @@ namespace uninstall {
 
 namespace {
 
-// The two applications whose users are asked why they leave.
-bool hasExitSurvey(int id)
-{
-    return id == 60 || id == 61;
-}
-
-bool everyRowChecked(std::size_t rowCount, IUninstallSteps& steps)
+bool everyRowChecked(std::size_t rowCount, const IUninstallSteps& steps)
 {
     for (std::size_t row = 0; row < rowCount; ++row) {
         if (!steps.isChecked(row))
@@ -68,14 +62,13 @@ void runUninstall(std::size_t rowCount, IUninstallSteps& steps)
         closeIfRunning(id, steps);
         if (steps.cancelled())
             continue;
-        steps.uninstall(remaining, static_cast<int>(row), splitCommand(command), allChecked);
+        steps.uninstall(remaining, splitCommand(command), allChecked);
         steps.removeRow(row);
         --remaining;
     }
 
     if (allChecked && !steps.cancelled()) {
-        steps.uninstall(remaining, suiteRow ? static_cast<int>(*suiteRow) : -1, suiteCommandParts,
-                        true);
+        steps.uninstall(remaining, suiteCommandParts, true);
         if (suiteRow)
             steps.removeRow(*suiteRow);
     }

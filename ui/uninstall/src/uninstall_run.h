@@ -14,17 +14,17 @@ public:
     virtual ~IUninstallSteps() = default;
 
     // The row's check box as it is now: a cancelled warning changes the boxes during the run.
-    virtual bool isChecked(std::size_t row) = 0;
+    virtual bool isChecked(std::size_t row) const = 0;
     // The row's uninstall command, empty when none is registered.
-    virtual std::string command(std::size_t row) = 0;
+    virtual std::string command(std::size_t row) const = 0;
     virtual void setCurrentAppId(int id) = 0;
     virtual void openExitSurvey(int id) = 0;
-    virtual bool isRunning(const std::string& idString) = 0;
-    // May set what cancelled() tells.
+    virtual bool isRunning(const std::string& idString) const = 0;
+    // May make cancelled() return true.
     virtual void showWarningAndKillApp(const std::string& idString) = 0;
-    virtual bool cancelled() = 0;
-    // `index` is the row, or -1 for a suite that has no row. `commandParts` may then be empty.
-    virtual void uninstall(int remaining, int index, const std::vector<std::string>& commandParts,
+    virtual bool cancelled() const = 0;
+    // `commandParts` is empty for a suite that has no row.
+    virtual void uninstall(int remaining, const std::vector<std::string>& commandParts,
                            bool full) = 0;
     virtual void removeRow(std::size_t row) = 0;
 };

@@ -18,13 +18,11 @@
 #include "ui/uninstall/src/registry_keys.h"
 #include "ui_widget.h"
 
-using uninstall::logMainForm;
-
 Widget::Widget(std::vector<std::string> arguments, QWidget* parent)
     : CInterprocessCommunicationApp(std::move(arguments), parent, true, 0),
       ui(std::make_unique<Ui::Widget>()), currentAppId(uninstall::suiteId)
 {
-    logMainForm(__LINE__, [](std::ostream& out) { out << "-->Widget::Widget()"; });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation) << "-->Widget::Widget()";
 
     ui->setupUi(this);
 #if QT_CONFIG(dockwidget)
@@ -50,7 +48,7 @@ Widget::Widget(std::vector<std::string> arguments, QWidget* parent)
 
 Widget::~Widget()
 {
-    logMainForm(__LINE__, [](std::ostream& out) { out << "~Widget()"; });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation) << "~Widget()";
     ui.reset();
     // Uninstallers and taskkill go on without the window; destroying their objects would kill them.
     const auto programs = findChildren<QProcess*>(QString(), Qt::FindDirectChildrenOnly);
@@ -63,9 +61,8 @@ Widget::~Widget()
 void Widget::fillList()
 {
     const std::string& brand = fs::runtimeBrandName();
-    logMainForm(__LINE__, [&brand](std::ostream& out) {
-        out << "Try to fill list widget (runtime brand: " << brand << ")";
-    });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation)
+        << "Try to fill list widget (runtime brand: " << brand << ")";
 
     const QSettings registered(uninstall::uninstallListKey(), QSettings::NativeFormat);
     const QStringList names = registered.childKeys();
@@ -94,8 +91,7 @@ void Widget::connectControls()
 
 void Widget::showEvent(QShowEvent*)
 {
-    // Debug builds of the suite's applications branch here; this one has nothing to add, and
-    // QMainWindow has no show handling of its own to forward to.
+    // A deliberate oddity: the switch is read, changes nothing, and nothing is forwarded.
     const bool debugging = sys::environmentSwitch("CV_DEBUG");
     Q_UNUSED(debugging)
 }
@@ -129,7 +125,7 @@ void Widget::keepDeleteSettings(bool checked)
 
 void Widget::on_firstShow()
 {
-    // Must stay empty: the window's first moments belong to the user.
+    // Deliberately empty.
 }
 
 void Widget::selectApplication(QString id)
@@ -149,7 +145,7 @@ void Widget::allApplicationsSelButtonClicked()
 {
     if (!run.choiceIsOpen())
         return;
-    logMainForm(__LINE__, [](std::ostream& out) { out << "allApplicationsSelButtonClicked"; });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation) << "allApplicationsSelButtonClicked";
     const bool selectAll = ui->btnAllApplicationsSel->property("state").toBool();
     changeItemsState(selectAll);
     setSelectButtonMode(!selectAll);
@@ -163,8 +159,8 @@ void Widget::changeItemsState(bool checked)
 {
     if (!run.choiceIsOpen())
         return;
-    logMainForm(__LINE__,
-                [checked](std::ostream& out) { out << "changeItemsState: " << (checked ? 1 : 0); });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation)
+        << "changeItemsState: " << (checked ? 1 : 0);
     const QSignalBlocker blocker(ui->listWidget);
     for (int row = 0; row < ui->listWidget->count(); ++row)
         ui->listWidget->item(row)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);

@@ -68,8 +68,8 @@ public:
     void openExitSurvey(int appId);
 
     // Runs one uninstaller and waits for it for at most two seconds. `remaining` counts the rows
-    // not uninstalled yet, this one included; `index` is the row's position; `commandParts` is
-    // its registered command, split at " /log"; `full` says that everything is being removed.
+    // not uninstalled yet, this one included; `index` is not used; `commandParts` is the
+    // registered command, split at " /log"; `full` says that everything is being removed.
     void DoUninsstall(int remaining, int index, const std::vector<std::string>& commandParts,
                       bool full);
 

@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr Keelbase::LogSource dialogsLog{"MainForm", "ui/uninstall/src/widget_dialogs"};
+
 // Survey and offer belong to the uninstaller, not to an application that is being closed.
 constexpr bool notOnExit = false;
 
@@ -76,17 +78,12 @@ void Widget::showStoreOffer()
 
 void Widget::openStorePage()
 {
-    const std::string productId = FvdOpenMsDlg::partnerFor(currentAppId, notOnExit).productId;
-    uninstall::logMainForm(__LINE__, [&productId](std::ostream& out) {
-        out << "cross-sell store app -> ProductId=" << productId;
-    });
+    const std::string productId = uninstall::partnerFor(currentAppId, notOnExit).productId;
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation)
+        << "cross-sell store app -> ProductId=" << productId;
     const QUrl address(QString::fromStdString(uninstall::storeAddress(productId)));
-    if (QDesktopServices::openUrl(address))
-        return;
-    uninstall::logMainForm(
-        __LINE__,
-        [&address](std::ostream& out) {
-            out << "cannot open " << address.toString().toStdString();
-        },
-        Keelbase::levelError);
+    if (!QDesktopServices::openUrl(address)) {
+        KEELBASE_LOG(dialogsLog, Keelbase::levelError)
+            << "cannot open " << address.toString().toStdString();
+    }
 }

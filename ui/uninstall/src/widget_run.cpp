@@ -12,6 +12,7 @@
 #include "ui/common/config/runtime_brand.h"
 #include "ui/uninstall/src/main_form_log.h"
 #include "ui/uninstall/src/registry_keys.h"
+#include "ui/uninstall/src/registry_names.h"
 #include "ui/uninstall/src/responsive_wait.h"
 #include "ui/uninstall/src/running_application.h"
 #include "ui/uninstall/src/system_program.h"
@@ -19,23 +20,17 @@
 #include "ui/uninstall/src/uninstall_run.h"
 #include "ui_widget.h"
 
-using uninstall::logMainForm;
-
 namespace {
 
-constexpr int uninstallerWaitMs = 2000;
+constexpr Keelbase::LogSource runLog{"MainForm", "ui/uninstall/src/widget_run"};
 
 // The run goes on without a program that cannot be started.
 void logUnlessStarted(const QProcess& process, const char* what)
 {
-    if (process.error() != QProcess::FailedToStart)
-        return;
-    logMainForm(
-        __LINE__,
-        [&process, what](std::ostream& out) {
-            out << what << ": not started: " << process.errorString().toStdString();
-        },
-        Keelbase::levelDetail);
+    if (process.error() == QProcess::FailedToStart) {
+        KEELBASE_LOG(runLog, Keelbase::levelDetail)
+            << what << ": not started: " << process.errorString().toStdString();
+    }
 }
 
 } // namespace
@@ -52,9 +47,9 @@ public:
 
     std::size_t rowCount() const { return items.size(); }
 
-    bool isChecked(std::size_t row) override { return items[row]->checkState() == Qt::Checked; }
+    bool isChecked(std::size_t row) const override { return items[row]->checkState() == Qt::Checked; }
 
-    std::string command(std::size_t row) override
+    std::string command(std::size_t row) const override
     {
         return registered.value(items[row]->text()).toString().toStdString();
     }
@@ -62,7 +57,7 @@ public:
     void setCurrentAppId(int id) override { widget.currentAppId = id; }
     void openExitSurvey(int id) override { widget.openExitSurvey(id); }
 
-    bool isRunning(const std::string& idString) override
+    bool isRunning(const std::string& idString) const override
     {
         return uninstall::applicationIsRunning(idString);
     }
@@ -72,12 +67,12 @@ public:
         widget.showWarningAndKillApp(idString, true);
     }
 
-    bool cancelled() override { return widget.run.cancelled(); }
+    bool cancelled() const override { return widget.run.cancelled(); }
 
-    void uninstall(int remaining, int index, const std::vector<std::string>& commandParts,
-                   bool full) override
+    void uninstall(int remaining, const std::vector<std::string>& commandParts, bool full) override
     {
-        widget.DoUninsstall(remaining, index, commandParts, full);
+        constexpr int unusedIndex = -1;
+        widget.DoUninsstall(remaining, unusedIndex, commandParts, full);
     }
 
     // The item leaves the list with its deletion.
@@ -93,7 +88,7 @@ void Widget::uninstallButtonClicked()
 {
     if (!run.begin())
         return;
-    logMainForm(__LINE__, [](std::ostream& out) { out << "--> uninstallButtonClicked"; });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation) << "--> uninstallButtonClicked";
     UninstallSteps steps(*this);
     uninstall::runUninstall(steps.rowCount(), steps);
     QCoreApplication::quit();
@@ -101,8 +96,8 @@ void Widget::uninstallButtonClicked()
 
 void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
 {
-    logMainForm(__LINE__,
-                [&appName](std::ostream& out) { out << "--> showWarningAndKillApp: " << appName; });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation)
+        << "--> showWarningAndKillApp: " << appName;
 
     const QString idString = QString::fromStdString(appName);
     QString shownName = idString;
@@ -113,8 +108,7 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
             QString::fromStdString(uninstall::shownName(installPath, fs::runtimeBrandName()));
     }
 
-    // The suite's applications show this question with the program's own picture. Here that box is
-    // only kept ready; a removal is asked about with the system's plain warning.
+    // A deliberate oddity: this box is prepared and never shown.
     QMessageBox branded(this);
     branded.setIconPixmap(QIcon(QStringLiteral(":/uninstall_ico_48x48.png")).pixmap(48, 48));
 
@@ -126,9 +120,9 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
         QMessageBox::Ok | QMessageBox::Cancel);
     if (answer != QMessageBox::Ok) {
         const uninstall::RunState::OwnChange own(run);
-        // In this order: the select-button slot sees the rows just unchecked. In a selective run
-        // it checks them all again, in a full run it leaves them unchecked and disables the
-        // buttons; the run ends soon after either way.
+        // A deliberate oddity: the select-button slot runs on the rows just unchecked. In a
+        // selective run it checks them all again, in a full run it leaves them unchecked and
+        // disables the buttons. The run ends either way.
         changeItemsState(false);
         allApplicationsSelButtonClicked();
         run.cancel();
@@ -138,7 +132,7 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
     const std::wstring taskkillPath = uninstall::systemProgram(L"taskkill.exe");
     if (taskkillPath.empty())
         return;
-    // Not waited for: the application's own uninstaller copes with one that is still closing.
+    // Deliberately not waited for.
     auto* taskkill = new QProcess(this);
     taskkill->start(
         QString::fromStdWString(taskkillPath),
@@ -150,13 +144,12 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
 void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& commandParts,
                           bool full)
 {
-    logMainForm(__LINE__, [full](std::ostream& out) {
-        out << "--> DoUninsstall: " << (full ? "full" : "selective");
-    });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation)
+        << "--> DoUninsstall: " << (full ? "full" : "selective");
     const std::string program = uninstall::programOf(commandParts);
     if (program.empty())
         return;
-    logMainForm(__LINE__, [&program](std::ostream& out) { out << "DoUninsstall: " << program; });
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation) << "DoUninsstall: " << program;
 
     auto* uninstaller = new QProcess(this);
     const uninstall::RunOptions options{remaining, full, ui->cbDeleteSettings->isChecked()};
@@ -170,5 +163,6 @@ void Widget::DoUninsstall(int remaining, int, const std::vector<std::string>& co
         arguments.append(QString::fromStdString(argument));
     uninstaller->start(QString::fromStdString(program), arguments, QIODevice::ReadWrite);
     logUnlessStarted(*uninstaller, "DoUninsstall");
-    uninstall::waitForFinished(*uninstaller, uninstallerWaitMs);
+    constexpr int longestWaitMs = 2000;
+    uninstall::waitForFinished(*uninstaller, longestWaitMs);
 }
