@@ -3,7 +3,7 @@
 
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test stress package bench fuzz lint format clean
+.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test stress package bench fuzz lint format clean soak windows-kit
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-11s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -38,6 +38,13 @@ screenshots: build ## picture every window in every language: contact sheets in 
 
 test: setup ## build and run every test, host and Windows
 	@tools/run_tests.sh
+
+soak: setup ## run every test SOAK_RUNS times (10), count failures of each
+	@tools/soak.sh
+
+windows-kit: setup ## pack the Windows tests for a real Windows: ZIP in build/windows-kit/
+	@tools/setup/configure.sh windows-cross
+	@cmake --build --preset windows-cross --target windows_kit
 
 stress: build ## run the long variants of the tests (minutes)
 	@ctest --preset windows-cross --no-tests=error -L stress
