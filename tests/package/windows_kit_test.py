@@ -1,15 +1,18 @@
 """The tests' kit for a real Windows, unpacked where a person might unpack it."""
 
 import hashlib
+import shutil
 import subprocess
 import zipfile
 from pathlib import Path, PureWindowsPath
 from typing import List
 
-from tests.harness import layout
+from tests.harness import layout, processes
 from tests.harness.case import SuiteTestCase
 from tests.harness.registry import REG_BINARY, Value
+from tests.harness.screen import wait_for_window
 from tests.harness.suite import SUITE_KEY
+from tests.harness.waiting import wait_until
 
 PACK = layout.REPOSITORY / "tools" / "windows_kit" / "pack.py"
 FOLDER = PureWindowsPath("C:/users/Public/Tests of Uninstall – 卸载 (1)")
@@ -115,3 +118,24 @@ class WindowsKit(SuiteTestCase):
         self.assertEqual(self.run_tests("windows_sys", answer="no"), 2)
         self.assert_settings_are_back()
 
+    def test_puts_the_settings_back_after_ctrl_c(self):
+        # The suite's instances stay until they are ended.
+        shutil.copy(layout.BUILD / "sample_suite" / "sample_instance.exe", self.kit / "tests")
+        self.add_test(f"passes 60 {CMD} /c exit 0")
+        self.add_test("stays 120 sample_instance.exe")
+        self.add_test(f"never_begins 60 {CMD} /c exit 0")
+        # In a window of its own: only a console has a Ctrl+C.
+        script = self.prefix.start("cmd", "/c", "start", "tests of the kit", "/wait", "cmd", "/c",
+                                   "run-tests.cmd", "passes", "stays", "never_begins", cwd=self.kit)
+        self.addCleanup(self._stop, script)
+        console = wait_for_window("tests of the kit.*", [script])
+        wait_until(lambda: processes.find(self.prefix, FOLDER / "kit/tests/run_tests.exe"),
+                   "the script did not begin")
+        console.press("y", "e", "s", "Return")
+        wait_until(lambda: processes.find(self.prefix, FOLDER / "kit/tests/sample_instance.exe"),
+                   "the second test did not begin")
+        console.press("ctrl+c")
+        wait_until(lambda: "1 passed, 0 failed" in self.report(), "the run did not stop")
+        self.assertIn("stays: stopped", self.report())
+        self.assertNotIn("never_begins", self.report())
+        self.assert_settings_are_back()

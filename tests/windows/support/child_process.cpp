@@ -67,15 +67,10 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
         startup.hStdError = options.captureErrors ? write : GetStdHandle(STD_ERROR_HANDLE);
     }
     PROCESS_INFORMATION information = {};
-    // With dozens of processes starting at once Wine now and then loses one before its first
-    // instruction, and says so with this error only.
-    int attemptsLeft = 5;
-    while (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, options.captureOutput,
-                           CREATE_SUSPENDED, nullptr, nullptr, &startup, &information)) {
-        if (GetLastError() != ERROR_INTERNAL_ERROR || --attemptsLeft == 0) {
-            std::fprintf(stderr, "CreateProcessW(%ls): error %lu\n", line.c_str(), GetLastError());
-            return;
-        }
+    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, options.captureOutput,
+                        CREATE_SUSPENDED, nullptr, nullptr, &startup, &information)) {
+        std::fprintf(stderr, "CreateProcessW(%ls): error %lu\n", line.c_str(), GetLastError());
+        return;
     }
     process.reset(information.hProcess);
     processId = information.dwProcessId;
