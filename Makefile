@@ -3,7 +3,7 @@
 
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-packages setup-qt setup-curl setup-wine build run demo screenshots test stress package bench fuzz lint format clean soak windows-kit
+.PHONY: help setup setup-packages setup-qt setup-curl setup-wine configure build build-demo run demo screenshots test stress package bench fuzz lint format clean soak windows-kit
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-11s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -23,17 +23,24 @@ setup-curl:
 setup-wine:
 	@tools/setup/wine_template.sh
 
-build: setup ## build build/windows/Uninstall.exe
+configure: setup
 	@tools/setup/configure.sh windows-cross
-	@cmake --build --preset windows-cross
 
-run: build ## use the program on a sample suite: in a window, or as "make demo" without a display
+build: configure ## build build/windows/Uninstall.exe
+	@cmake --build --preset windows-cross --target Uninstall
+
+# What a person, or a script in a person's place, uses the program with; the tests are left out.
+build-demo: configure
+	@cmake --build --preset windows-cross --target Uninstall sample_suite wine_launcher trust_root
+
+run: build-demo ## use the program on a sample suite: in a window, or as "make demo" without a display
 	@if [[ -n "$$DISPLAY" ]]; then python3 -B -m demo.by_hand; else python3 -B -m demo.by_itself; fi
 
-demo: build ## drive the program through a full run; transcript, screenshots in build/demo/
+demo: build-demo ## drive the program through a full run; transcript, screenshots in build/demo/
 	@python3 -B -m demo.by_itself
 
-screenshots: build ## picture every window in every language: contact sheets in build/screenshots/
+screenshots: configure ## picture every window in every language: contact sheets in build/screenshots/
+	@cmake --build --preset windows-cross --target wine_launcher
 	@tools/screenshots/contact_sheets.sh
 
 test: setup ## build and run every test, host and Windows
@@ -42,11 +49,11 @@ test: setup ## build and run every test, host and Windows
 soak: setup ## run every test SOAK_RUNS times (10), count failures of each
 	@tools/soak.sh
 
-windows-kit: setup ## pack the Windows tests for a real Windows: ZIP in build/windows-kit/
-	@tools/setup/configure.sh windows-cross
+windows-kit: configure ## pack the Windows tests for a real Windows: ZIP in build/windows-kit/
 	@cmake --build --preset windows-cross --target windows_kit
 
-stress: build ## run the long variants of the tests (minutes)
+stress: configure ## run the long variants of the tests (minutes)
+	@cmake --build --preset windows-cross
 	@ctest --preset windows-cross --no-tests=error -L stress
 
 package: build ## pack the program, its notices and sums: ZIPs in build/package/
@@ -55,8 +62,6 @@ package: build ## pack the program, its notices and sums: ZIPs in build/package/
 bench: setup ## measure the logic, start-up, size, runs, messages (docs/performance.md)
 	@bench/host/run.sh
 	@bench/windows.sh startup
-	@WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d;d3d9=' \
-		bench/windows.sh startup 60 ', without Direct3D'
 	@bench/windows.sh run
 	@bench/windows.sh ipc
 

@@ -28,7 +28,12 @@ if(WIN32)
         UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
     if(MINGW)
         # The same sources give the same file, byte for byte; tests/package holds us to it.
-        add_link_options(-static -Wl,--no-insert-timestamp)
+        add_link_options(-static -Wl,--no-insert-timestamp
+            -Wl,--dynamicbase -Wl,--high-entropy-va -Wl,--nxcompat)
+        add_library(tessera_stack_guard STATIC "${PROJECT_SOURCE_DIR}/support/win32/stack_guard.cpp")
+        target_compile_features(tessera_stack_guard PRIVATE cxx_std_17)
+        target_compile_options(tessera_build_options INTERFACE -fstack-protector-strong)
+        target_link_libraries(tessera_build_options INTERFACE tessera_stack_guard)
     endif()
 endif()
 

@@ -22,4 +22,5 @@ while IFS= read -r argument; do
     arguments+=("$argument")
 done <arguments.txt
 "$compiler" "${arguments[@]}" -o Uninstall.exe
+rm -rf .linked
 echo "$PWD/Uninstall.exe"

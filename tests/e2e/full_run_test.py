@@ -3,13 +3,11 @@
 import shutil
 
 from tests.harness.case import SuiteTestCase
+from tests.harness.main_window import VISIBLE_ROWS
 from tests.harness.suite import START_OF_LOG, SUITE_KEY
 from tests.sample_suite.applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING,
                                              HOLDING, PARTNER, RUNNING, SECOND_RUNNING, SLIDESHOW,
                                              SUITE, TRACK_SAVER, UNKNOWN)
-
-# As many rows as the list shows without scrolling.
-VISIBLE_ROWS = 9
 
 
 class FullRun(SuiteTestCase):

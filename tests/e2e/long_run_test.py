@@ -9,13 +9,13 @@ from typing import Callable, List, NamedTuple, Set
 
 from tests.harness import layout, screen
 from tests.harness.case import SuiteTestCase
+from tests.harness.main_window import VISIBLE_ROWS
 from tests.harness.registry import Value
 from tests.harness.suite import LIST_KEY, MAIN_TITLE, START_OF_LOG, RunningProgram, Suite
 from tests.harness.waiting import PATIENCE
 from tests.sample_suite.applications import SUITE
 
 FOLDER = "C:\\Program Files\\Lumacraft\\Long run"
-VISIBLE_ROWS = 9
 
 # The suite's row is in the middle of the list; its name sorts between the others'.
 BEFORE_THE_SUITE = [f"Application{number:02}" for number in range(20)]

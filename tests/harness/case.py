@@ -58,13 +58,14 @@ class SuiteTestCase(unittest.TestCase):
         return started
 
     def start_program(self, suite: Suite, *arguments: str, rows: Optional[int] = None,
-                      environment: Optional[Dict[str, str]] = None) -> RunningProgram:
+                      environment: Optional[Dict[str, str]] = None,
+                      folder: Optional[Path] = None) -> RunningProgram:
         """The program with its window, which shows so many rows. One that a failed sub-test left
         running is ended first: it would take the new one's arguments."""
         for earlier in self.programs:
             self._stop(earlier.process)
         wait_until(lambda: not screen.find_windows(MAIN_TITLE), "an earlier program's window stays")
-        program = suite.start_program(*arguments, environment=environment)
+        program = suite.start_program(*arguments, environment=environment, folder=folder)
         self.programs.append(program)
         self.addCleanup(self._stop, program.process)
         if rows is not None:

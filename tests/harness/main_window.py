@@ -13,6 +13,8 @@ _REST = (60, 276)  # nothing is there
 _LIST_LEFT, _LIST_TOP, _LIST_BOTTOM = 14, 13, 203
 _BELOW_LIST = 210
 _DELETE_BOTTOM = 245
+# As many rows as the list shows whole, without scrolling.
+VISIBLE_ROWS = 10
 _BOX_COLUMNS = 30  # check boxes begin left of this
 
 # A check box is a frame of 13 points whose corners are rounded, with a dark tick inside.

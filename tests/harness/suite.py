@@ -111,9 +111,10 @@ class Suite:
     def start_application(self, application: Application) -> "RunningApplication":
         return RunningApplication(self, application)
 
-    def start_program(self, *arguments: str,
-                      environment: Optional[Dict[str, str]] = None) -> "RunningProgram":
-        return RunningProgram(self, arguments, environment)
+    def start_program(self, *arguments: str, environment: Optional[Dict[str, str]] = None,
+                      folder: Optional[Path] = None) -> "RunningProgram":
+        """`folder` is to be the program's current one."""
+        return RunningProgram(self, arguments, environment, folder)
 
 
 class RunningApplication:
@@ -146,9 +147,10 @@ class RunningProgram:
     """One run of Uninstall.exe with its window."""
 
     def __init__(self, suite: Suite, arguments: Iterable[str],
-                 environment: Optional[Dict[str, str]]):
+                 environment: Optional[Dict[str, str]], folder: Optional[Path]):
         program = suite.prefix.unix_path(suite.program_folder) / "Uninstall.exe"
-        self.process = suite.prefix.start(program, *arguments, environment=environment)
+        self.process = suite.prefix.start(program, *arguments, environment=environment,
+                                           cwd=folder)
         self.main_window = MainWindow(
             screen.wait_for_window(MAIN_TITLE, alive=[self.process]))
 

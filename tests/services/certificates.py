@@ -45,15 +45,20 @@ class Authority:
         self._config.write_text(_AUTHORITY_CONFIG.format(folder=folder))
 
     def server_context(self, hosts: Sequence[str],
-                       period: Optional[Tuple[str, str]] = None) -> ssl.SSLContext:
+                       period: Optional[Tuple[str, str]] = None,
+                       revocation_list: Optional[str] = None) -> ssl.SSLContext:
         """For a TLS server with those names. `period` is (from, to) as YYYYMMDDHHMMSSZ; without
-        it the certificate is good today."""
+        it the certificate is good today. `revocation_list` is where revoked ones are told."""
         base = self._folder / f"server-{len(list(self._folder.glob('server-*.key')))}"
         key, request, certificate = (base.with_suffix(suffix) for suffix in
                                      (".key", ".csr", ".pem"))
         names = ",".join(f"DNS:{host}" for host in hosts)
+        extensions = [f"subjectAltName={names}"]
+        if revocation_list is not None:
+            extensions.append(f"crlDistributionPoints=URI:{revocation_list}")
         _openssl("req", "-newkey", "rsa:2048", "-nodes", "-subj", f"/CN={hosts[0]}",
-                 "-addext", f"subjectAltName={names}", "-keyout", key, "-out", request)
+                 *(word for extension in extensions for word in ("-addext", extension)),
+                 "-keyout", key, "-out", request)
         dates = ("-days", 30) if period is None else ("-startdate", period[0],
                                                       "-enddate", period[1])
         _openssl("ca", "-batch", "-notext", "-config", self._config, "-cert", self._certificate,

@@ -23,16 +23,18 @@ Qt and your rights
 This program contains Qt, which is Copyright (C) The Qt Company Ltd. and other
 contributors, and is licensed under the GNU Lesser General Public License,
 version 3 (licences/LGPL-3.0.txt, which adds to licences/GPL-3.0.txt). Qt is
-linked statically and was not changed: its source is Debian's source package
+linked statically. Its source is Debian's source package
 
     {source} {version}
 
-fetched from a mirror of Debian, where everybody can get it without charge
+with the patches in the archive named below. The package is on the mirrors of
+Debian, where everybody can get it without charge
 ("apt-get source {source}={version}";
 older versions stay at https://snapshot.debian.org/package/{source}/).
 
 You may change Qt and put the changed Qt into this program. The object files that
-this takes, the linker's command line and the recipe that Qt was built with are in
+this takes, the linker's command line, and the recipe and the patches that Qt was
+built with are in
 the archive Tessera-Uninstall-{release}-relink.zip, which is published
 beside this package; its README.txt tells the three steps. Whoever passes this
 package on passes that archive on too. The licence of this program allows

@@ -11,6 +11,7 @@ from problem import Problem
 _TEMPLATE = REPOSITORY / "packaging" / "relink"
 _SETUP = REPOSITORY / "tools" / "setup"
 _QT_RECIPE = ["qt.sh", "common.sh", "recipes/qt.sh"]
+_LINKER = REPOSITORY / "cmake" / "link"
 _OBJECTS = (".obj", ".o", ".res", ".a")
 
 
@@ -20,7 +21,9 @@ def _collect(tree: BuildTree) -> Tuple[List[str], Dict[str, Path]]:
     objects: Dict[Path, str] = {}
     for argument in tree.link_arguments():
         path = tree.folder / argument
-        if argument.startswith("-") or not argument.endswith(_OBJECTS):
+        if path.is_relative_to(_LINKER):
+            arguments.append(f"link/{path.name}")
+        elif argument.startswith("-") or not argument.endswith(_OBJECTS):
             arguments.append(argument)
         elif path.is_relative_to(tree.qt_prefix):
             arguments.append(f"@QT@/{path.relative_to(tree.qt_prefix)}")
@@ -35,7 +38,7 @@ def _collect(tree: BuildTree) -> Tuple[List[str], Dict[str, Path]]:
         else:
             raise Problem(f"{argument} is linked from outside the build and the set-up's libraries")
     strangers = [argument for argument in arguments if "/" in argument
-                 and not argument.startswith(("@QT@/", "@COMPILER@/", "objects/"))]
+                 and not argument.startswith(("@QT@/", "@COMPILER@/", "objects/", "link/"))]
     if strangers:
         raise Problem(f"the linker's arguments hold paths of this machine: {strangers}")
     return arguments, {name: path for path, name in objects.items()}
@@ -54,6 +57,10 @@ def pack(tree: BuildTree, components: Components, date: int) -> Archive:
     archive.add_bytes("arguments.txt", "".join(f"{line}\n" for line in arguments).encode())
     for file in _QT_RECIPE:
         archive.add_file(f"qt/{file}", _SETUP / file, executable=file == "qt.sh")
+    for patch in sorted((_SETUP / "patches" / "qt").glob("*.patch")):
+        archive.add_file(f"qt/patches/qt/{patch.name}", patch)
+    for script in sorted(_LINKER.glob("*.py")):
+        archive.add_file(f"link/{script.name}", script, executable=script.name == "lld.py")
     for object_name, path in objects.items():
         archive.add_file(object_name, path)
     return archive

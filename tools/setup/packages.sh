@@ -17,8 +17,8 @@ packages=(
     # the host's tools, compiler and libraries
     cmake ninja-build ccache g++ python3 perl openssl xz-utils dpkg-dev
     libspdlog-dev libfmt-dev libcurl4-openssl-dev googletest libbenchmark-dev
-    # the cross compiler, and the host's side of Qt 5
-    g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 qtbase5-dev-tools qt5-qmake-bin
+    # the cross compiler, its linker, and the host's side of Qt 5
+    g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 lld-19 qtbase5-dev-tools qt5-qmake-bin
     qttools5-dev-tools
     # running Windows programs, and looking at them
     wine wine64 xvfb openbox xdotool imagemagick

@@ -11,6 +11,7 @@
 #include <windows.h>
 
 #define SECURITY_WIN32
+#define CERT_CHAIN_PARA_HAS_EXTRA_FIELDS
 #include <schannel.h>
 #include <security.h>
 #include <wincrypt.h>
@@ -57,6 +58,20 @@ DWORD revocationCheck(DWORD flags)
     return wanted && (flags & bestEffort) != bestEffort ? CERT_CHAIN_REVOCATION_CHECK_CHAIN : 0;
 }
 
+// Windows asks for revocation lists also where it does without them, and the handshake waits.
+void awaitRevocationLists(PCCERT_CONTEXT certificate)
+{
+    constexpr DWORD windowsPatienceMs = 15000;
+    CERT_CHAIN_PARA parameters{};
+    parameters.cbSize = sizeof parameters;
+    parameters.dwUrlRetrievalTimeout = windowsPatienceMs;
+    PCCERT_CHAIN_CONTEXT chain = nullptr;
+    if (CertGetCertificateChain(nullptr, certificate, nullptr, certificate->hCertStore, &parameters,
+                                CERT_CHAIN_REVOCATION_CHECK_CHAIN, nullptr, &chain)) {
+        CertFreeCertificateChain(chain);
+    }
+}
+
 SECURITY_STATUS checkChain(PCCERT_CONTEXT certificate, wchar_t* host, DWORD flags)
 {
     CERT_CHAIN_PARA parameters{};
@@ -92,6 +107,9 @@ SECURITY_STATUS checkServer(CtxtHandle* context, wchar_t* host, DWORD flags)
     if (QueryContextAttributesW(context, SECPKG_ATTR_REMOTE_CERT_CONTEXT, &certificate) !=
         SEC_E_OK) {
         return SEC_E_CERT_UNKNOWN;
+    }
+    if ((flags & SCH_CRED_REVOCATION_CHECK_CHAIN) != 0) {
+        awaitRevocationLists(certificate);
     }
     const SECURITY_STATUS status = checkChain(certificate, host, flags);
     CertFreeCertificateContext(certificate);

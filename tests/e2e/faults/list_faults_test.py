@@ -4,12 +4,12 @@ import unittest
 
 from tests.harness import probes
 from tests.harness.case import SuiteTestCase
+from tests.harness.main_window import VISIBLE_ROWS
 from tests.harness.registry import Value
 from tests.harness.suite import LIST_KEY, SELECTIVE, Suite
 from tests.harness.waiting import wait_until
 
 MANY = 500
-SHOWN = 9
 
 # In the order of the list: by the values of their UTF-16 units.
 NAMES = [
@@ -60,18 +60,18 @@ class ListFaults(SuiteTestCase):
 
     def test_five_hundred_rows_scroll_and_are_removed_by_choice(self):
         self.register([f"Application {number:03}" for number in range(MANY)])
-        program = self.start(SHOWN)
+        program = self.start(VISIBLE_ROWS)
         window = program.main_window
         window.select_all()
         top = window.settled_picture()
         window.press_in_list("End")
         self.assertNotEqual(window.settled_picture(), top)
-        window.wait_for_checked_rows([True] * SHOWN)  # those that were out of sight too
+        window.wait_for_checked_rows([True] * VISIBLE_ROWS)  # those that were out of sight too
         window.press_select_button()
-        window.wait_for_checked_rows([False] * SHOWN)
-        window.toggle_row(SHOWN - 1)
+        window.wait_for_checked_rows([False] * VISIBLE_ROWS)
+        window.toggle_row(VISIBLE_ROWS - 1)
         window.press_in_list("Home")
-        window.wait_for_checked_rows([False] * SHOWN)
+        window.wait_for_checked_rows([False] * VISIBLE_ROWS)
         window.toggle_row(0)
         window.toggle_row(3)
         window.toggle_delete_settings()

@@ -9,8 +9,9 @@ from pathlib import Path
 from tests.e2e.stat.statistics_world import (GEO_HOST, STATISTICS_HOST, LogLine, StatisticsCase,
                                              event_of, proxy_values)
 from tests.services.certificates import Authority
-from tests.services.http_service import (answer, declared_size, header_names, reset_after_headers,
-                                         reset_before_headers, slow_drip, stall, truncated)
+from tests.services.http_service import (HttpService, answer, declared_size, header_names,
+                                         reset_after_headers, reset_before_headers, slow_drip,
+                                         stall, truncated)
 
 GUID = re.compile(r"[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")
 DELIVERED = LogLine(7, "AppEventStat", "ui/common/stat/app_event_stat:71", "stats::sendEvent: ok")
@@ -233,6 +234,13 @@ class Failures(StatisticsCase):
     def test_a_certificate_for_another_host(self):
         other = self.authority.server_context(["other.example"])
         self.check(self.prepare(answer(200), tls=other), 0, transport_error(60))
+
+    def test_a_silent_list_of_revoked_certificates_is_not_waited_for(self):
+        lists = self.enterContext(HttpService(stall))
+        tls = self.authority.server_context(
+            [STATISTICS_HOST], revocation_list=f"http://127.0.0.1:{lists.port}/list.crl")
+        self.check(self.prepare(answer(200), tls=tls), 1, DELIVERED)
+        self.assertEqual(lists.received, [])
 
     def test_a_wrong_proxy_password(self):
         driver = self.prepare(answer(200), credentials=("ann", "right"), password="wrong")

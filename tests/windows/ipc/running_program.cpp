@@ -96,8 +96,10 @@ std::string programLogs()
 
 void clearLogs()
 {
+    // The folder stays: a program that has begun to log does not make it again.
     std::error_code error;
-    std::filesystem::remove_all(logFolder(), error);
+    for (const auto& entry : std::filesystem::directory_iterator(logFolder(), error))
+        std::filesystem::remove(entry.path(), error);
 }
 
 std::wstring programPath()

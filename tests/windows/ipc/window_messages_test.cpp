@@ -26,6 +26,17 @@ bool isAbove(const QWidget& upper, const QWidget& lower)
     return next == wanted;
 }
 
+// Ends once `answer` is there.
+struct PauseAtItsEnd
+{
+    explicit PauseAtItsEnd(const std::future<std::string>& awaited) : answer(awaited) {}
+    ~PauseAtItsEnd() { answer.wait_for(milliseconds(patienceMs)); }
+    PauseAtItsEnd(const PauseAtItsEnd&) = delete;
+    PauseAtItsEnd& operator=(const PauseAtItsEnd&) = delete;
+
+    const std::future<std::string>& answer;
+};
+
 class EventCounter : public QObject
 {
 public:
@@ -377,6 +388,11 @@ void WindowMessagesTest::deliveryThatTheEndDropsIsNotAnswered()
     window->deliveryBegins = std::make_unique<NamedEvent>(name);
     auto answer = sendFromThread("text");
     QVERIFY(NamedEvent(name).wait());
+    QCOMPARE(answer.wait_for(milliseconds(300)), std::future_status::timeout);
+    // Queued behind the delivery and dropped after it, which gives the server thread all the time
+    // that it needs to write an answer before the channel is closed.
+    QMetaObject::invokeMethod(
+        window.get(), [pause = std::make_shared<PauseAtItsEnd>(answer)] {}, Qt::QueuedConnection);
     window.reset();
     QCOMPARE(answer.get(), std::string());
 }

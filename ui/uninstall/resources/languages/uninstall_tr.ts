@@ -35,7 +35,7 @@
     <message>
         <source>Download 100% Free </source>
         <extracomment>The name of the offered application follows.</extracomment>
-        <translation>Yüzde 100 ücretsiz indirin: </translation>
+        <translation>%100 ücretsiz indirin: </translation>
     </message>
     <message>
         <source>Fast, simple and reliable</source>

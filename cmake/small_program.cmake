@@ -1,0 +1,29 @@
+# tessera_link_program(TARGET): links a program that is given to users, in a cross build by lld:
+# - functions and data that nothing uses are left out (see link/collectable.py);
+# - of the system's libraries only those are loaded with the program that Windows, whatever its
+#   version, takes from its own folder ("KnownDLLs"). The others are loaded when they are first used,
+#   see support/win32/delay_load.cpp. tests/package has the list that is allowed.
+set(TESSERA_DELAYED_LIBRARIES
+    bcrypt comdlg32 crypt32 dwmapi imm32 netapi32 ole32 oleaut32 rpcrt4 shell32 userenv uxtheme
+    version winmm ws2_32 wtsapi32)
+
+function(tessera_link_program target)
+    if(MSVC)
+        # Windows 10 and later: all imports from the system's folder only.
+        target_link_options(${target} PRIVATE /DEPENDENTLOADFLAG:0x800)
+    endif()
+    if(NOT CMAKE_CROSSCOMPILING)
+        return()
+    endif()
+    find_program(TESSERA_LLD NAMES ld.lld-19 REQUIRED)
+    target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/support/win32/delay_load.cpp")
+    list(TRANSFORM TESSERA_DELAYED_LIBRARIES PREPEND "-Wl,--delayload=" OUTPUT_VARIABLE delayed)
+    list(TRANSFORM delayed APPEND ".dll")
+    target_link_options(${target} PRIVATE
+        "SHELL:-wrapper ${PROJECT_SOURCE_DIR}/cmake/link/lld.py" -fno-use-linker-plugin
+        ${delayed} $<$<CONFIG:Release>:-s>)
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS
+        "${PROJECT_SOURCE_DIR}/cmake/link/import_library.py"
+        "${PROJECT_SOURCE_DIR}/cmake/link/lld.py"
+        "${PROJECT_SOURCE_DIR}/cmake/link/collectable.py")
+endfunction()

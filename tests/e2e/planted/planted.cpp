@@ -1,0 +1,34 @@
+// A library, or a program, that somebody has put where Uninstall.exe might find it. Loading or
+// running it leaves a file beside it, with ".touched" behind its name.
+#include <iterator>
+#include <string>
+
+#include <windows.h>
+
+namespace {
+
+void leaveMark(HMODULE module)
+{
+    wchar_t path[MAX_PATH] = {};
+    GetModuleFileNameW(module, path, static_cast<DWORD>(std::size(path)));
+    const std::wstring mark = std::wstring(path) + L".touched";
+    const HANDLE file =
+        CreateFileW(mark.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    if (file != INVALID_HANDLE_VALUE)
+        CloseHandle(file);
+}
+
+} // namespace
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
+{
+    if (reason == DLL_PROCESS_ATTACH)
+        leaveMark(module);
+    return TRUE;
+}
+
+int main()
+{
+    leaveMark(nullptr);
+    return 0;
+}

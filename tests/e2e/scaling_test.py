@@ -1,0 +1,20 @@
+"""The window at the scales that Windows offers most."""
+
+from tests.harness import screen
+from tests.harness.case import SuiteTestCase
+from tests.harness.suite import MAIN_TITLE
+
+
+class Scaling(SuiteTestCase):
+
+    def test_grows_the_window_by_the_exact_factor(self):
+        suite = self.install([])
+        for dpi, size in ((96, (379, 305)), (120, (474, 381)), (144, (569, 458)),
+                          (192, (758, 610))):
+            with self.subTest(dpi=dpi):
+                program = self.start_program(suite, environment={"WINE_RUN_DPI": str(dpi)})
+                window = screen.wait_for_window(MAIN_TITLE, [program.process])
+                picture = window.picture()
+                self.assertEqual((picture.width, picture.height), size)
+                window.press("alt+F4")
+                self.assertEqual(program.exit_code(), 0)

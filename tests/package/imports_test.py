@@ -1,0 +1,84 @@
+"""What Windows does before the program's first instruction: which libraries it loads, what it must
+find in them, and how it protects the program."""
+
+import re
+import subprocess
+import unittest
+
+from tests.package.packing import BUILD
+from tests.package.portable_executable import Program
+
+# Listed under "KnownDLLs" in the registry of Windows 7, 8.1, 10 and 11 (HKLM\\SYSTEM\\
+# CurrentControlSet\\Control\\Session Manager\\KnownDLLs): these are always the system's own,
+# whatever lies beside the program.
+ALWAYS_THE_SYSTEMS = {"advapi32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll", "user32.dll"}
+
+# Together they declare all that the program imports.
+HEADERS = ["winsock2.h", "ws2tcpip.h", "windows.h", "aclapi.h", "bcrypt.h", "commctrl.h",
+           "commdlg.h", "dwmapi.h", "imm.h", "lm.h", "mmsystem.h", "ntsecapi.h", "ole2.h", "oleauto.h", "rpc.h",
+           "shellapi.h", "shlobj.h", "userenv.h", "uxtheme.h", "wincrypt.h", "winver.h",
+           "wtsapi32.h"]
+WINDOWS_7 = "0x0601"
+# Declared for all, though Windows 8 brought it.
+WRONGLY_DECLARED = {"GetSystemTimePreciseAsFileTime"}
+
+
+def declared_for(version: str) -> str:
+    """The headers' declarations for a Windows of at least this version."""
+    return subprocess.run(
+        ["x86_64-w64-mingw32-g++-posix", "-E", "-P", "-x", "c++", f"-D_WIN32_WINNT={version}",
+         "-DUNICODE", "-"],
+        input="".join(f"#include <{name}>\n" for name in HEADERS), text=True, check=True,
+        stdout=subprocess.PIPE).stdout
+
+
+def names_in(text: str) -> set:
+    return set("".join(letter if letter.isalnum() or letter == "_" else " "
+                       for letter in text).split())
+
+
+class Imports(unittest.TestCase):
+
+    def setUp(self):
+        self.program = Program(BUILD / "Uninstall.exe")
+
+    def test_that_are_loaded_with_the_program_are_always_the_systems_own(self):
+        self.assertEqual(set(self.program.imports()), ALWAYS_THE_SYSTEMS)
+        self.assertTrue({"bcrypt.dll", "crypt32.dll", "userenv.dll", "dwmapi.dll"} <=
+                        set(self.program.delayed_imports()))
+
+    def test_exist_on_windows_7(self):
+        # By the compiler's headers, which declare newer functions for newer versions only. The C
+        # library's functions are not looked at: msvcrt.dll has got none since Windows 7 that the
+        # compiler's libraries use.
+        known = names_in(declared_for(WINDOWS_7)) - WRONGLY_DECLARED
+        imported = [*self.program.imports().items(), *self.program.delayed_imports().items()]
+        newer = [f"{library}: {name}" for library, names in imported if library != "msvcrt.dll"
+                 for name in names if name not in known]
+        self.assertGreater(sum(len(names) for _, names in imported), 300)
+        self.assertEqual(newer, [])
+
+    def test_headers_tell_old_functions_from_new_ones(self):
+        known, later = names_in(declared_for(WINDOWS_7)), names_in(declared_for("0x0A00"))
+        for name in ("CreateFile2", "GetDpiForWindow", "GetFirmwareType", "GetPointerInfo"):
+            self.assertTrue(name in later and name not in known, name)
+
+
+class Rights(unittest.TestCase):
+
+    def test_are_the_highest_that_the_user_has(self):
+        # An administrator's uninstallers below Program Files start; a standard user is not asked.
+        manifest = (BUILD / "Uninstall.exe").read_bytes()
+        self.assertEqual(re.findall(rb'requestedExecutionLevel level="(\w+)"', manifest),
+                         [b"highestAvailable"])
+
+
+class Protections(unittest.TestCase):
+
+    def test_random_addresses_of_64_bits_and_no_execution_of_data(self):
+        self.assertEqual(Program(BUILD / "Uninstall.exe").protections(),
+                         ["high entropy", "dynamic base", "no execution of data"])
+
+
+if __name__ == "__main__":
+    unittest.main()
