@@ -1,5 +1,6 @@
 # The functions that add tests. A CTest entry is called <host|windows|e2e|package>_<subject>.
-# COST orders the entries: about the seconds that one takes, so that the longest start first.
+# The longest start first: COST is about the seconds that an entry takes. Without one CTest goes by
+# the runs before.
 
 # tessera_add_host_test(NAME SOURCES ... [LIBRARIES ...])
 #   One GoogleTest executable on what the program decides.
@@ -22,9 +23,6 @@ function(tessera_add_windows_entry name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 180)
     endif()
-    if(NOT ARG_COST)
-        set(ARG_COST 5)
-    endif()
     add_test(NAME ${name} COMMAND ${ARG_COMMAND})
     # What needs a variable needs something of Wine's.
     if(NOT ARG_ENVIRONMENT)
@@ -35,30 +33,34 @@ function(tessera_add_windows_entry name)
     endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
-        COST ${ARG_COST}
         ENVIRONMENT "WINEPREFIX=${PROJECT_BINARY_DIR}/prefixes/${name};${ARG_ENVIRONMENT}")
+    if(ARG_COST)
+        set_tests_properties(${name} PROPERTIES COST ${ARG_COST})
+    endif()
 endfunction()
 
 # tessera_add_windows_test(NAME SOURCES ... [LIBRARIES ...] [TIMEOUT seconds] [COST seconds])
 #   One GoogleTest program for Windows, and its entry. Like the program of the Qt tests it runs only
 #   where the user's settings may be changed: tests/windows/support/settings_guard.h.
 function(tessera_add_windows_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE tessera_build_options tessera_windows_test_guard
         ${ARG_LIBRARIES} tessera_uninstall GTest::gmock GTest::gtest_main)
-    tessera_add_windows_entry(${name} COMMAND ${name} ${ARG_UNPARSED_ARGUMENTS})
+    tessera_add_windows_entry(${name} COMMAND ${name}
+        TIMEOUT ${ARG_TIMEOUT} COST ${ARG_COST})
 endfunction()
 
 # tessera_add_qt_test(NAME CLASS SOURCES ... [LIBRARIES ...] [TIMEOUT seconds] [COST seconds])
 #   A test class in the program of all Qt tests, which its source registers (TESSERA_QT_TEST), and
 #   its entry. Several tests may share sources.
 function(tessera_add_qt_test name class)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES" ${ARGN})
     list(TRANSFORM ARG_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
     target_sources(qt_tests PRIVATE ${ARG_SOURCES})
     target_link_libraries(qt_tests PRIVATE ${ARG_LIBRARIES})
-    tessera_add_windows_entry(${name} COMMAND qt_tests ${class} ${ARG_UNPARSED_ARGUMENTS})
+    tessera_add_windows_entry(${name} COMMAND qt_tests ${class}
+        TIMEOUT ${ARG_TIMEOUT} COST ${ARG_COST})
 endfunction()
 
 # tessera_add_python_test(NAME MODULE [DISPLAY] [ENVIRONMENT variable=value...]
@@ -72,9 +74,6 @@ function(tessera_add_python_test name module)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 600)
     endif()
-    if(NOT ARG_COST)
-        set(ARG_COST 5)
-    endif()
     set(screen "")
     if(ARG_DISPLAY)
         set(screen "${PROJECT_SOURCE_DIR}/tools/wine/with-display")
@@ -84,8 +83,10 @@ function(tessera_add_python_test name module)
         WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
-        COST ${ARG_COST}
         ENVIRONMENT "TESSERA_BUILD_DIR=${PROJECT_BINARY_DIR};${ARG_ENVIRONMENT}")
+    if(ARG_COST)
+        set_tests_properties(${name} PROPERTIES COST ${ARG_COST})
+    endif()
     if(ARG_DISPLAY)
         set_tests_properties(${name} PROPERTIES ENVIRONMENT_MODIFICATION "DISPLAY=unset:")
     endif()
