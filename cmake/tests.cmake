@@ -53,7 +53,7 @@ endfunction()
 
 # tessera_add_qt_test(NAME CLASS SOURCES ... [LIBRARIES ...] [TIMEOUT seconds] [COST seconds])
 #   A test class in the program of all Qt tests, which its source registers (TESSERA_QT_TEST), and
-#   its entry. Several tests may share sources.
+#   its entry.
 function(tessera_add_qt_test name class)
     cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES" ${ARGN})
     list(TRANSFORM ARG_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")

@@ -144,7 +144,8 @@ bool putSettingsAside()
     const bool hasFolder = isThere(settingsFolder());
     if (!setFlag(hadFolderValue, hasFolder) ||
         (keyExists(settingsKey) && !copyTree(settingsKey, copyKey)) ||
-        (hasFolder && !moveFolder(settingsFolder(), asideFolder())) || !setFlag(completeValue, true)) {
+        (hasFolder && !moveFolder(settingsFolder(), asideFolder())) ||
+        !setFlag(completeValue, true)) {
         restoreSettings();
         return false;
     }
