@@ -3,7 +3,7 @@
 
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-packages setup-qt setup-curl setup-wine configure build build-demo run demo screenshots test stress package bench fuzz lint format clean
+.PHONY: help setup setup-packages setup-qt setup-curl setup-wine configure build build-demo run demo screenshots test stress package bench fuzz lint format clean soak windows-kit
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-11s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -34,10 +34,10 @@ build-demo: configure
 	@cmake --build --preset windows-cross --target Uninstall sample_suite wine_launcher trust_root
 
 run: build-demo ## use the program on a sample suite: in a window, or as "make demo" without a display
-	@if [[ -n "$$DISPLAY" ]]; then tools/demo/run; else tools/demo/demo; fi
+	@if [[ -n "$$DISPLAY" ]]; then python3 -B -m demo.by_hand; else python3 -B -m demo.by_itself; fi
 
 demo: build-demo ## drive the program through a full run; transcript, screenshots in build/demo/
-	@tools/demo/demo
+	@python3 -B -m demo.by_itself
 
 screenshots: configure ## picture every window in every language: contact sheets in build/screenshots/
 	@cmake --build --preset windows-cross --target wine_launcher
@@ -45,6 +45,12 @@ screenshots: configure ## picture every window in every language: contact sheets
 
 test: setup ## build and run every test, host and Windows
 	@tools/run_tests.sh
+
+soak: setup ## run every test SOAK_RUNS times (10), count failures of each
+	@tools/soak.sh
+
+windows-kit: configure ## pack the Windows tests for a real Windows: ZIP in build/windows-kit/
+	@cmake --build --preset windows-cross --target windows_kit
 
 stress: configure ## run the long variants of the tests (minutes)
 	@cmake --build --preset windows-cross

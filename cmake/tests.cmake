@@ -1,3 +1,7 @@
+# The functions that add tests. A CTest entry is called <host|windows|e2e|package>_<subject>.
+# The longest start first: COST is about the seconds that an entry takes. Without one CTest goes by
+# the runs before.
+
 # tessera_add_host_test(NAME SOURCES ... [LIBRARIES ...])
 #   One GoogleTest executable on what the program decides.
 function(tessera_add_host_test name)
@@ -9,28 +13,81 @@ function(tessera_add_host_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()
 
-# tessera_add_windows_test(NAME SOURCES ... [LIBRARIES ...] [QT_TEST] [TIMEOUT seconds])
-#   One test executable for Windows; CTest runs it through the cross-compiling emulator.
-#   Each CTest entry has its own Wine prefix, so registry, mutexes and pipes never meet.
-#   Runs only where the user's settings may be changed: tests/windows/support/settings_guard.h.
-#   With QT_TEST the source brings its own main (QTEST_MAIN); otherwise GoogleTest's is used.
-function(tessera_add_windows_test name)
-    cmake_parse_arguments(ARG "QT_TEST" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE tessera_build_options tessera_windows_test_guard
-        ${ARG_LIBRARIES})
-    if(ARG_QT_TEST)
-        set_target_properties(${name} PROPERTIES AUTOMOC ON)
-        target_link_libraries(${name} PRIVATE tessera_window tessera_resources Qt5::Test)
-    else()
-        target_link_libraries(${name} PRIVATE tessera_uninstall
-            GTest::gmock GTest::gtest_main)
-    endif()
-    add_test(NAME ${name} COMMAND ${name})
+# tessera_add_windows_entry(NAME COMMAND program arguments... [ENVIRONMENT variable=value...]
+#                           [TIMEOUT seconds] [COST seconds])
+#   One CTest entry for a Windows test program, with a Wine prefix of its own, so that registry,
+#   mutexes and pipes never meet. CTest runs it through the cross-compiling emulator. Without
+#   ENVIRONMENT the test also goes into the kit for a real Windows (tools/windows_kit).
+function(tessera_add_windows_entry name)
+    cmake_parse_arguments(ARG "" "TIMEOUT;COST" "COMMAND;ENVIRONMENT" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 180)
     endif()
+    add_test(NAME ${name} COMMAND ${ARG_COMMAND})
+    # What needs a variable needs something of Wine's.
+    if(NOT ARG_ENVIRONMENT)
+        list(POP_FRONT ARG_COMMAND program)
+        list(JOIN ARG_COMMAND " " arguments)
+        set_property(GLOBAL APPEND PROPERTY TESSERA_KIT_TESTS
+            "${name} ${ARG_TIMEOUT} $<TARGET_FILE_NAME:${program}> ${arguments}")
+    endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "WINEPREFIX=${PROJECT_BINARY_DIR}/prefixes/${name}")
+        ENVIRONMENT "WINEPREFIX=${PROJECT_BINARY_DIR}/prefixes/${name};${ARG_ENVIRONMENT}")
+    if(ARG_COST)
+        set_tests_properties(${name} PROPERTIES COST ${ARG_COST})
+    endif()
+endfunction()
+
+# tessera_add_windows_test(NAME SOURCES ... [LIBRARIES ...] [TIMEOUT seconds] [COST seconds])
+#   One GoogleTest program for Windows, and its entry. Like the program of the Qt tests it runs only
+#   where the user's settings may be changed: tests/windows/support/settings_guard.h.
+function(tessera_add_windows_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE tessera_build_options tessera_windows_test_guard
+        ${ARG_LIBRARIES} tessera_uninstall GTest::gmock GTest::gtest_main)
+    tessera_add_windows_entry(${name} COMMAND ${name}
+        TIMEOUT ${ARG_TIMEOUT} COST ${ARG_COST})
+endfunction()
+
+# tessera_add_qt_test(NAME CLASS SOURCES ... [LIBRARIES ...] [TIMEOUT seconds] [COST seconds])
+#   A test class in the program of all Qt tests, which its source registers (TESSERA_QT_TEST), and
+#   its entry.
+function(tessera_add_qt_test name class)
+    cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES" ${ARGN})
+    list(TRANSFORM ARG_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
+    target_sources(qt_tests PRIVATE ${ARG_SOURCES})
+    target_link_libraries(qt_tests PRIVATE ${ARG_LIBRARIES})
+    tessera_add_windows_entry(${name} COMMAND qt_tests ${class}
+        TIMEOUT ${ARG_TIMEOUT} COST ${ARG_COST})
+endfunction()
+
+# tessera_add_python_test(NAME MODULE [DISPLAY] [ENVIRONMENT variable=value...]
+#                         [TIMEOUT seconds] [COST seconds])
+#   One entry for a Python module of tests, or a class in it, by its name in the package `tests`:
+#   tests.e2e.start_test. With DISPLAY it has a screen of its own, even on a person's desktop: such
+#   tests move the mouse.
+function(tessera_add_python_test name module)
+    cmake_parse_arguments(ARG "DISPLAY" "TIMEOUT;COST" "ENVIRONMENT" ${ARGN})
+    find_package(Python3 3.11 REQUIRED COMPONENTS Interpreter)
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 600)
+    endif()
+    set(screen "")
+    if(ARG_DISPLAY)
+        set(screen "${PROJECT_SOURCE_DIR}/tools/wine/with-display")
+    endif()
+    add_test(NAME ${name}
+        COMMAND ${screen} "${Python3_EXECUTABLE}" -B -m unittest -v ${module}
+        WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${ARG_TIMEOUT}
+        ENVIRONMENT "TESSERA_BUILD_DIR=${PROJECT_BINARY_DIR};${ARG_ENVIRONMENT}")
+    if(ARG_COST)
+        set_tests_properties(${name} PROPERTIES COST ${ARG_COST})
+    endif()
+    if(ARG_DISPLAY)
+        set_tests_properties(${name} PROPERTIES ENVIRONMENT_MODIFICATION "DISPLAY=unset:")
+    endif()
 endfunction()

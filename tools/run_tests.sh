@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# run_tests.sh [PRESET...]: builds the presets and runs their tests; ends with a summary and, when
+# run_tests.sh [PRESET...]: builds the presets, then runs their tests; ends with a summary and, when
 # anything failed, with exit code 1. Without arguments: every preset that runs on this machine.
 #
-#   TEST_JOBS   how many tests run at once (default: the number of cores)
+#   TEST_JOBS   how many Windows tests run at once (default: three for each core; they mostly wait)
 set -uo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -11,7 +11,6 @@ presets=("$@")
 if ((${#presets[@]} == 0)); then
     presets=(host host-asan host-tsan windows-cross)
 fi
-jobs=${TEST_JOBS:-$(nproc)}
 summary=()
 passed=0
 failed=0
@@ -37,30 +36,31 @@ attribute() {
         head -n 1
 }
 
-# Once in some thousand programs Wine does not get a program's end done, whatever the program was.
-# The windows-cross preset therefore runs an entry again that hit its time limit; which ones did is
-# told here, because a program of ours that hangs now and then would look the same.
-timeOuts() {
-    sed -n 's/.* Test *#[0-9]*: \([^ ]*\) .*\*\*\*Timeout.*/\1/p' "$1" | sort -u | paste -sd ' '
-}
-
-runPreset() {
-    local preset=$1 folder begun=$SECONDS report all bad late
-    folder=$(folderOf "$preset")
+buildPreset() {
+    local preset=$1
     echo "== $preset: build"
     if ! "$here/setup/configure.sh" "$preset" || ! cmake --build --preset "$preset"; then
         summary+=("$preset: DOES NOT BUILD")
         failed=$((failed + 1))
-        return
+        return 1
     fi
-    echo "== $preset: test"
-    report="$PWD/$folder/test_report.xml"
-    rm -f "$report"
-    ctest --preset "$preset" --no-tests=error -LE stress -j "$jobs" --output-junit "$report" |
-        tee "$folder/test_output.txt"
-    local status=${PIPESTATUS[0]}
-    all=$(attribute "$report" tests 2>/dev/null)
-    bad=$(attribute "$report" failures 2>/dev/null)
+}
+
+# testPreset PRESET JOBS: leaves what it says in test_output.txt, and its exit code in test_status.
+testPreset() {
+    local folder
+    folder=$(folderOf "$1")
+    ctest --preset "$1" --no-tests=error -LE stress -j "$2" \
+        --output-junit "$PWD/$folder/test_report.xml" >"$folder/test_output.txt" 2>&1
+    echo $? >"$folder/test_status"
+}
+
+countPreset() {
+    local preset=$1 folder all bad status
+    folder=$(folderOf "$preset")
+    status=$(<"$folder/test_status")
+    all=$(attribute "$folder/test_report.xml" tests 2>/dev/null)
+    bad=$(attribute "$folder/test_report.xml" failures 2>/dev/null)
     all=${all:-0}
     bad=${bad:-0}
     # A run that failed without a failed test (nothing found, a crash of ctest) still counts.
@@ -71,18 +71,47 @@ runPreset() {
     passed=$((passed + all - bad))
     failed=$((failed + bad))
     summary+=("$preset: $((all - bad)) of $all test programs passed, \
-$(caseCount "$folder/Testing/Temporary/LastTest.log") cases, $((SECONDS - begun)) s with the build")
-    late=$(timeOuts "$folder/test_output.txt")
-    if [[ -n $late ]]; then
-        summary+=("    hit the time limit at least once: $late")
-    fi
+$(caseCount "$folder/Testing/Temporary/LastTest.log") cases")
 }
 
+built=()
 for preset in "${presets[@]}"; do
-    runPreset "$preset"
+    if buildPreset "$preset"; then
+        built+=("$preset")
+    fi
+done
+begun=$SECONDS
+for preset in "${built[@]}"; do
+    rm -f "$(folderOf "$preset")"/test_{report.xml,output.txt,status}
+done
+
+# The host's tests, one preset after the other, beside those of Windows.
+hostPresets=()
+for preset in "${built[@]}"; do
+    if [[ $preset != windows-cross ]]; then
+        hostPresets+=("$preset")
+    fi
+done
+(for preset in "${hostPresets[@]}"; do
+    testPreset "$preset" "$(nproc)"
+done) &
+hostTests=$!
+if [[ " ${built[*]} " == *" windows-cross "* ]]; then
+    echo "== windows-cross: test"
+    testPreset windows-cross "${TEST_JOBS:-$((3 * $(nproc)))}" &
+    windowsTests=$!
+    tail -n +1 --pid="$windowsTests" -F build/windows/test_output.txt 2>/dev/null
+    wait "$windowsTests"
+    countPreset windows-cross
+fi
+wait "$hostTests"
+for preset in "${hostPresets[@]}"; do
+    echo "== $preset: test"
+    cat "$(folderOf "$preset")/test_output.txt"
+    countPreset "$preset"
 done
 echo
-echo "== summary after $SECONDS s"
+echo "== summary: tests took $((SECONDS - begun)) s, $SECONDS s with the build"
 printf '%s\n' "${summary[@]}"
 echo "$passed passed, $failed failed"
 ((failed == 0))

@@ -1,11 +1,11 @@
 """Uninstall lists that no installer of the suite would write."""
 
-from harness import probes
-from harness.case import SuiteTestCase
-from harness.registry import (REG_BINARY, REG_DWORD, REG_EXPAND_SZ, REG_MULTI_SZ, Value,
-                              text_bytes)
-from harness.suite import LIST_KEY, SELECTIVE, SUITE_KEY, Suite
-from applications import PARTNER, RUNNING
+from tests.harness import probes
+from tests.harness.case import SuiteTestCase
+from tests.harness.registry import (REG_BINARY, REG_DWORD, REG_EXPAND_SZ, REG_MULTI_SZ, Value,
+                                    text_bytes)
+from tests.harness.suite import LIST_KEY, SELECTIVE, SUITE_KEY, Suite
+from tests.sample_suite.applications import PARTNER, RUNNING
 
 # As long as a command may be that Windows still starts, with the other switches added.
 LONG = 30_000

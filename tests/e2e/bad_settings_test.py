@@ -1,7 +1,7 @@
 """A common.cfg that something has damaged. The language that it holds shows in the window."""
 
-from harness.case import SuiteTestCase
-from applications import PARTNER, UNKNOWN
+from tests.harness.case import SuiteTestCase
+from tests.sample_suite.applications import PARTNER, UNKNOWN
 
 LARGE = 50 * 1024 * 1024
 

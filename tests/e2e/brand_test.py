@@ -2,9 +2,9 @@
 
 from pathlib import PureWindowsPath
 
-from harness.case import SuiteTestCase
-from harness.suite import COMPANY_BRAND, PRODUCT_BRAND, PROGRAM_FILES, Suite
-from applications import AWKWARD_FOLDER, PARTNER, SUITE, UNKNOWN
+from tests.harness.case import SuiteTestCase
+from tests.harness.suite import COMPANY_BRAND, PRODUCT_BRAND, PROGRAM_FILES, Suite
+from tests.sample_suite.applications import AWKWARD_FOLDER, PARTNER, SUITE, UNKNOWN
 
 # As many applications as tell the two lists apart.
 ROWS = {COMPANY_BRAND: 1, PRODUCT_BRAND: 2}

@@ -2,11 +2,12 @@
 
 import shutil
 
-from harness.case import SuiteTestCase
-from harness.main_window import VISIBLE_ROWS
-from harness.suite import START_OF_LOG, SUITE_KEY
-from applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, HOLDING, PARTNER,
-                          RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
+from tests.harness.case import SuiteTestCase
+from tests.harness.main_window import VISIBLE_ROWS
+from tests.harness.suite import START_OF_LOG, SUITE_KEY
+from tests.sample_suite.applications import (ALL, AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING,
+                                             HOLDING, PARTNER, RUNNING, SECOND_RUNNING, SLIDESHOW,
+                                             SUITE, TRACK_SAVER, UNKNOWN)
 
 
 class FullRun(SuiteTestCase):

@@ -6,11 +6,11 @@ import shutil
 import subprocess
 from pathlib import PureWindowsPath
 
-from harness import layout
-from harness.case import SuiteTestCase
-from harness.registry import REG_DWORD, Value
-from harness.suite import LIST_KEY, SUITE_KEY, Suite
-from harness.waiting import wait_until
+from tests.harness import layout
+from tests.harness.case import SuiteTestCase
+from tests.harness.registry import REG_DWORD, Value
+from tests.harness.suite import LIST_KEY, SUITE_KEY, Suite
+from tests.harness.waiting import wait_until
 
 PAGE = layout.REPOSITORY / "docs" / "integrating.md"
 LAST_WORDS = "Wave Tuner removed\r\n"

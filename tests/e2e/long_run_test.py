@@ -7,13 +7,13 @@ import subprocess
 import time
 from typing import Callable, List, NamedTuple, Set
 
-from harness import layout, screen
-from harness.case import SuiteTestCase
-from harness.main_window import VISIBLE_ROWS
-from harness.registry import Value
-from harness.suite import LIST_KEY, MAIN_TITLE, START_OF_LOG, RunningProgram, Suite
-from harness.waiting import PATIENCE
-from applications import SUITE
+from tests.harness import layout, screen
+from tests.harness.case import SuiteTestCase
+from tests.harness.main_window import VISIBLE_ROWS
+from tests.harness.registry import Value
+from tests.harness.suite import LIST_KEY, MAIN_TITLE, START_OF_LOG, RunningProgram, Suite
+from tests.harness.waiting import PATIENCE
+from tests.sample_suite.applications import SUITE
 
 FOLDER = "C:\\Program Files\\Lumacraft\\Long run"
 

@@ -4,11 +4,11 @@ or from the current folder."""
 import shutil
 from pathlib import Path
 
-from harness import layout
-from harness.case import SuiteTestCase
-from harness.screen import pressing
-from harness.suite import SURVEY_TITLE, WARNING_TITLE
-from applications import CLIP_SAVER, RUNNING
+from tests.harness import layout
+from tests.harness.case import SuiteTestCase
+from tests.harness.screen import pressing
+from tests.harness.suite import SURVEY_TITLE, WARNING_TITLE
+from tests.sample_suite.applications import CLIP_SAVER, RUNNING
 
 LIBRARIES = [
     # What the program, with Qt and libcurl in it, imports beyond the libraries that Windows always

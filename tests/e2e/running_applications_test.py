@@ -2,11 +2,12 @@
 
 import shutil
 
-from harness import layout
-from harness.case import SuiteTestCase
-from harness.screen import pressing
-from harness.suite import START_OF_LOG, WARNING_TITLE
-from applications import AWKWARD_FOLDER, PARTNER, RUNNING, SECOND_RUNNING, SLIDESHOW, SUITE, UNKNOWN
+from tests.harness import layout
+from tests.harness.case import SuiteTestCase
+from tests.harness.screen import pressing
+from tests.harness.suite import START_OF_LOG, WARNING_TITLE
+from tests.sample_suite.applications import (AWKWARD_FOLDER, PARTNER, RUNNING, SECOND_RUNNING,
+                                             SLIDESHOW, SUITE, UNKNOWN)
 
 BEGUN = "--> uninstallButtonClicked"
 

@@ -1,8 +1,8 @@
 """The window at the scales that Windows offers most."""
 
-from harness import screen
-from harness.case import SuiteTestCase
-from harness.suite import MAIN_TITLE
+from tests.harness import screen
+from tests.harness.case import SuiteTestCase
+from tests.harness.suite import MAIN_TITLE
 
 
 class Scaling(SuiteTestCase):

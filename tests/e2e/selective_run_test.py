@@ -1,9 +1,10 @@
 """Runs that leave at least one application where it is."""
 
-from harness.case import SuiteTestCase
-from harness.suite import START_OF_LOG, SUITE_KEY
-from applications import (AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING, FAILURE_CODE, HOLDING,
-                          PARTNER, SECOND_RUNNING, SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
+from tests.harness.case import SuiteTestCase
+from tests.harness.suite import START_OF_LOG, SUITE_KEY
+from tests.sample_suite.applications import (AWKWARD_FOLDER, CLIP_SAVER, DAMAGED, FAILING,
+                                             FAILURE_CODE, HOLDING, PARTNER, SECOND_RUNNING,
+                                             SLIDESHOW, SUITE, TRACK_SAVER, UNKNOWN)
 
 
 

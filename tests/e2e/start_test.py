@@ -1,9 +1,9 @@
 """The program's start: its command line, and what it does without anything to remove."""
 
-from harness import screen
-from harness.case import SuiteTestCase
-from harness.suite import MAIN_TITLE, PRODUCT_BRAND, START_OF_LOG, Suite
-from applications import AWKWARD_FOLDER, CLIP_SAVER, PARTNER, SLIDESHOW
+from tests.harness import screen
+from tests.harness.case import SuiteTestCase
+from tests.harness.suite import MAIN_TITLE, PRODUCT_BRAND, START_OF_LOG, Suite
+from tests.sample_suite.applications import AWKWARD_FOLDER, CLIP_SAVER, PARTNER, SLIDESHOW
 
 ROWS = [AWKWARD_FOLDER, CLIP_SAVER, SLIDESHOW, PARTNER]
 

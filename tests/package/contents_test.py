@@ -8,7 +8,7 @@ import subprocess
 import zipfile
 from pathlib import Path
 
-from packing import BUILD, REPOSITORY, ScratchTestCase, only, pack, unpack
+from tests.package.packing import BUILD, REPOSITORY, ScratchTestCase, only, pack, unpack
 
 TABLE = json.loads((REPOSITORY / "packaging" / "components.json").read_text(encoding="utf-8"))
 

@@ -5,8 +5,8 @@ import re
 import subprocess
 import unittest
 
-from packing import BUILD
-from portable_executable import Program
+from tests.package.packing import BUILD
+from tests.package.portable_executable import Program
 
 # Listed under "KnownDLLs" in the registry of Windows 7, 8.1, 10 and 11 (HKLM\\SYSTEM\\
 # CurrentControlSet\\Control\\Session Manager\\KnownDLLs): these are always the system's own,

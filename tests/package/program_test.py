@@ -2,10 +2,10 @@
 
 from pathlib import PureWindowsPath
 
-from harness.case import SuiteTestCase
-from harness.suite import START_OF_LOG
-from applications import AWKWARD_FOLDER, PARTNER, SECOND_RUNNING
-from packing import only, pack, unpack
+from tests.harness.case import SuiteTestCase
+from tests.harness.suite import START_OF_LOG
+from tests.package.packing import only, pack, unpack
+from tests.sample_suite.applications import AWKWARD_FOLDER, PARTNER, SECOND_RUNNING
 
 # Blanks, a German letter, an en dash and Chinese letters: the last two are in no common ANSI page.
 FOLDER = PureWindowsPath("C:/users/Public/Größere Downloads – 卸载")

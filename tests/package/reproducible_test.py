@@ -7,12 +7,13 @@ import subprocess
 import zipfile
 from pathlib import Path
 
-from packing import BUILD, REPOSITORY, ScratchTestCase, pack
+from tests.package.packing import BUILD, REPOSITORY, ScratchTestCase, pack
 
 # What the first build was configured with beyond the preset; the tests and measurements are no
 # part of the program.
 _SETTING = re.compile(r"^((?:TESSERA_(?!BENCH)|CMAKE_(?:BUILD_TYPE|\w*_FLAGS|INTERPROCEDURAL)).*?)"
                       r":(\w+)=(.*)$", re.MULTILINE)
+_PLACE = BUILD / "another place"
 _LIBRARIES = re.compile(r"^(Qt5_DIR|CURL_DIR):PATH=(.*)$", re.MULTILINE)
 
 
@@ -23,10 +24,13 @@ def settings_of(build: Path, pattern: re.Pattern):
 class SecondBuild(ScratchTestCase):
     """The first build is the one under test. The second is made here from a copy of the sources,
     in a folder with another name, at another time, and without what a compiler cache may hold of
-    the first."""
+    the first: it has one of its own, to which only second builds in this folder contribute. So
+    every object was compiled here, though not again when nothing that went into it has changed."""
 
     def copy_sources(self) -> Path:
-        copy = self.scratch / "another place" / "uninstaller sources"
+        copy = _PLACE / "uninstaller sources"
+        shutil.rmtree(copy, ignore_errors=True)
+        self.addCleanup(shutil.rmtree, copy)
         names = subprocess.run(
             ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
             cwd=REPOSITORY, stdout=subprocess.PIPE, text=True, check=True).stdout
@@ -40,7 +44,8 @@ class SecondBuild(ScratchTestCase):
 
     def build(self, sources: Path) -> Path:
         folder = sources / "build" / "windows"
-        environment = {**os.environ, "CCACHE_DISABLE": "1"}
+        environment = {**os.environ, "CCACHE_DIR": str(_PLACE / "ccache"),
+                       "CCACHE_MAXSIZE": "200M"}
         settings = [f"-D{name}:{kind}={value}"
                     for name, kind, value in settings_of(BUILD, _SETTING)]
         for command in (

@@ -3,7 +3,7 @@
 import hashlib
 import stat
 
-from packing import BUILD, ScratchTestCase, only, pack, unpack
+from tests.package.packing import BUILD, ScratchTestCase, only, pack, unpack
 
 
 class SigningCommand(ScratchTestCase):

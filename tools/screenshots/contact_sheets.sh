@@ -26,7 +26,7 @@ export WINEPREFIX="$root/build/prefixes/screenshots"
 # shellcheck source=tools/wine/environment.sh
 source "$root/tools/wine/environment.sh"
 WINE_RUN_DPI=$dpi "$root/tools/wine-run" \
-    "$root/build/windows/tests/windows/languages/gallery.exe" "$(windowsPath "$pictures")"
+    "$root/build/windows/windows_tests/gallery.exe" "$(windowsPath "$pictures")"
 
 for window in "${windows[@]}"; do
     parts=()

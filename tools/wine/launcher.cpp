@@ -139,15 +139,10 @@ int main()
     STARTUPINFOW startup{};
     GetStartupInfoW(&startup);
     PROCESS_INFORMATION started{};
-    // With dozens of processes starting at once Wine now and then loses one before its first
-    // instruction, and says so with this error only.
-    int attemptsLeft = 5;
-    while (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, CREATE_SUSPENDED,
-                           nullptr, nullptr, &startup, &started)) {
-        if (GetLastError() != ERROR_INTERNAL_ERROR || --attemptsLeft == 0) {
-            report("CreateProcessW");
-            return static_cast<int>(cannotStart);
-        }
+    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, CREATE_SUSPENDED,
+                        nullptr, nullptr, &startup, &started)) {
+        report("CreateProcessW");
+        return static_cast<int>(cannotStart);
     }
     const Handle process(started.hProcess);
     const Handle mainThread(started.hThread);

@@ -1,8 +1,6 @@
-// Supplies to one process what Windows' CreateProcessW does and Wine's does not:
-// - for a user without administrator rights it refuses a program whose manifest asks for them; Wine
-//   gives it the rights and starts it;
-// - it never fails with an internal error; Wine does so when it loses a new process, as happens now
-//   and then on a busy machine.
+// Supplies to one process what Windows' CreateProcessW does and Wine's does not: for a user without
+// administrator rights it refuses a program whose manifest asks for them. Wine gives it the rights
+// and starts it.
 //
 // Loaded by launcher.exe before the program's first instruction.
 #include <string>
@@ -53,13 +51,8 @@ BOOL WINAPI createProcess(LPCWSTR program, LPWSTR commandLine, LPSECURITY_ATTRIB
         SetLastError(elevationRequired);
         return FALSE;
     }
-    int attemptsLeft = 5;
-    while (!originalCreateProcess(program, commandLine, process, thread, inherit, flags,
-                                  environment, folder, startup, started)) {
-        if (GetLastError() != ERROR_INTERNAL_ERROR || --attemptsLeft == 0)
-            return FALSE;
-    }
-    return TRUE;
+    return originalCreateProcess(program, commandLine, process, thread, inherit, flags, environment,
+                                 folder, startup, started);
 }
 
 } // namespace

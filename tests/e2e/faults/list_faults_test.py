@@ -2,13 +2,12 @@
 
 import unittest
 
-import paths  # noqa: F401  (makes the harness importable)
-from harness import probes
-from harness.case import SuiteTestCase
-from harness.main_window import VISIBLE_ROWS
-from harness.registry import Value
-from harness.suite import LIST_KEY, SELECTIVE, Suite
-from harness.waiting import wait_until
+from tests.harness import probes
+from tests.harness.case import SuiteTestCase
+from tests.harness.main_window import VISIBLE_ROWS
+from tests.harness.registry import Value
+from tests.harness.suite import LIST_KEY, SELECTIVE, Suite
+from tests.harness.waiting import wait_until
 
 MANY = 500
 

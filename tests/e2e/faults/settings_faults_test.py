@@ -9,12 +9,12 @@ import subprocess
 import sys
 import unittest
 
-import paths  # noqa: F401  (makes the harness importable)
-from applications import CLIP_SAVER, PARTNER
-from harness import processes, screen
-from harness.suite import SURVEY_TITLE
-from http_service import answer
-from statistics_world import SuiteWithServices, event_of, proxy_values, store_settings
+from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_values,
+                                             store_settings)
+from tests.harness import processes, screen
+from tests.harness.suite import SURVEY_TITLE
+from tests.sample_suite.applications import CLIP_SAVER, PARTNER
+from tests.services.http_service import answer
 
 DETAILED = {"KEELBASE_LOG_LEVEL": "7"}
 WITHOUT_LOG = {"KEELBASE_LOG_LEVEL": "0"}

@@ -3,12 +3,11 @@
 import subprocess
 import unittest
 
-import paths  # noqa: F401  (makes the harness importable)
-from applications import SUITE
-from harness import probes, processes
-from harness.case import SuiteTestCase
-from harness.registry import Value
-from harness.suite import LIST_KEY, SELECTIVE, Suite
+from tests.harness import probes, processes
+from tests.harness.case import SuiteTestCase
+from tests.harness.registry import Value
+from tests.harness.suite import LIST_KEY, SELECTIVE, Suite
+from tests.sample_suite.applications import SUITE
 
 FULL = [*SELECTIVE, "/DISABLEREDIRECT"]
 WAIT = 2.0

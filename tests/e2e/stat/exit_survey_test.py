@@ -5,14 +5,14 @@ import shutil
 import unittest
 from pathlib import PureWindowsPath
 
-from http_service import answer
-from statistics_world import SuiteWithServices, event_of, proxy_values, store_settings
-
-from applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
-from harness import layout, screen
-from harness.registry import Value
-from harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
-from harness.waiting import wait_until
+from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_values,
+                                             store_settings)
+from tests.harness import layout, screen
+from tests.harness.registry import Value
+from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
+from tests.harness.waiting import wait_until
+from tests.sample_suite.applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
+from tests.services.http_service import answer
 
 # Middles of the survey's answers and of the offer's button.
 ANSWERS = {"license": (244, 87), "quality": (244, 137), "features": (244, 187)}

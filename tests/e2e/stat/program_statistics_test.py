@@ -3,13 +3,12 @@
 import threading
 import unittest
 
-from http_service import answer
-from statistics_world import (SuiteWithServices, event_of, proxy_values, store_settings,
-                              stored_settings)
-
-from applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
-from harness import screen
-from harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
+from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_values,
+                                             store_settings, stored_settings)
+from tests.harness import screen
+from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
+from tests.sample_suite.applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
+from tests.services.http_service import answer
 
 SECOND_START_LIMIT = 10.0
 

@@ -6,11 +6,12 @@ import time
 import unittest
 from pathlib import Path
 
-from certificates import Authority
-from http_service import (HttpService, answer, declared_size, header_names, reset_after_headers,
-                          reset_before_headers, slow_drip, stall, truncated)
-from statistics_world import (GEO_HOST, STATISTICS_HOST, LogLine, StatisticsCase, event_of,
-                              proxy_values)
+from tests.e2e.stat.statistics_world import (GEO_HOST, STATISTICS_HOST, LogLine, StatisticsCase,
+                                             event_of, proxy_values)
+from tests.services.certificates import Authority
+from tests.services.http_service import (HttpService, answer, declared_size, header_names,
+                                         reset_after_headers, reset_before_headers, slow_drip,
+                                         stall, truncated)
 
 GUID = re.compile(r"[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")
 DELIVERED = LogLine(7, "AppEventStat", "ui/common/stat/app_event_stat:71", "stats::sendEvent: ok")

@@ -4,7 +4,6 @@ import json
 import os
 import queue
 import subprocess
-import sys
 import tempfile
 import threading
 import unittest
@@ -14,14 +13,12 @@ from dataclasses import dataclass
 from pathlib import Path
 from typing import Dict, List, Optional, Tuple
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
-
-from certificates import Authority  # noqa: E402
-from connect_proxy import ConnectProxy  # noqa: E402
-from harness import layout, log_file  # noqa: E402
-from harness.case import SuiteTestCase  # noqa: E402
-from harness.prefix import Prefix  # noqa: E402
-from http_service import HttpService, Received  # noqa: E402
+from tests.harness import layout, log_file
+from tests.harness.case import SuiteTestCase
+from tests.harness.prefix import Prefix
+from tests.services.certificates import Authority
+from tests.services.connect_proxy import ConnectProxy
+from tests.services.http_service import HttpService, Received
 
 STATISTICS_HOST = os.environ.get("TESSERA_STATS_HOST", "stats.tessera.example")
 GEO_HOST = os.environ.get("TESSERA_GEO_HOST", "geo.tessera.example")

@@ -2,20 +2,17 @@
 
 import os
 import subprocess
-import sys
 import tempfile
 import unittest
 from dataclasses import dataclass
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "e2e" / "stat"))
-
-from certificates import Authority  # noqa: E402
-from connect_proxy import ConnectProxy  # noqa: E402
-from http_service import (HttpService, answer, declared_size, header_names,  # noqa: E402
-                          reset_after_headers, reset_before_headers, slow_drip, stall, truncated,
-                          undeclared_size)
-from local_server import LocalServer  # noqa: E402
+from tests.services.certificates import Authority
+from tests.services.connect_proxy import ConnectProxy
+from tests.services.http_service import (HttpService, answer, declared_size, header_names,
+                                         reset_after_headers, reset_before_headers, slow_drip,
+                                         stall, truncated, undeclared_size)
+from tests.services.local_server import LocalServer
 
 PROBE = os.environ["NETPULL_PROBE"]
 HANGING_PROBE = os.environ["NETPULL_HANGING_PROBE"]

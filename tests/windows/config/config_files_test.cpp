@@ -1,6 +1,6 @@
+#include "support/win32/unique_handle.h"
 #include "tests/windows/support/scratch_folder.h"
 #include "ui/common/config/config.h"
-#include "support/win32/unique_handle.h"
 
 #include <gtest/gtest.h>
 

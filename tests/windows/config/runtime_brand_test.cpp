@@ -1,7 +1,7 @@
+#include "support/win32/unique_handle.h"
 #include "tests/windows/support/scratch_folder.h"
 #include "ui/common/config/runtime_brand.h"
 #include "ui/common/sys/module_path.h"
-#include "support/win32/unique_handle.h"
 
 #include <gtest/gtest.h>
 

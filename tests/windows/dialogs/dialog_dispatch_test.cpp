@@ -11,6 +11,7 @@
 
 #include "support/netpull/netpull.h"
 #include "tests/windows/dialogs/dialog_driver.h"
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
@@ -361,5 +362,5 @@ void DialogDispatchTest::statisticsStayWithTheFirstSurveyedApplication()
     QCOMPARE(eventsWithoutNumbers(1), events);
 }
 
-QTEST_MAIN(DialogDispatchTest)
+TESSERA_QT_TEST(DialogDispatchTest)
 #include "dialog_dispatch_test.moc"

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "tests/windows/dialogs/recorded_events.h"
+#include "tests/windows/qt_tests/qt_test.h"
 #include "ui/uninstall/src/fvd_open_ms_dlg.h"
 #include "ui/uninstall/src/question_dlg.h"
 
@@ -104,5 +105,5 @@ void DialogOutcomeTest::offerReportsNothingMoreDuringAReport()
     QVERIFY(!offer.isVisible());
 }
 
-QTEST_MAIN(DialogOutcomeTest)
+TESSERA_QT_TEST(DialogOutcomeTest)
 #include "dialog_outcome_test.moc"

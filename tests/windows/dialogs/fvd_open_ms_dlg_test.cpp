@@ -8,6 +8,7 @@
 
 #include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/dialogs/recorded_events.h"
+#include "tests/windows/qt_tests/qt_test.h"
 #include "ui/common/config/common_config.h"
 #include "ui/uninstall/src/store_offer.h"
 
@@ -396,5 +397,5 @@ void FvdOpenMsDlgTest::emptyCallbackIsSilent()
     }
 }
 
-QTEST_MAIN(FvdOpenMsDlgTest)
+TESSERA_QT_TEST(FvdOpenMsDlgTest)
 #include "fvd_open_ms_dlg_test.moc"

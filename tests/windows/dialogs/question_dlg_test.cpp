@@ -9,6 +9,7 @@
 
 #include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/dialogs/recorded_events.h"
+#include "tests/windows/qt_tests/qt_test.h"
 
 namespace {
 
@@ -368,5 +369,5 @@ void QuestionDlgTest::emptyCallbackIsSilent()
     }
 }
 
-QTEST_MAIN(QuestionDlgTest)
+TESSERA_QT_TEST(QuestionDlgTest)
 #include "question_dlg_test.moc"

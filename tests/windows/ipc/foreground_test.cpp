@@ -1,9 +1,10 @@
 // A later copy has the right to put windows in front, the first copy has not. Wine knows no such
 // right, so the calls themselves are watched.
 
+#include "tests/support/import_slot.h"
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/ipc/serving_peer.h"
-#include "tests/support/import_slot.h"
+#include "tests/windows/qt_tests/qt_test.h"
 
 using namespace ipctest;
 
@@ -72,5 +73,5 @@ void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends()
     QCOMPARE(calls, passes ? QStringList{QStringLiteral("allow any")} + sent : sent);
 }
 
-QTEST_MAIN(ForegroundTest)
+TESSERA_QT_TEST(ForegroundTest)
 #include "foreground_test.moc"

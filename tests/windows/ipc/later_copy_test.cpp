@@ -4,6 +4,7 @@
 #include "tests/windows/ipc/claiming_peer.h"
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/ipc/serving_peer.h"
+#include "tests/windows/qt_tests/qt_test.h"
 
 using namespace ipctest;
 
@@ -140,5 +141,5 @@ void LaterCopyTest::withAParentBringsItsNamesakeForward()
     QTRY_COMPARE(GetForegroundWindow(), reinterpret_cast<HWND>(expected.winId()));
 }
 
-QTEST_MAIN(LaterCopyTest)
+TESSERA_QT_TEST(LaterCopyTest)
 #include "later_copy_test.moc"

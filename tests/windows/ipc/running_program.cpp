@@ -104,7 +104,7 @@ void clearLogs()
 
 std::wstring programPath()
 {
-    return TESSERA_PROGRAM;
+    return nearestAbove(L"Uninstall.exe");
 }
 
 RunningProgram::RunningProgram(const std::vector<std::wstring>& arguments)

@@ -1,6 +1,7 @@
 // What the main window's base class does with messages.
 
 #include "tests/windows/ipc/messaged_window.h"
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/support/unique_name.h"
 #include "tests/windows/widget/captured_log.h"
 
@@ -396,5 +397,5 @@ void WindowMessagesTest::deliveryThatTheEndDropsIsNotAnswered()
     QCOMPARE(answer.get(), std::string());
 }
 
-QTEST_MAIN(WindowMessagesTest)
+TESSERA_QT_TEST(WindowMessagesTest)
 #include "window_messages_test.moc"

@@ -1,10 +1,10 @@
+#include "support/win32/unique_handle.h"
 #include "tests/support/lines.h"
 #include "tests/windows/support/child_process.h"
 #include "tests/windows/support/scoped_variable.h"
 #include "tests/windows/support/scratch_folder.h"
 #include "tests/windows/support/unique_name.h"
 #include "ui/common/sys/known_folders.h"
-#include "support/win32/unique_handle.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "support/keelbase/platform.h"
-#include "tests/windows/support/unique_name.h"
 #include "support/win32/unique_handle.h"
+#include "tests/windows/support/unique_name.h"
 
 #include <gtest/gtest.h>
 

@@ -4,6 +4,7 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
 #include "ui/common/config/common_config.h"
@@ -170,5 +171,5 @@ void TranslatorsTest::windowWithoutALanguageSettingIsEnglish()
     QVERIFY(under.window.findChildren<QTranslator*>().isEmpty());
 }
 
-QTEST_MAIN(TranslatorsTest)
+TESSERA_QT_TEST(TranslatorsTest)
 #include "translators_test.moc"

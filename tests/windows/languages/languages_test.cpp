@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include "tests/windows/languages/localised_windows.h"
+#include "tests/windows/qt_tests/qt_test.h"
 
 namespace {
 
@@ -154,5 +155,5 @@ void LanguagesTest::unknownLanguagesStayEnglish()
     }
 }
 
-QTEST_MAIN(LanguagesTest)
+TESSERA_QT_TEST(LanguagesTest)
 #include "languages_test.moc"

@@ -12,6 +12,7 @@
 #include "tests/windows/languages/fit_check.h"
 #include "tests/windows/languages/letter_check.h"
 #include "tests/windows/languages/localised_windows.h"
+#include "tests/windows/qt_tests/qt_test.h"
 
 #include <windows.h>
 
@@ -22,6 +23,13 @@ constexpr int settleMs = 2000;
 int expectedDpi()
 {
     return qEnvironmentVariable("TESSERA_DPI", "96").toInt();
+}
+
+void scaleAsTheProgramDoes()
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
 } // namespace
@@ -241,14 +249,5 @@ void LayoutTest::missingLetterIsNoticed()
     QCOMPARE(letterFaults(window).size(), 1);
 }
 
-int main(int argc, char** argv)
-{
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication application(argc, argv);
-    LayoutTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+TESSERA_PREPARED_QT_TEST(LayoutTest, &scaleAsTheProgramDoes)
 #include "layout_test.moc"

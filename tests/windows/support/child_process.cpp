@@ -45,10 +45,9 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
     : job(jobThatEndsWithItsOwner())
 {
     std::wstring line;
-#ifdef TESSERA_LAUNCHER
-    if (options.withEnvironment)
-        line = quoted(TESSERA_LAUNCHER) + L' ';
-#endif
+    const std::wstring launcher = nearestAbove(L"tools\\launcher.exe");
+    if (options.withEnvironment && !launcher.empty())
+        line = quoted(launcher) + L' ';
     line += quoted(program);
     for (const std::wstring& argument : arguments)
         line += L' ' + quoted(argument);
@@ -68,15 +67,10 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
         startup.hStdError = options.captureErrors ? write : GetStdHandle(STD_ERROR_HANDLE);
     }
     PROCESS_INFORMATION information = {};
-    // With dozens of processes starting at once Wine now and then loses one before its first
-    // instruction, and says so with this error only.
-    int attemptsLeft = 5;
-    while (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, options.captureOutput,
-                           CREATE_SUSPENDED, nullptr, nullptr, &startup, &information)) {
-        if (GetLastError() != ERROR_INTERNAL_ERROR || --attemptsLeft == 0) {
-            std::fprintf(stderr, "CreateProcessW(%ls): error %lu\n", line.c_str(), GetLastError());
-            return;
-        }
+    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, options.captureOutput,
+                        CREATE_SUSPENDED, nullptr, nullptr, &startup, &information)) {
+        std::fprintf(stderr, "CreateProcessW(%ls): error %lu\n", line.c_str(), GetLastError());
+        return;
     }
     process.reset(information.hProcess);
     processId = information.dwProcessId;
@@ -115,6 +109,20 @@ std::string ChildProcess::output()
 std::wstring siblingProgram(const std::wstring& name)
 {
     return sys::moduleFolder() + L'\\' + name + L".exe";
+}
+
+std::wstring nearestAbove(const std::wstring& relativePath)
+{
+    std::wstring folder = sys::moduleFolder();
+    for (;;) {
+        std::wstring path = folder + L'\\' + relativePath;
+        if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES)
+            return path;
+        const std::size_t end = folder.find_last_of(L'\\');
+        if (end == std::wstring::npos)
+            return {};
+        folder.resize(end);
+    }
 }
 
 } // namespace windows_tests

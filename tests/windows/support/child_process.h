@@ -63,4 +63,8 @@ private:
 // The program `name`.exe beside the running test.
 std::wstring siblingProgram(const std::wstring& name);
 
+// The file `relativePath` in the running test's folder or the nearest folder above that has it;
+// empty when none has.
+std::wstring nearestAbove(const std::wstring& relativePath);
+
 } // namespace windows_tests

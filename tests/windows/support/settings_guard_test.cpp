@@ -29,12 +29,14 @@ private:
     static constexpr const wchar_t* name = L"SettingsGuardTest";
 };
 
-void expectRefused(const std::wstring& program, const std::wstring& argument)
+using Arguments = std::vector<std::wstring>;
+
+void expectRefused(const std::wstring& program, const Arguments& arguments)
 {
     ChildOptions options;
     options.captureOutput = true;
     options.captureErrors = true;
-    ChildProcess test(program, {argument}, options);
+    ChildProcess test(program, arguments, options);
     EXPECT_EQ(test.waitForExit(), static_cast<DWORD>(refusedExitCode));
     const std::string output = test.output();
     EXPECT_EQ(output.rfind("Not run: ", 0), 0u) << output;
@@ -43,10 +45,10 @@ void expectRefused(const std::wstring& program, const std::wstring& argument)
 }
 
 // This program, running what follows it; and one on Qt Test that clears the suite's key.
-const std::wstring googleTest = siblingProgram(L"windows_settings_guard_test");
-const std::wstring onlyAllowed = L"--gtest_filter=SettingsGuard.AllowedProgramRuns";
-const std::wstring qtTest = TESSERA_QT_TEST_PROGRAM;
-const std::wstring listFunctions = L"-functions";
+const std::wstring googleTest = siblingProgram(L"windows_settings_guard");
+const Arguments onlyAllowed = {L"--gtest_filter=SettingsGuard.AllowedProgramRuns"};
+const std::wstring qtTest = siblingProgram(L"qt_tests");
+const Arguments listFunctions = {L"TranslatorsTest", L"-functions"};
 
 TEST(SettingsGuard, AllowedProgramRuns)
 {
@@ -55,8 +57,8 @@ TEST(SettingsGuard, AllowedProgramRuns)
 
 TEST(SettingsGuard, ProgramsRunWithTheVariable)
 {
-    EXPECT_EQ(ChildProcess(googleTest, {onlyAllowed}).waitForExit(), 0u);
-    EXPECT_EQ(ChildProcess(qtTest, {listFunctions}).waitForExit(), 0u);
+    EXPECT_EQ(ChildProcess(googleTest, onlyAllowed).waitForExit(), 0u);
+    EXPECT_EQ(ChildProcess(qtTest, listFunctions).waitForExit(), 0u);
 }
 
 TEST(SettingsGuard, WithoutTheVariableProgramsRefuseAndTouchNothing)
@@ -65,7 +67,7 @@ TEST(SettingsGuard, WithoutTheVariableProgramsRefuseAndTouchNothing)
     const RegistryMark mark;
     ASSERT_TRUE(mark.isThere());
     expectRefused(googleTest, onlyAllowed);
-    expectRefused(qtTest, L"-silent");
+    expectRefused(qtTest, {L"TranslatorsTest", L"-silent"});
     EXPECT_TRUE(mark.isThere());
 }
 

@@ -1,9 +1,9 @@
+#include "support/win32/unique_handle.h"
 #include "tests/support/recorded_log.h"
 #include "tests/windows/support/scratch_folder.h"
 #include "ui/common/sys/file_io.h"
 #include "ui/common/sys/replaceable.h"
 #include "ui/common/sys/result_codes.h"
-#include "support/win32/unique_handle.h"
 
 #include <gtest/gtest.h>
 

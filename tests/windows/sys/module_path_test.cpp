@@ -37,14 +37,14 @@ DWORD WINAPI neverFits(HMODULE, wchar_t*, DWORD size)
 TEST(ModulePath, IsThisProgram)
 {
     const std::filesystem::path path = sys::modulePath();
-    EXPECT_EQ(path.filename().native(), L"windows_sys_test.exe");
+    EXPECT_EQ(path.filename().native(), L"windows_sys.exe");
     EXPECT_TRUE(path.is_absolute());
     EXPECT_TRUE(std::filesystem::exists(path));
 }
 
 TEST(ModulePath, FolderIsThePathBeforeItsLastSeparator)
 {
-    EXPECT_EQ(sys::moduleFolder() + L"\\windows_sys_test.exe", sys::modulePath());
+    EXPECT_EQ(sys::moduleFolder() + L"\\windows_sys.exe", sys::modulePath());
 }
 
 TEST(ModulePath, IsWholeAtAnyLength)

@@ -4,6 +4,7 @@
 #include <QMetaMethod>
 #include <QSpacerItem>
 
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
@@ -276,5 +277,5 @@ void WidgetFormTest::pluginsAreLookedForBesideTheProgramOnly()
         QVERIFY2(path.startsWith(home), qPrintable(path));
 }
 
-QTEST_MAIN(WidgetFormTest)
+TESSERA_QT_TEST(WidgetFormTest)
 #include "widget_form_test.moc"

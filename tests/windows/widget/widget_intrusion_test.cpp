@@ -6,6 +6,7 @@
 
 #include "support/netpull/netpull.h"
 #include "tests/windows/dialogs/dialog_driver.h"
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/intruder.h"
 #include "tests/windows/widget/run_test_base.h"
@@ -24,31 +25,25 @@ QString lines(const std::vector<std::string>& texts)
     return all;
 }
 
-} // namespace
-
-// Stand in for the library's own, which the linker then leaves out. The country service keeps the
-// program waiting until the test lets it answer.
-namespace netpull {
-
-void init() {}
-
-Response fetch(const Request&)
+// The country service keeps the program waiting until the test lets it answer.
+netpull::Response answer(const netpull::Request&)
 {
     countryAsked = true;
     countryAnswer.tryAcquire(1, 60'000);
-    Response response;
+    netpull::Response response;
     response.httpStatus = 200;
     response.body = "NL";
     return response;
 }
 
-} // namespace netpull
+} // namespace
 
 class WidgetIntrusionTest : public RunTestBase
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { netpull::setFetch(&answer); }
     void nothingIntrudesOnTheWaitForAnUninstaller();
     void nothingIntrudesOnTheWaitForTheCountry();
     void nothingIntrudesBehindTheWarning();
@@ -282,5 +277,5 @@ void WidgetIntrusionTest::nothingIntrudesAfterACancelledFullRun()
     QCOMPARE(startsOf(QStringLiteral("ScreenTaker")), QStringList());
 }
 
-QTEST_MAIN(WidgetIntrusionTest)
+TESSERA_QT_TEST(WidgetIntrusionTest)
 #include "widget_intrusion_test.moc"

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
 
@@ -227,5 +228,5 @@ void WidgetRunTest::windowAnswersAndStaysOpenDuringAWait()
     QVERIFY(closeRefused);
 }
 
-QTEST_MAIN(WidgetRunTest)
+TESSERA_QT_TEST(WidgetRunTest)
 #include "widget_run_test.moc"

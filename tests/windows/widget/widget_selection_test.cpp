@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
@@ -350,5 +351,5 @@ void WidgetSelectionTest::closingTheWindowEndsTheEventLoop()
     QVERIFY(!timedOut);
 }
 
-QTEST_MAIN(WidgetSelectionTest)
+TESSERA_QT_TEST(WidgetSelectionTest)
 #include "widget_selection_test.moc"

@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
 #include "ui/uninstall/src/running_application.h"
@@ -191,5 +192,5 @@ void WidgetWarningTest::taskkillIsTheSystemsAndNamesTheIdString()
     QCOMPARE(taskkill->arguments(), expected);
 }
 
-QTEST_MAIN(WidgetWarningTest)
+TESSERA_QT_TEST(WidgetWarningTest)
 #include "widget_warning_test.moc"

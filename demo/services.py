@@ -2,22 +2,17 @@
 the program's settings name, under certificates that only the demo's computer trusts."""
 
 import contextlib
-import sys
 import tempfile
 from pathlib import Path
 from typing import Dict, List
 
-REPOSITORY = Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(REPOSITORY / "tests" / "e2e" / "stat"))
-
-from certificates import Authority
-from connect_proxy import ConnectProxy
-from http_service import HttpService, answer
-from statistics_world import (GEO_HOST, STATISTICS_HOST, TRUST_ROOT, event_of, proxy_values,
-                              store_settings)
-
-from applications import CLIP_SAVER
-from harness.suite import Suite
+from tests.e2e.stat.statistics_world import (GEO_HOST, STATISTICS_HOST, TRUST_ROOT, event_of,
+                                             proxy_values, store_settings)
+from tests.harness.suite import Suite
+from tests.sample_suite.applications import CLIP_SAVER
+from tests.services.certificates import Authority
+from tests.services.connect_proxy import ConnectProxy
+from tests.services.http_service import HttpService, answer
 
 COUNTRY = "NL"
 LAST_EVENT_NUMBER = 41

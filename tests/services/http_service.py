@@ -9,7 +9,7 @@ from dataclasses import dataclass
 from email.message import Message
 from typing import Callable, Dict, List, Optional
 
-from local_server import LocalServer, reset
+from tests.services.local_server import LocalServer, reset
 
 
 @dataclass

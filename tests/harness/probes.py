@@ -4,8 +4,8 @@ wrong (tests/e2e/faults)."""
 import shutil
 from pathlib import Path
 
-from harness import layout
-from harness.prefix import Prefix
+from tests.harness import layout
+from tests.harness.prefix import Prefix
 
 FOLDER = "C:\\probe dir"
 ELEVATED = layout.WINE_TOOLS / "elevated_uninstaller.exe"

@@ -3,7 +3,7 @@
 import os
 from pathlib import Path
 
-REPOSITORY = Path(__file__).resolve().parents[3]
+REPOSITORY = Path(__file__).resolve().parents[2]
 BUILD = Path(os.environ.get("TESSERA_BUILD_DIR", REPOSITORY / "build" / "windows"))
 
 PROGRAM = BUILD / "Uninstall.exe"
@@ -11,4 +11,3 @@ INSTALLERS = BUILD / "sample_suite"
 ARGUMENT_RECORDER = INSTALLERS / "argument_recorder.exe"
 WINE_RUN = REPOSITORY / "tools" / "wine-run"
 WINE_TOOLS = BUILD / "tools"
-SAMPLE_SUITE = REPOSITORY / "tests" / "sample_suite"

@@ -8,7 +8,7 @@ from dataclasses import dataclass
 from pathlib import Path
 from typing import Callable, List, Optional, Sequence
 
-from harness.waiting import Timeout, wait_until
+from tests.harness.waiting import Timeout, wait_until
 
 # No single call of a screen tool takes longer.
 _TOOL_DEADLINE = 30.0

@@ -2,8 +2,8 @@
 
 from typing import List, NamedTuple
 
-from harness.screen import Picture, Window
-from harness.waiting import wait_until
+from tests.harness.screen import Picture, Window
+from tests.harness.waiting import wait_until
 
 # Fixed by the form: the window has one size, and the controls' places follow from it.
 _WIDTH, _HEIGHT = 379, 305

@@ -5,14 +5,13 @@ import subprocess
 from pathlib import Path, PureWindowsPath
 from typing import Callable, Dict, Iterable, List, Optional
 
-from harness import layout, log_file, screen
-from harness.main_window import MainWindow
-from harness.prefix import Prefix
-from harness.records import Records
-from harness.registry import Tree
-from harness.waiting import PATIENCE, Timeout, wait_until
-
-from applications import SUITE, Application
+from tests.harness import layout, log_file, screen
+from tests.harness.main_window import MainWindow
+from tests.harness.prefix import Prefix
+from tests.harness.records import Records
+from tests.harness.registry import Tree
+from tests.harness.waiting import PATIENCE, Timeout, wait_until
+from tests.sample_suite.applications import SUITE, Application
 
 COMPANY_BRAND = "Corvane"
 PRODUCT_BRAND = "Lumacraft"

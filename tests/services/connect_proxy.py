@@ -7,7 +7,7 @@ import threading
 from dataclasses import dataclass
 from typing import Dict, List, Optional, Tuple
 
-from local_server import LocalServer
+from tests.services.local_server import LocalServer
 
 
 @dataclass

@@ -1,17 +1,16 @@
-#!/usr/bin/env python3
 """Drives the program through a full removal of the sample suite, on a screen of its own, and tells
 what happened. Pictures go to build/demo/."""
 
 import os
 import sys
 
-import computer
-from harness import layout
-from harness.screen import Window, pressing, wait_for_window
-from harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
-from applications import HOLDING, RUNNING
+from demo import computer
+from tests.harness import layout
+from tests.harness.screen import Window, pressing, wait_for_window
+from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
+from tests.sample_suite.applications import HOLDING, RUNNING
 
-# Set for the copy of this script that has the private screen.
+# Set for the copy of this program that has the private screen.
 ON_PRIVATE_SCREEN = "TESSERA_DEMO_ON_PRIVATE_SCREEN"
 # In the exit survey.
 MISSING_FEATURES = (244, 196)
@@ -103,7 +102,7 @@ def main() -> None:
         environment = {**os.environ, ON_PRIVATE_SCREEN: "1"}
         environment.pop("DISPLAY", None)
         screen = str(layout.REPOSITORY / "tools" / "wine" / "with-display")
-        os.execve(screen, [screen, sys.executable, os.path.abspath(__file__)], environment)
+        os.execve(screen, [screen, sys.executable, *sys.orig_argv[1:]], environment)
     sys.exit(Demo().run())
 
 

@@ -8,7 +8,7 @@ import uuid
 from pathlib import Path, PureWindowsPath
 from typing import Dict, Optional, Sequence, Union
 
-from harness import layout, registry
+from tests.harness import layout, registry
 
 # No single Windows program that the harness runs to its end takes longer.
 RUN_DEADLINE = 120.0

@@ -3,7 +3,7 @@
 from pathlib import Path, PureWindowsPath
 from typing import List, Union
 
-from harness.prefix import Prefix
+from tests.harness.prefix import Prefix
 
 
 def find(prefix: Prefix, program: Union[str, PureWindowsPath]) -> List[int]:

@@ -4,9 +4,9 @@ from dataclasses import dataclass
 from pathlib import Path
 from typing import List, Optional
 
-from harness import command_line
-from harness.prefix import Prefix
-from harness.waiting import PATIENCE, wait_until
+from tests.harness import command_line
+from tests.harness.prefix import Prefix
+from tests.harness.waiting import PATIENCE, wait_until
 
 FOLDER = "C:\\records"
 

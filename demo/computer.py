@@ -4,17 +4,14 @@ import sys
 from pathlib import Path
 from typing import List
 
-REPOSITORY = Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(REPOSITORY / "tests" / "e2e"))
+from demo.services import Services
+from tests.harness import layout
+from tests.harness.prefix import Prefix
+from tests.harness.records import Run
+from tests.harness.suite import LIST_NAMES, PRODUCT_BRAND, SUITE_KEY, RunningApplication, Suite
+from tests.sample_suite.applications import ALL, DAMAGED, HOLDING, RUNNING, Application
 
-from harness import layout
-from harness.prefix import Prefix
-from harness.records import Run
-from harness.suite import LIST_NAMES, PRODUCT_BRAND, SUITE_KEY, RunningApplication, Suite
-from applications import ALL, DAMAGED, HOLDING, RUNNING, Application
-from services import Services
-
-FOLDER = REPOSITORY / "build" / "demo"
+FOLDER = layout.REPOSITORY / "build" / "demo"
 
 # The suite's own order of the rows: the window shows them sorted by name.
 ROWS: List[Application] = sorted(ALL, key=lambda application: application.display_name)

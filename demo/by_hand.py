@@ -1,10 +1,9 @@
-#!/usr/bin/env python3
 """Installs the sample suite on a computer of its own (a Wine prefix below build/demo/) and opens
 the program's window for the person at the screen. Tells afterwards what happened."""
 
 import sys
 
-import computer
+from demo import computer
 
 
 def main() -> None:

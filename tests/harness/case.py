@@ -7,12 +7,12 @@ import unittest
 from pathlib import Path
 from typing import Dict, Iterable, List, Optional
 
-from harness import layout, screen
-from harness.prefix import Prefix
-from harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, RunningApplication,
-                           RunningProgram, Suite)
-from harness.waiting import wait_until
-from applications import Application
+from tests.harness import layout, screen
+from tests.harness.prefix import Prefix
+from tests.harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, RunningApplication,
+                                 RunningProgram, Suite)
+from tests.harness.waiting import wait_until
+from tests.sample_suite.applications import Application
 
 
 class SuiteTestCase(unittest.TestCase):
