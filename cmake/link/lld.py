@@ -1,45 +1,32 @@
 #!/usr/bin/env -S python3 -B
-"""Links with lld, without functions and data that nothing uses.
+"""Links with lld, which can delay imports.
 
 GCC is told to call this as its -wrapper, that is with the command of its own linker behind it. lld
-gets the same arguments, with two differences:
-
-- object files and archives are linked as collectable.py changes them;
-- before the import library of a DLL that is named by --delayload comes one from which lld can
-  delay the imports (import_library.py).
-
-What is made for that stays in the folder ".linked" of the working folder.
+gets the same arguments, but before the import library of a DLL that is named by --delayload comes
+one from which lld can delay the imports (import_library.py). Those stay in the folder ".linked" of
+the working folder.
 """
 
-import hashlib
 import os
 import sys
 import tempfile
 from pathlib import Path
-from typing import Callable, Iterator, List, Optional
+from typing import Iterator, List, Optional
 
-from collectable import make_collectable
 from import_library import short_form
 
 _LINKER = "ld.lld-19"
 _FOLDER = Path(".linked")
-_OBJECTS = (".a", ".o", ".obj")
 _DELAY = "--delayload="
 
 
-def _made(original: Path, make: Callable[[bytes], bytes]) -> str:
-    """The file that `make` makes of the original, made again when that has changed."""
-    key = f"{make.__name__} {original.resolve()}"
-    made = _FOLDER / hashlib.sha256(key.encode()).hexdigest()[:16] / original.name
-    written = original.stat().st_mtime_ns
-    if made.exists() and made.stat().st_mtime_ns == written:
-        return str(made)
-    made.parent.mkdir(parents=True, exist_ok=True)
-    # Another link may need the same file at the same time.
-    descriptor, scratch = tempfile.mkstemp(dir=made.parent)
+def _short(library: Path) -> str:
+    made = _FOLDER / library.name
+    _FOLDER.mkdir(exist_ok=True)
+    # Another link may write the same file at the same time.
+    descriptor, scratch = tempfile.mkstemp(dir=_FOLDER)
     with os.fdopen(descriptor, "wb") as output:
-        output.write(make(original.read_bytes()))
-    os.utime(scratch, ns=(written, written))
+        output.write(short_form(library.read_bytes()))
     os.replace(scratch, made)
     return str(made)
 
@@ -59,9 +46,7 @@ def _changed(arguments: List[str]) -> Iterator[str]:
     for argument in arguments:
         library = _library(argument, folders)
         if library is not None and library.name in delayed:
-            yield _made(library, short_form)
-        if argument.endswith(_OBJECTS) and Path(argument).is_file():
-            argument = _made(Path(argument), make_collectable)
+            yield _short(library)
         yield argument
 
 

@@ -1,8 +1,7 @@
-# tessera_link_program(TARGET): links a program that is given to users, in a cross build by lld:
-# - functions and data that nothing uses are left out (see link/collectable.py);
-# - of the system's libraries only those are loaded with the program that Windows, whatever its
-#   version, takes from its own folder ("KnownDLLs"). The others are loaded when they are first used,
-#   see support/win32/delay_load.cpp. tests/package has the list that is allowed.
+# tessera_link_program(TARGET): links a program that is given to users. Of the system's libraries
+# only those are loaded with it that Windows, whatever its version, takes from its own folder
+# ("KnownDLLs"). The others are loaded when they are first used, see support/win32/delay_load.cpp.
+# tests/package has the list that is allowed. GNU ld cannot delay imports, so lld links.
 set(TESSERA_DELAYED_LIBRARIES
     bcrypt comdlg32 crypt32 dwmapi imm32 netapi32 ole32 oleaut32 rpcrt4 shell32 userenv uxtheme
     version winmm ws2_32 wtsapi32)
@@ -24,6 +23,5 @@ function(tessera_link_program target)
         ${delayed} $<$<CONFIG:Release>:-s>)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS
         "${PROJECT_SOURCE_DIR}/cmake/link/import_library.py"
-        "${PROJECT_SOURCE_DIR}/cmake/link/lld.py"
-        "${PROJECT_SOURCE_DIR}/cmake/link/collectable.py")
+        "${PROJECT_SOURCE_DIR}/cmake/link/lld.py")
 endfunction()
