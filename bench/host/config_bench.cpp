@@ -4,17 +4,16 @@
 
 #include "ui/common/config/config_text.h"
 
-// Byte strings only; the wide ones would need a conversion library.
-#define SI_NO_CONVERSION
+#include <QSettings>
+#include <QString>
+
+#include <benchmark/benchmark.h>
+#include <INIReader.h>
 #include <SimpleIni.h>
 
 #include <algorithm>
-#include <benchmark/benchmark.h>
 #include <filesystem>
 #include <fstream>
-#include <INIReader.h>
-#include <QSettings>
-#include <QString>
 #include <random>
 #include <stdexcept>
 #include <string>

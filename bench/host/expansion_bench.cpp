@@ -8,6 +8,7 @@
 #include <ctemplate/template.h>
 #include <ctemplate/template_dictionary.h>
 #include <kainjow/mustache.hpp>
+
 #include <memory>
 #include <stdexcept>
 

@@ -1,4 +1,5 @@
 #include <benchmark/benchmark.h>
+
 #include <malloc.h>
 
 int main(int argc, char** argv)

@@ -6,6 +6,7 @@
 #include "ui/common/stat/app_event_stat.h"
 
 #include <benchmark/benchmark.h>
+
 #include <chrono>
 #include <memory>
 #include <thread>

@@ -1,15 +1,16 @@
 // The form encoding of one event body, beside the general-purpose encoders.
 
+#include "bench/host/event_texts.h"
 #include "ui/common/stat/url_encode.h"
 
-#include "bench/host/event_texts.h"
-
-#include <benchmark/benchmark.h>
-#include <curl/curl.h>
-#include <memory>
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
+
+#include <benchmark/benchmark.h>
+#include <curl/curl.h>
+
+#include <memory>
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "bench/support/give_up.h"
 #include "bench/support/samples.h"
 #include "support/keelbase/keelbase.h"
-#include "tests/windows/widget/suite_registry.h"
 #include "support/win32/unique_handle.h"
+#include "tests/windows/widget/suite_registry.h"
 #include "ui/uninstall/src/widget.h"
 
 #include <QApplication>

@@ -116,7 +116,7 @@ struct LogStatement
 #define KEELBASE_LOG_AT(source, messageLevel, sourceLine)                                          \
     !Keelbase::isLogged(messageLevel)                                                              \
         ? static_cast<void>(0)                                                                     \
-        : Keelbase::LogStatement() &                                                               \
-              Keelbase::CLogMsgMultibyte(Keelbase::processLogger(), messageLevel,                  \
-                                         (source).category, (source).file, sourceLine)             \
-                  .text()
+        : Keelbase::LogStatement() & Keelbase::CLogMsgMultibyte(Keelbase::processLogger(),         \
+                                                                messageLevel, (source).category,   \
+                                                                (source).file, sourceLine)         \
+                                         .text()

@@ -1,5 +1,4 @@
 #include "support/keelbase/platform.h"
-
 #include "support/win32/unique_handle.h"
 
 #include <functional>

@@ -1,5 +1,4 @@
 #include "support/netpull/netpull.h"
-
 #include "support/netpull/transfer.h"
 
 #include <mutex>

@@ -1,8 +1,10 @@
 #include "support/netpull/netpull.h"
+
 #include "support/netpull/transfer.h"
 
-#include <algorithm>
 #include <curl/curl.h>
+
+#include <algorithm>
 #include <memory>
 #include <mutex>
 #include <new>

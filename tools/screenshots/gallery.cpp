@@ -4,13 +4,13 @@
 //
 // The scale follows the screen's resolution, as the program's does.
 
+#include "tests/windows/languages/localised_windows.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
 #include <QScreen>
 #include <QTextStream>
-
-#include "tests/windows/languages/localised_windows.h"
 
 int main(int argc, char** argv)
 {

@@ -10,14 +10,14 @@
 // Exit codes of its own: 126 the program could not be prepared, 127 it could not be started. A
 // program's code above 255 becomes 255, because the Unix side sees 8 bits and would take 256 for
 // success.
-#include <windows.h>
-
 #include <cstdio>
 #include <cwchar>
 #include <iterator>
 #include <memory>
 #include <string>
 #include <type_traits>
+
+#include <windows.h>
 
 namespace {
 

@@ -2,10 +2,10 @@
 // \\<computer>\pipe\NAME by the machine's own name, with the opened end in message-read mode.
 //
 // Loaded by launcher.exe before the program's first instruction.
+#include "tests/support/import_slot.h"
+
 #include <cwchar>
 #include <string>
-
-#include "tests/support/import_slot.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 // and starts it.
 //
 // Loaded by launcher.exe before the program's first instruction.
+#include "tests/support/import_slot.h"
+
 #include <string>
 #include <string_view>
-
-#include "tests/support/import_slot.h"
 
 namespace {
 

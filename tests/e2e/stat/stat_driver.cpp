@@ -12,8 +12,8 @@
 #include "support/keelbase/keelbase.h"
 #include "ui/common/config/common_config.h"
 #include "ui/common/stat/app_event_stat.h"
-#include "ui/uninstall/src/stat_startup.h"
 #include "ui/common/stat/user_location.h"
+#include "ui/uninstall/src/stat_startup.h"
 
 #include <chrono>
 #include <functional>
@@ -34,7 +34,8 @@ long long spent(Clock::time_point begun)
 void start(int applicationId)
 {
     const auto begun = Clock::now();
-    uninstall::startStatistics(applicationId, false, [](const std::function<void()>& call) { call(); });
+    uninstall::startStatistics(applicationId, false,
+                               [](const std::function<void()>& call) { call(); });
     std::cout << spent<std::chrono::milliseconds>(begun);
 }
 

@@ -4,9 +4,10 @@
 #include "ui/common/sys/file_io.h"
 #include "ui/common/sys/result_codes.h"
 
+#include <gtest/gtest.h>
+
 #include <cerrno>
 #include <filesystem>
-#include <gtest/gtest.h>
 #include <type_traits>
 #include <unistd.h>
 

@@ -1,8 +1,9 @@
 #include "ui/common/config/config_text.h"
 
+#include <gmock/gmock.h>
+
 #include <algorithm>
 #include <chrono>
-#include <gmock/gmock.h>
 #include <random>
 
 namespace fs {

@@ -2,8 +2,9 @@
 #include "ui/common/config/config.h"
 #include "ui/common/sys/result_codes.h"
 
-#include <atomic>
 #include <gtest/gtest.h>
+
+#include <atomic>
 #include <thread>
 #include <vector>
 

@@ -1,8 +1,7 @@
+#include "ui/uninstall/src/app_catalogue.h"
 #include "ui/uninstall/src/store_offer.h"
 
 #include <gtest/gtest.h>
-
-#include "ui/uninstall/src/app_catalogue.h"
 
 namespace {
 

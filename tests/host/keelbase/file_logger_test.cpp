@@ -1,5 +1,4 @@
 #include "support/keelbase/file_logger.h"
-
 #include "tests/host/support/temp_folder.h"
 #include "tests/support/lines.h"
 

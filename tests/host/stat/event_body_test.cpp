@@ -1,6 +1,7 @@
 #include "ui/common/stat/event_body.h"
 
 #include <gtest/gtest.h>
+
 #include <string>
 
 using stats::buildEventBody;

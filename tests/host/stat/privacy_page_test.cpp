@@ -3,8 +3,9 @@
 #include "ui/common/stat/event_body.h"
 #include "ui/common/stat/service_endpoints.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
+
+#include <fstream>
 #include <regex>
 #include <sstream>
 #include <string>

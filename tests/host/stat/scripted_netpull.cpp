@@ -1,7 +1,8 @@
 #include "tests/host/stat/scripted_netpull.h"
 
-#include <atomic>
 #include <gtest/gtest.h>
+
+#include <atomic>
 #include <memory>
 #include <mutex>
 

@@ -8,8 +8,9 @@
 #include "tests/support/recorded_log.h"
 #include "ui/common/config/config.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
+
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>

@@ -1,9 +1,10 @@
 #include "ui/common/stat/task_queue.h"
 
+#include <gtest/gtest.h>
+
 #include <atomic>
 #include <chrono>
 #include <future>
-#include <gtest/gtest.h>
 #include <memory>
 #include <set>
 #include <thread>

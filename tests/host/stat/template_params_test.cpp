@@ -1,6 +1,7 @@
 #include "ui/common/stat/template_params.h"
 
 #include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 

@@ -1,6 +1,7 @@
 #include "ui/common/stat/url_encode.h"
 
 #include <gtest/gtest.h>
+
 #include <map>
 #include <string>
 

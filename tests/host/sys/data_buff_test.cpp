@@ -1,10 +1,10 @@
+#include "tests/host/support/vtable_index.h"
 #include "ui/common/sys/data_buff.h"
 
-#include "tests/host/support/vtable_index.h"
+#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <cstring>
-#include <gtest/gtest.h>
 #include <limits>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)

@@ -1,6 +1,7 @@
 #include "ui/common/sys/environment.h"
 
 #include <gtest/gtest.h>
+
 #include <stdlib.h>
 
 namespace sys {

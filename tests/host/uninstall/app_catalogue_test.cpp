@@ -1,8 +1,9 @@
 #include "ui/uninstall/src/app_catalogue.h"
 
+#include <gmock/gmock.h>
+
 #include <algorithm>
 #include <climits>
-#include <gmock/gmock.h>
 #include <set>
 #include <vector>
 

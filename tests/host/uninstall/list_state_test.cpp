@@ -1,6 +1,5 @@
-#include "ui/uninstall/src/list_state.h"
-
 #include "ui/uninstall/src/app_catalogue.h"
+#include "ui/uninstall/src/list_state.h"
 
 #include <gmock/gmock.h>
 

@@ -87,8 +87,8 @@ inline std::string commandOf(const std::string& idString)
 inline std::string uninstallStep(int remaining, bool full, const std::string& idString)
 {
     return "uninstall " + std::to_string(remaining) + " remaining, " +
-           (full ? "full" : "selective") + " [C:\\" + idString + ".exe] [=\"C:\\logs\\" +
-           idString + "_uninstall.log\"]";
+           (full ? "full" : "selective") + " [C:\\" + idString + ".exe] [=\"C:\\logs\\" + idString +
+           "_uninstall.log\"]";
 }
 
 } // namespace uninstall

@@ -58,8 +58,7 @@ TEST(UninstallRun, SuiteAloneIsTheLastApplication)
 {
     RecordedRun run({{commandOf("Tessera")}});
     run.run();
-    EXPECT_THAT(run.only(removalWords),
-                ElementsAre(uninstallStep(1, full, "Tessera"), "remove 0"));
+    EXPECT_THAT(run.only(removalWords), ElementsAre(uninstallStep(1, full, "Tessera"), "remove 0"));
 }
 
 TEST(UninstallRun, SuiteStaysWhenAnotherRowIsUnchecked)
@@ -155,17 +154,18 @@ TEST(UninstallRun, UnknownApplicationIsProbedWithoutANameAndUninstalled)
 {
     RecordedRun run({{commandOf("Stranger")}, {"C:\\plain.exe"}, {"x", false}});
     run.running = {""};
-    EXPECT_THAT(run.run(), ElementsAre("id -1", "probe []", "warning []",
-                                       uninstallStep(3, selective, "Stranger"), "remove 0",
-                                       "id -1", "probe []", "warning []",
-                                       "uninstall 2 remaining, selective [C:\\plain.exe]", "remove 1"));
+    EXPECT_THAT(run.run(),
+                ElementsAre("id -1", "probe []", "warning []",
+                            uninstallStep(3, selective, "Stranger"), "remove 0", "id -1",
+                            "probe []", "warning []",
+                            "uninstall 2 remaining, selective [C:\\plain.exe]", "remove 1"));
 }
 
 TEST(UninstallRun, EmptyCommandIsAnUnknownApplication)
 {
     RecordedRun run({{""}, {"x", false}});
-    EXPECT_THAT(run.run(),
-                ElementsAre("id -1", "probe []", "uninstall 2 remaining, selective []", "remove 0"));
+    EXPECT_THAT(run.run(), ElementsAre("id -1", "probe []", "uninstall 2 remaining, selective []",
+                                       "remove 0"));
 }
 
 TEST(UninstallRun, FullRunWithoutASuiteRowStillEndsWithTheSuitesTurn)
@@ -173,8 +173,8 @@ TEST(UninstallRun, FullRunWithoutASuiteRowStillEndsWithTheSuitesTurn)
     RecordedRun run({{commandOf("ClipTrimmer")}, {""}});
     EXPECT_THAT(run.run(),
                 ElementsAre("id 2", "probe [ClipTrimmer]", uninstallStep(2, full, "ClipTrimmer"),
-                            "remove 0", "id -1", "probe []", "uninstall 1 remaining, full []", "remove 1",
-                            "uninstall 0 remaining, full"));
+                            "remove 0", "id -1", "probe []", "uninstall 1 remaining, full []",
+                            "remove 1", "uninstall 0 remaining, full"));
 }
 
 TEST(UninstallRun, LastOfSeveralSuiteRowsIsTheOneUninstalled)
@@ -182,10 +182,11 @@ TEST(UninstallRun, LastOfSeveralSuiteRowsIsTheOneUninstalled)
     const std::string second = "D:\\other.exe /log=D:\\logs\\Tessera_uninstall";
     RecordedRun run({{commandOf("Tessera")}, {second}, {commandOf("ClipTrimmer")}});
     run.run();
-    EXPECT_THAT(run.only(removalWords),
-                ElementsAre(uninstallStep(3, full, "ClipTrimmer"), "remove 2",
-                            "uninstall 2 remaining, full [D:\\other.exe] [=D:\\logs\\Tessera_uninstall]",
-                            "remove 1"));
+    EXPECT_THAT(
+        run.only(removalWords),
+        ElementsAre(uninstallStep(3, full, "ClipTrimmer"), "remove 2",
+                    "uninstall 2 remaining, full [D:\\other.exe] [=D:\\logs\\Tessera_uninstall]",
+                    "remove 1"));
     EXPECT_EQ(run.only({"probe"}).size(), 2 * 68U + 1);
 }
 

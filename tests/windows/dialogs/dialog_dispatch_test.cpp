@@ -1,14 +1,6 @@
 // The whole path from the "Uninstall" button through survey and offer to the statistics service
 // and the store, in one real main window. The service is replaced at the HTTP library.
 
-#include <QDesktopServices>
-#include <QDir>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QMutex>
-#include <QUrl>
-#include <QUrlQuery>
-
 #include "support/netpull/netpull.h"
 #include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/qt_tests/qt_test.h"
@@ -16,6 +8,14 @@
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
 #include "ui/common/config/common_config.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMutex>
+#include <QUrl>
+#include <QUrlQuery>
 
 namespace {
 

@@ -1,14 +1,14 @@
 // Survey and offer report one outcome. The report runs further dialogs, and behind those a button
 // can still be pressed by others than mouse and keyboard: assistive programs and timers.
 
-#include <QPushButton>
-
-#include <utility>
-
 #include "tests/windows/dialogs/recorded_events.h"
 #include "tests/windows/qt_tests/qt_test.h"
 #include "ui/uninstall/src/fvd_open_ms_dlg.h"
 #include "ui/uninstall/src/question_dlg.h"
+
+#include <QPushButton>
+
+#include <utility>
 
 class DialogOutcomeTest : public QObject
 {

@@ -1,16 +1,15 @@
 // The store offer, driven by mouse and keyboard.
 
-#include "ui/uninstall/src/fvd_open_ms_dlg.h"
-
-#include <QLabel>
-#include <QLayout>
-#include <QPushButton>
-
 #include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/dialogs/recorded_events.h"
 #include "tests/windows/qt_tests/qt_test.h"
 #include "ui/common/config/common_config.h"
+#include "ui/uninstall/src/fvd_open_ms_dlg.h"
 #include "ui/uninstall/src/store_offer.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QPushButton>
 
 Q_DECLARE_METATYPE(QMargins)
 

@@ -1,15 +1,14 @@
 // The exit survey, driven by mouse and keyboard.
 
+#include "tests/windows/dialogs/dialog_driver.h"
+#include "tests/windows/dialogs/recorded_events.h"
+#include "tests/windows/qt_tests/qt_test.h"
 #include "ui/uninstall/src/question_dlg.h"
 
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
 #include <QSpacerItem>
-
-#include "tests/windows/dialogs/dialog_driver.h"
-#include "tests/windows/dialogs/recorded_events.h"
-#include "tests/windows/qt_tests/qt_test.h"
 
 namespace {
 

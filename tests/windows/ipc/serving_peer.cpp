@@ -1,4 +1,5 @@
 #include "tests/windows/ipc/serving_peer.h"
+
 #include "tests/windows/support/unique_name.h"
 
 namespace ipctest {

@@ -1,15 +1,15 @@
 // Switching the process's language through the catalogues in the program's resources.
 
-#include <QDir>
-#include <QTranslator>
-#include <QtTest>
-
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
 #include "ui/common/config/common_config.h"
 #include "ui/common/lang/translators.h"
 #include "ui/common/sys/folders.h"
+
+#include <QDir>
+#include <QTranslator>
+#include <QtTest>
 
 namespace {
 

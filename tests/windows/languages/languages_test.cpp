@@ -1,13 +1,13 @@
 // The translation catalogues as they are compiled into the program.
 
+#include "tests/windows/languages/localised_windows.h"
+#include "tests/windows/qt_tests/qt_test.h"
+
 #include <QAbstractButton>
 #include <QLabel>
 #include <QMessageBox>
 #include <QTranslator>
 #include <QtTest>
-
-#include "tests/windows/languages/localised_windows.h"
-#include "tests/windows/qt_tests/qt_test.h"
 
 namespace {
 

@@ -2,17 +2,17 @@
 // letter has a glyph. The screen's resolution is the prefix's; the test is registered once for
 // each, and told which one it must have.
 
+#include "tests/windows/languages/fit_check.h"
+#include "tests/windows/languages/letter_check.h"
+#include "tests/windows/languages/localised_windows.h"
+#include "tests/windows/qt_tests/qt_test.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QtTest>
-
-#include "tests/windows/languages/fit_check.h"
-#include "tests/windows/languages/letter_check.h"
-#include "tests/windows/languages/localised_windows.h"
-#include "tests/windows/qt_tests/qt_test.h"
 
 #include <windows.h>
 

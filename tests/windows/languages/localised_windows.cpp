@@ -1,12 +1,5 @@
 #include "tests/windows/languages/localised_windows.h"
 
-#include <QAbstractButton>
-#include <QDir>
-#include <QFileInfo>
-#include <QMessageBox>
-#include <QTimer>
-#include <QtTest>
-
 #include "tests/windows/widget/suite_registry.h"
 #include "ui/common/config/common_config.h"
 #include "ui/uninstall/src/app_catalogue.h"
@@ -14,6 +7,13 @@
 #include "ui/uninstall/src/question_dlg.h"
 #include "ui/uninstall/src/store_offer.h"
 #include "ui/uninstall/src/widget.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QTimer>
+#include <QtTest>
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "tests/windows/support/child_process.h"
 
-#include <string>
-
 #include <gtest/gtest.h>
+
+#include <string>
 
 namespace {
 

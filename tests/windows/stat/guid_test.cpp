@@ -1,6 +1,7 @@
 #include "ui/common/stat/guid.h"
 
 #include <gtest/gtest.h>
+
 #include <regex>
 #include <set>
 #include <string>

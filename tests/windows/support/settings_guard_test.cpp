@@ -1,9 +1,8 @@
 // What a test program does without permission to change the user's settings.
 
-#include "tests/windows/support/settings_guard.h"
-
 #include "tests/windows/support/child_process.h"
 #include "tests/windows/support/scoped_variable.h"
+#include "tests/windows/support/settings_guard.h"
 
 #include <gtest/gtest.h>
 

@@ -10,10 +10,9 @@
 #include <cerrno>
 #include <chrono>
 #include <future>
+#include <share.h>
 #include <string>
 #include <vector>
-
-#include <share.h>
 
 using namespace std::chrono_literals;
 using windows_tests::readBytes;

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "tests/support/recorded_log.h"
+
 #include <string>
 #include <vector>
-
-#include "tests/support/recorded_log.h"
 
 // The process's log as it stands by default, with the main window's messages at hand.
 class CapturedLog : public testing_support::RecordedLog

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QStringList>
-
 #include "tests/windows/widget/window_under_test.h"
+
+#include <QStringList>
 
 // Does to a window everything that can reach it while a run holds mouse and keyboard off: presses
 // and toggles by assistive programs, clicks and changes made by code, as timers make them, and the

@@ -1,9 +1,9 @@
 #include "tests/windows/widget/run_test_base.h"
 
+#include "ui/uninstall/src/app_catalogue.h"
+
 #include <QDir>
 #include <QFile>
-
-#include "ui/uninstall/src/app_catalogue.h"
 
 const QString RunTestBase::suiteName =
     QString::fromStdString(uninstall::displayName(uninstall::suiteId, false));

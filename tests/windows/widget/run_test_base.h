@@ -1,13 +1,13 @@
 #pragma once
 
-#include <memory>
+#include "tests/windows/widget/suite_registry.h"
+#include "tests/windows/widget/window_under_test.h"
 
 #include <QMessageBox>
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "tests/windows/widget/suite_registry.h"
-#include "tests/windows/widget/window_under_test.h"
+#include <memory>
 
 // What tests of uninstall runs share: registered applications whose uninstallers record their
 // arguments, running applications, and the answers to the warning boxes.

@@ -1,14 +1,14 @@
 // The main window as it stands before the first click: form, texts, order, log, list.
 
-#include <QLayout>
-#include <QMetaMethod>
-#include <QSpacerItem>
-
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
 #include "ui/uninstall/src/app_catalogue.h"
+
+#include <QLayout>
+#include <QMetaMethod>
+#include <QSpacerItem>
 
 class WidgetFormTest : public QObject
 {

@@ -1,15 +1,15 @@
 // What happens to a window in the middle of its run when something other than the run reaches it.
 
-#include <QSemaphore>
-
-#include <atomic>
-
 #include "support/netpull/netpull.h"
 #include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/intruder.h"
 #include "tests/windows/widget/run_test_base.h"
+
+#include <QSemaphore>
+
+#include <atomic>
 
 namespace {
 

@@ -1,10 +1,10 @@
 // The uninstall run from its button to the end of the program, with real uninstallers.
 
-#include <QElapsedTimer>
-
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
+
+#include <QElapsedTimer>
 
 class WidgetRunTest : public RunTestBase
 {

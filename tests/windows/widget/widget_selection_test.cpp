@@ -1,12 +1,12 @@
 // The list's check boxes and the controls that follow them, driven by mouse and keyboard.
 
-#include <memory>
-
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
 #include "ui/uninstall/src/app_catalogue.h"
+
+#include <memory>
 
 namespace {
 

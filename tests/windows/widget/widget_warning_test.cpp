@@ -1,14 +1,14 @@
 // Running applications during a run: the real warning box, and real processes that hold their
 // mutexes.
 
-#include <QFile>
-
-#include <windows.h>
-
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
 #include "ui/uninstall/src/running_application.h"
+
+#include <QFile>
+
+#include <windows.h>
 
 class WidgetWarningTest : public RunTestBase
 {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "ui/uninstall/src/widget.h"
+
 #include <QCheckBox>
 #include <QListWidget>
 #include <QPushButton>
 #include <QtTest>
-
-#include "ui/uninstall/src/widget.h"
 
 // The real main window with its controls at hand, and the gestures a person makes on it.
 class WindowUnderTest

@@ -2,12 +2,11 @@
 // report.txt into the kit's folder. Started by run-tests.cmd, which lies there.
 //
 // Exit code: 0 when all passed, 1 when one failed, 2 when the run was refused or stopped.
+#include "support/win32/unique_handle.h"
 #include "tools/windows_kit/runner/machine.h"
 #include "tools/windows_kit/runner/saved_settings.h"
 #include "tools/windows_kit/runner/test_list.h"
 #include "tools/windows_kit/runner/test_run.h"
-
-#include "support/win32/unique_handle.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,5 +1,4 @@
 #include "ui/common/stat/guid.h"
-
 #include "ui/common/sys/text_convert.h"
 #include "ui/common/sys/win32_error.h"
 
@@ -28,8 +27,7 @@ struct RpcText
 bool succeeded(RPC_STATUS status, const char* api)
 {
     if (status != RPC_S_OK)
-        win32::logFailure(logSource, __LINE__, api,
-                          static_cast<unsigned long>(status));
+        win32::logFailure(logSource, __LINE__, api, static_cast<unsigned long>(status));
     return status == RPC_S_OK;
 }
 

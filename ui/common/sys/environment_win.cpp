@@ -1,5 +1,4 @@
 #include "ui/common/sys/environment.h"
-
 #include "ui/common/sys/text_convert.h"
 
 #include <windows.h>

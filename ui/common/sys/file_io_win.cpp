@@ -1,5 +1,4 @@
 #include "ui/common/sys/replaceable.h"
-
 #include "ui/common/sys/result_codes.h"
 #include "ui/common/sys/win32_error.h"
 

@@ -1,9 +1,8 @@
 // The serving side of CInterprocessCommunicationWin.
 
 #include "ui/common/sys/interprocess_communication_win.h"
-
-#include "ui/common/sys/win32_error.h"
 #include "ui/common/sys/pipe_frame.h"
+#include "ui/common/sys/win32_error.h"
 
 #include <exception>
 

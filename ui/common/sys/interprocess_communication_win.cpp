@@ -1,7 +1,7 @@
 #include "ui/common/sys/interprocess_communication_win.h"
 
-#include "ui/common/sys/win32_error.h"
 #include "ui/common/sys/pipe_frame.h"
+#include "ui/common/sys/win32_error.h"
 
 #include <cctype>
 #include <mutex>

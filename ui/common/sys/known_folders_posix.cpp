@@ -1,6 +1,5 @@
-#include "ui/common/sys/known_folders.h"
-
 #include "ui/common/sys/environment.h"
+#include "ui/common/sys/known_folders.h"
 #include "ui/common/sys/result_codes.h"
 #include "ui/common/sys/text_convert.h"
 

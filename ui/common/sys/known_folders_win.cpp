@@ -1,7 +1,6 @@
-#include "ui/common/sys/known_folders.h"
-
-#include "ui/common/sys/replaceable.h"
 #include "support/win32/unique_handle.h"
+#include "ui/common/sys/known_folders.h"
+#include "ui/common/sys/replaceable.h"
 
 #include <iostream>
 #include <utility>

@@ -1,5 +1,4 @@
 #include "ui/common/sys/module_path.h"
-
 #include "ui/common/sys/replaceable.h"
 
 #include <windows.h>

@@ -1,5 +1,4 @@
 #include "ui/common/sys/text_convert.h"
-
 #include "ui/common/sys/win32_error.h"
 
 #include <limits>

@@ -1,7 +1,7 @@
 #include "ui/common/sys/thread.h"
 
-#include "ui/common/sys/win32_error.h"
 #include "ui/common/sys/thread_start.h"
+#include "ui/common/sys/win32_error.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QListWidgetItem>
-
 #include "ui/uninstall/src/run_state.h"
+
+#include <QListWidgetItem>
 
 namespace uninstall {
 

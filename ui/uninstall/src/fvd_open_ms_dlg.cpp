@@ -1,16 +1,16 @@
 #include "ui/uninstall/src/fvd_open_ms_dlg.h"
 
+#include "ui/uninstall/src/app_catalogue.h"
+#include "ui/uninstall/src/dialog_actions.h"
+#include "ui/uninstall/src/store_offer.h"
+#include "ui_fvd_open_ms_dlg.h"
+
 #include <QCloseEvent>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QPixmap>
 
 #include <utility>
-
-#include "ui/uninstall/src/app_catalogue.h"
-#include "ui/uninstall/src/dialog_actions.h"
-#include "ui/uninstall/src/store_offer.h"
-#include "ui_fvd_open_ms_dlg.h"
 
 namespace {
 

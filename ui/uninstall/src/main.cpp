@@ -1,8 +1,8 @@
-#include <QApplication>
-
 #include "support/keelbase/keelbase.h"
 #include "ui/uninstall/src/command_line.h"
 #include "ui/uninstall/src/widget.h"
+
+#include <QApplication>
 
 namespace {
 

@@ -1,13 +1,13 @@
 #include "ui/uninstall/src/question_dlg.h"
 
+#include "ui/uninstall/src/dialog_actions.h"
+#include "ui_question_dlg.h"
+
 #include <QCloseEvent>
 #include <QIcon>
 #include <QKeyEvent>
 
 #include <utility>
-
-#include "ui/uninstall/src/dialog_actions.h"
-#include "ui_question_dlg.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 #include "ui/uninstall/src/responsive_wait.h"
 
-#include <memory>
-
 #include <QCursor>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QThread>
 #include <QTimer>
+
+#include <memory>
 
 namespace uninstall {
 

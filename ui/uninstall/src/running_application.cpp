@@ -1,9 +1,9 @@
 #include "ui/uninstall/src/running_application.h"
 
-#include <windows.h>
-
-#include "ui/common/sys/text_convert.h"
 #include "support/win32/unique_handle.h"
+#include "ui/common/sys/text_convert.h"
+
+#include <windows.h>
 
 namespace uninstall {
 

@@ -1,8 +1,8 @@
 #include "ui/uninstall/src/system_program.h"
 
-#include <windows.h>
-
 #include "ui/common/sys/win32_error.h"
+
+#include <windows.h>
 
 namespace uninstall {
 
@@ -17,8 +17,7 @@ std::wstring systemProgram(const std::wstring& fileName)
     wchar_t folder[MAX_PATH] = {};
     const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
     if (length == 0 || length >= MAX_PATH) {
-        win32::logFailure(logSource, __LINE__,
-                          "GetSystemDirectoryW",
+        win32::logFailure(logSource, __LINE__, "GetSystemDirectoryW",
                           length == 0 ? GetLastError() : ERROR_INSUFFICIENT_BUFFER);
         return {};
     }

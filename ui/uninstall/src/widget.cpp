@@ -1,12 +1,5 @@
 #include "ui/uninstall/src/widget.h"
 
-#include <QCloseEvent>
-#include <QIcon>
-#include <QProcess>
-#include <QSettings>
-#include <QSignalBlocker>
-#include <QTimer>
-
 #include "ui/common/config/common_config.h"
 #include "ui/common/config/runtime_brand.h"
 #include "ui/common/lang/translators.h"
@@ -17,6 +10,13 @@
 #include "ui/uninstall/src/main_form_log.h"
 #include "ui/uninstall/src/registry_keys.h"
 #include "ui_widget.h"
+
+#include <QCloseEvent>
+#include <QIcon>
+#include <QProcess>
+#include <QSettings>
+#include <QSignalBlocker>
+#include <QTimer>
 
 Widget::Widget(std::vector<std::string> arguments, QWidget* parent)
     : CInterprocessCommunicationApp(std::move(arguments), parent, true, 0),
@@ -145,7 +145,8 @@ void Widget::allApplicationsSelButtonClicked()
 {
     if (!run.choiceIsOpen())
         return;
-    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation) << "allApplicationsSelButtonClicked";
+    KEELBASE_LOG(uninstall::mainForm, Keelbase::levelInformation)
+        << "allApplicationsSelButtonClicked";
     const bool selectAll = ui->btnAllApplicationsSel->property("state").toBool();
     changeItemsState(selectAll);
     setSelectButtonMode(!selectAll);

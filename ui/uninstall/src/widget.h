@@ -1,13 +1,13 @@
 #pragma once
 
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "ui/common/config/config.h"
 #include "ui/common/sys/interprocess_communication_app.h"
 #include "ui/uninstall/src/list_state.h"
 #include "ui/uninstall/src/run_state.h"
+
+#include <memory>
+#include <string>
+#include <vector>
 
 class QListWidgetItem;
 

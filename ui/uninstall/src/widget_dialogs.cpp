@@ -1,11 +1,6 @@
 // The dialogs of the main window: the exit survey, the store offer that follows it, and what their
 // events lead to.
 
-#include "ui/uninstall/src/widget.h"
-
-#include <QDesktopServices>
-#include <QUrl>
-
 #include "ui/common/config/common_config.h"
 #include "ui/common/stat/app_event_stat.h"
 #include "ui/uninstall/src/app_catalogue.h"
@@ -14,6 +9,10 @@
 #include "ui/uninstall/src/main_form_log.h"
 #include "ui/uninstall/src/question_dlg.h"
 #include "ui/uninstall/src/store_offer.h"
+#include "ui/uninstall/src/widget.h"
+
+#include <QDesktopServices>
+#include <QUrl>
 
 namespace {
 

@@ -1,14 +1,6 @@
 // The uninstall run of the main window: the registry, processes and boxes behind the steps that
 // uninstall_run.h puts in order.
 
-#include "ui/uninstall/src/widget.h"
-
-#include <QCoreApplication>
-#include <QIcon>
-#include <QMessageBox>
-#include <QProcess>
-#include <QSettings>
-
 #include "ui/common/config/runtime_brand.h"
 #include "ui/uninstall/src/main_form_log.h"
 #include "ui/uninstall/src/registry_keys.h"
@@ -18,7 +10,14 @@
 #include "ui/uninstall/src/system_program.h"
 #include "ui/uninstall/src/uninstall_command.h"
 #include "ui/uninstall/src/uninstall_run.h"
+#include "ui/uninstall/src/widget.h"
 #include "ui_widget.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <QProcess>
+#include <QSettings>
 
 namespace {
 
@@ -47,7 +46,10 @@ public:
 
     std::size_t rowCount() const { return items.size(); }
 
-    bool isChecked(std::size_t row) const override { return items[row]->checkState() == Qt::Checked; }
+    bool isChecked(std::size_t row) const override
+    {
+        return items[row]->checkState() == Qt::Checked;
+    }
 
     std::string command(std::size_t row) const override
     {
