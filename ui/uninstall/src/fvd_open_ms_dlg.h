@@ -17,8 +17,8 @@ struct StorePartner;
 
 // The store offer: one of two partner applications in the Microsoft Store.
 //
-// Run with exec(); the outcome is told through the event callback alone, with the codes of
-// dialog_actions.h: shown from the constructor, then either storeOpened or closed. The dialog
+// Run with exec(); only the event callback reports the outcome, with the codes of dialog_actions.h:
+// shown from the constructor, then either storeOpened or closed. The dialog
 // does not open the store itself.
 //
 // Threads: the GUI thread only.
