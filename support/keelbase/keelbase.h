@@ -42,10 +42,12 @@ struct LogRecord
     std::string text;
 };
 
+// Receives finished messages. Any thread may call it.
 class ILogger
 {
 public:
     virtual ~ILogger() = default;
+    // The highest level that is written.
     virtual int level() const noexcept = 0;
     virtual void write(const LogRecord& record) noexcept = 0;
 };

@@ -23,8 +23,8 @@ struct SystemFolderOnly
         using SetDirectories = BOOL(WINAPI*)(DWORD);
         const auto setDirectories = reinterpret_cast<SetDirectories>(reinterpret_cast<void*>(
             GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories")));
-        // Windows 7 without updates lacks the function. Only the current folder can be left out
-        // there, which child processes inherit, so it is not done elsewhere.
+        // Windows 7 without updates lacks the function and can only leave out the current folder.
+        // Child processes inherit that, so it is done only there.
         if (setDirectories == nullptr || !setDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32))
             SetDllDirectoryW(L"");
     }

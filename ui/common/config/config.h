@@ -33,8 +33,8 @@ public:
 
     // Rewrites the file: its present content with this process's changes applied. A file that is
     // missing or cannot be read counts as empty. Without changes the disk is not touched.
-    // Returns success; noSuchFile without a file name; readOrWriteFailed; the changes are
-    // then kept for the next save().
+    // Returns success; noSuchFile without a file name; readOrWriteFailed, with the
+    // changes kept for the next save().
     virtual int save();
 
     // Adds the file's pairs; keys in memory keep their values but no longer count as changed.

@@ -13,8 +13,8 @@ void enumerateWindows(const std::function<int(HWND)>& visit);
 
 // Brings another copy's window to the foreground: the first top-level window other than `ownWindow`
 // (a native handle) whose title contains the title of `ownWindow`. An empty own title deliberately
-// matches any window. Does nothing when no window matches or the system refuses
-// the foreground. Any thread.
+// matches any window. Does nothing when no window matches or the system refuses the foreground. Any
+// thread.
 void bringWindowToTop(std::int64_t ownWindow);
 
 // Allows all processes to bring a window to the front until the user's next input. Windows grants

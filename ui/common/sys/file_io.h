@@ -7,9 +7,9 @@
 
 namespace sys {
 
-// Reads the file's bytes into `content`. Returns 0; the error number of the open
-// call; openedWithoutStream; or readOrWriteFailed when the bytes cannot be read. `content` is
-// changed on success only.
+// Reads the file's bytes into `content`. Returns 0; the error number of the open call;
+// openedWithoutStream; or readOrWriteFailed when the bytes cannot be read. `content` is changed on
+// success only.
 //
 // A file that another process has open for writing or exclusively is tried again for half a second;
 // any other failure is returned at once.

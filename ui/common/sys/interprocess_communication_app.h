@@ -18,9 +18,9 @@ class CInterprocessCommunicationApp : public QMainWindow, public IMessageFromOth
 public:
     // With `check`, the constructor determines whether this is the first copy. The first copy then
     // serves the pipe. A later copy hands `arguments`, joined by single spaces ("/show" for none),
-    // to the first, which blocks for as long as the first copy takes, and then
-    // isAnotherInstanceRunning() is true whether the hand-over worked or not, unless the answer
-    // is "revive".
+    // to the first and waits, without limit, for its answer. Then isAnotherInstanceRunning() is
+    // true, even if the hand-over failed, unless the answer asks this copy to go on as the first.
+    //
     // Messages act on `parent`, or on this object without one. With a parent, a later copy also
     // brings forward the window whose title contains the parent's. Main thread only, with the
     // application object alive. Failures of the channel are not reported.
