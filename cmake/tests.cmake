@@ -21,7 +21,7 @@ endfunction()
 function(tessera_add_windows_entry name)
     cmake_parse_arguments(ARG "" "TIMEOUT;COST" "COMMAND;ENVIRONMENT" ${ARGN})
     if(NOT ARG_TIMEOUT)
-        set(ARG_TIMEOUT 180)
+        set(ARG_TIMEOUT 300)
     endif()
     add_test(NAME ${name} COMMAND ${ARG_COMMAND})
     # The kit's runner sets no variables.

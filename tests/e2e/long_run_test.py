@@ -27,8 +27,10 @@ WAIT = 2.0
 EARLY, LATE = 0.05, 8.0
 # Sooner than the wait for one uninstaller ends, and than Windows calls a window hung (5 s).
 LONGEST_ANSWER_MS = 1500
-# No second start is put off until the run is over, and most are not until a row's wait is.
-LONGEST_SECOND_START, USUAL_SECOND_START = 6.0, 1.0
+# No second start is put off until the run is over.
+LONGEST_SECOND_START = 6.0
+# Most are not even put off until a row's wait is over: they take hardly longer than before the run.
+HARDLY = 0.8
 # What the second starts log as well.
 OF_EVERY_COPY = {*START_OF_LOG, "~Widget()"}
 # While as many rows are left, the window still has time to be looked at.
@@ -115,6 +117,7 @@ class LongRun(SuiteTestCase):
         program.main_window.select_all()
         program.main_window.toggle_delete_settings()
         watch = self.start_watch()
+        before_the_run = statistics.median(self.second_start() for _ in range(3))
         program.main_window.press_uninstall()
         second_starts = self.meddle(program)
         self.assertEqual(program.exit_code(), 0)
@@ -131,7 +134,7 @@ class LongRun(SuiteTestCase):
         # Answered other copies at once.
         self.assertGreater(len(second_starts), 1)
         self.assertLess(max(second_starts), LONGEST_SECOND_START)
-        self.assertLess(statistics.median(second_starts), USUAL_SECOND_START)
+        self.assertLess(statistics.median(second_starts), before_the_run + HARDLY)
 
         # Took no click: the log tells each gesture that the window acts on.
         messages = [message for message in self.suite.log()
