@@ -9,8 +9,8 @@ from typing import Dict, Iterable, List, Optional
 
 from tests.harness import layout, screen
 from tests.harness.prefix import Prefix
-from tests.harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, RunningApplication,
-                                 RunningProgram, Suite)
+from tests.harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, START_OF_LOG,
+                                 RunningApplication, RunningProgram, Suite)
 from tests.harness.waiting import wait_until
 from tests.sample_suite.applications import Application
 
@@ -117,6 +117,13 @@ class SuiteTestCase(unittest.TestCase):
         self.assertEqual([message.text for message in messages], expected)
         self.assertEqual({(message.level, message.source) for message in messages},
                          {(6, "ui/uninstall/src/widget")})
+
+    def assert_selective_log(self, suite: Suite, *applications: Application):
+        """The program was started once and ran a selective run over these applications."""
+        removals = [line for application in applications
+                    for line in suite.removal_log(application)]
+        self.assert_log(suite, [*START_OF_LOG, "--> uninstallButtonClicked", *removals,
+                                "~Widget()"])
 
     def assert_removed(self, suite: Suite, application: Application, with_settings: bool):
         """Once its uninstaller has ended, its program folder is gone, and its settings are gone only

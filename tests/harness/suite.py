@@ -29,6 +29,14 @@ WARNING_TITLE = "Uninstallation"
 # The switches after the log switch in a selective run.
 SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
 
+# How long the program waits for an uninstaller, in seconds, and how much shorter or longer the times
+# in its log may make that wait appear on a busy machine.
+UNINSTALLER_WAIT = 2.0
+EARLY, LATE = 0.05, 8.0
+
+# Variables that let the program log more than usual.
+DETAILED_LOG = {"KEELBASE_LOG_LEVEL": "7"}
+
 # The program's messages until its window appears.
 START_OF_LOG = ["-->Widget::Widget()", "Try to fill list widget (runtime brand: Lumacraft)"]
 
