@@ -147,8 +147,11 @@ def main() -> int:
     cache.mkdir(parents=True, exist_ok=True)
     tool_state = output_of([arguments.tool, "--version"]) + hash_of(".clang-tidy")
     todo = readings(arguments.tool, arguments.build)
-    with ThreadPoolExecutor(os.cpu_count()) as pool:
+    pool = ThreadPoolExecutor(os.cpu_count())
+    try:
         results = list(pool.map(lambda reading: read(reading, tool_state, cache), todo))
+    finally:
+        pool.shutdown(cancel_futures=True)
     print(f"{arguments.tool}: {results.count(True)} of {len(results)} sources passed")
     return 0 if results and all(results) else 1
 
