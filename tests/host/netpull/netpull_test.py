@@ -1,6 +1,8 @@
-"""netpull against local servers: what goes over the wire, and what comes of every failure."""
+"""netpull against local servers: its requests, and the outcome of every failure."""
 
+import base64
 import os
+import ssl
 import subprocess
 import tempfile
 import unittest
@@ -25,6 +27,7 @@ PARTIAL_FILE = 18
 WRITE_ERROR = 23
 TIMED_OUT = 28
 BAD_ARGUMENT = 43
+HANDSHAKE_FAILED = 35
 GOT_NOTHING = 52
 RECEIVE_ERROR = 56
 UNTRUSTED = 60
@@ -55,7 +58,7 @@ def get(port: int, **options) -> Outcome:
 
 
 class Requests(unittest.TestCase):
-    def test_get_sends_nothing_beyond_what_http_asks_for(self):
+    def test_get_sends_only_required_headers(self):
         with HttpService(answer(200, b"text")) as service:
             outcome = get(service.port)
         self.assertEqual((outcome.code, outcome.status, outcome.body), (0, 200, b"text"))
@@ -64,7 +67,7 @@ class Requests(unittest.TestCase):
                          ("GET", "/where?a=b", b""))
         self.assertEqual(set(header_names(request)), {"host", "accept"})
 
-    def test_post_sends_the_form_and_its_one_header(self):
+    def test_post_sends_the_form_and_its_header(self):
         with HttpService(answer(200)) as service:
             outcome = fetch("POST", f"http://127.0.0.1:{service.port}/form", data='data="x"&%7B',
                             header="Content-Type: text/special")
@@ -75,8 +78,8 @@ class Requests(unittest.TestCase):
         self.assertEqual(set(headers), {"host", "accept", "content-type", "content-length"})
         self.assertEqual(headers["content-type"], "text/special")
 
-    def test_a_long_post_goes_out_at_once(self):
-        # libcurl asks for "100 Continue" from 1 MiB on, and waits a second for it.
+    def test_a_long_post_is_sent_without_waiting(self):
+        # By default libcurl asks for "100 Continue" from 1 MiB on, and waits a second for it.
         with HttpService(answer(200)) as service:
             url = f"http://127.0.0.1:{service.port}/form"
             outcome = fetch("POST", url, dataSize=2_000_000)
@@ -92,7 +95,7 @@ class Requests(unittest.TestCase):
         self.assertEqual(service.received[0].method, "POST")
         self.assertEqual(header_names(service.received[0])["content-length"], "0")
 
-    def test_the_environments_proxies_do_not_count(self):
+    def test_proxies_of_the_environment_are_ignored(self):
         with HttpService(answer(200)) as service:
             dead = "http://127.0.0.1:1"
             outcome = get(service.port, environment={"http_proxy": dead, "all_proxy": dead})
@@ -107,7 +110,7 @@ class Answers(unittest.TestCase):
         self.assertEqual(len(service.received), 1)
         return outcome
 
-    def test_every_status_is_handed_over_with_its_body(self):
+    def test_every_status_is_returned_with_its_body(self):
         for status in (200, 301, 400, 404, 500, 503):
             with self.subTest(status):
                 self.check(answer(status, b"body"), 0, status, b"body")
@@ -117,11 +120,11 @@ class Answers(unittest.TestCase):
             with self.subTest(status):
                 self.check(answer(status, b"", "Location: /elsewhere"), 0, status)
 
-    def test_the_body_keeps_all_its_bytes(self):
+    def test_the_body_may_hold_any_bytes(self):
         body = bytes(range(256)) * 10
         self.check(answer(200, body), 0, 200, body)
 
-    def test_the_longest_body_is_taken(self):
+    def test_the_longest_allowed_body_is_accepted(self):
         self.check(answer(200, b"y" * ANSWER_LIMIT), 0, 200, b"y" * ANSWER_LIMIT)
 
     def test_a_declared_long_body_is_refused(self):
@@ -138,7 +141,7 @@ class Answers(unittest.TestCase):
         self.assertLessEqual(len(outcome.body), ANSWER_LIMIT)
         self.assertLess(outcome.seconds, 5)
 
-    def test_an_answer_that_memory_cannot_hold_is_an_error(self):
+    def test_an_answer_too_large_for_memory_is_an_error(self):
         with HttpService(answer(200, b"y" * ANSWER_LIMIT)) as service:
             outcome = get(service.port, largestBlock=ANSWER_LIMIT // 4)
         self.assertEqual((outcome.code, outcome.status), (WRITE_ERROR, 200))
@@ -175,7 +178,7 @@ class Limits(unittest.TestCase):
         with HttpService(slow_drip) as service:
             self.check_time(get(service.port, timeout=1), 1)
 
-    def test_the_longest_duration_counts_when_it_is_shorter(self):
+    def test_the_longest_duration_applies_when_it_is_shorter(self):
         with HttpService(stall) as service:
             self.check_time(get(service.port, timeout=9, longest=1), 1)
 
@@ -207,6 +210,44 @@ class Limits(unittest.TestCase):
         self.assertEqual(get(1, httpVersion=2).code, BAD_ARGUMENT)
 
 
+class Encryption(unittest.TestCase):
+    # This machine's own settings, which would refuse old versions by themselves, do not count.
+    PERMISSIVE = """openssl_conf = start
+[start]
+ssl_conf = modules
+[modules]
+system_default = everything
+[everything]
+MinProtocol = TLSv1
+CipherString = DEFAULT@SECLEVEL=0
+"""
+
+    def code_for(self, newest: ssl.TLSVersion) -> int:
+        """What becomes of a request to a server that speaks nothing newer, and that nobody here
+        trusts."""
+        with tempfile.TemporaryDirectory() as name:
+            folder = Path(name)
+            settings = folder / "openssl.cnf"
+            settings.write_text(self.PERMISSIVE)
+            context = Authority(folder / "authority", "nobody's").server_context(["localhost"])
+            context.set_ciphers("DEFAULT@SECLEVEL=0")
+            context.minimum_version = ssl.TLSVersion.TLSv1
+            context.maximum_version = newest
+            with HttpService(answer(200), tls=context) as service:
+                return fetch("GET", f"https://localhost:{service.port}/",
+                             environment={"OPENSSL_CONF": str(settings)}).code
+
+    def test_versions_before_1_2_are_refused(self):
+        for version in (ssl.TLSVersion.TLSv1, ssl.TLSVersion.TLSv1_1):
+            with self.subTest(version):
+                self.assertEqual(self.code_for(version), HANDSHAKE_FAILED)
+
+    def test_versions_from_1_2_on_get_as_far_as_the_certificate(self):
+        for version in (ssl.TLSVersion.TLSv1_2, ssl.TLSVersion.TLSv1_3):
+            with self.subTest(version):
+                self.assertEqual(self.code_for(version), UNTRUSTED)
+
+
 class Connections(unittest.TestCase):
     def test_a_name_that_does_not_resolve(self):
         self.assertEqual(fetch("GET", "http://no-such-host.invalid/").code,
@@ -226,7 +267,7 @@ class Proxies(unittest.TestCase):
     URL = "https://service.example/path"
 
     def through(self, credentials=None, tls=None, **options):
-        """One HTTPS request through a proxy to a server that nobody here trusts."""
+        """Sends one HTTPS request through a proxy to an untrusted server."""
         with tempfile.TemporaryDirectory() as folder, \
                 HttpService(answer(200), tls=self.context(Path(folder))) as service, \
                 ConnectProxy({"service.example:443": service.port}, credentials) as proxy:
@@ -250,6 +291,13 @@ class Proxies(unittest.TestCase):
         self.assertEqual(outcome.code, UNTRUSTED)
         self.assertEqual([c.accepted for c in connects], [True])
 
+    def test_half_of_the_credentials_is_sent_too(self):
+        for user, password in (("ann", ""), ("", "secret")):
+            with self.subTest(user=user, password=password):
+                _, connects = self.through(proxyUser=user, proxyPassword=password)
+                token = base64.b64encode(f"{user}:{password}".encode()).decode()
+                self.assertEqual([c.authorization for c in connects], [f"Basic {token}"])
+
     def test_a_wrong_password_ends_the_request(self):
         outcome, connects = self.through(("ann", "right"), proxyUser="ann", proxyPassword="wrong")
         self.assertEqual((outcome.code, outcome.status), (RECEIVE_ERROR, 0))
@@ -260,14 +308,14 @@ class Proxies(unittest.TestCase):
             outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=proxy.port)
         self.assertEqual((outcome.code, outcome.status), (RECEIVE_ERROR, 0))
 
-    def test_the_environments_exceptions_do_not_count(self):
+    def test_proxy_exceptions_of_the_environment_are_ignored(self):
         with ConnectProxy({}) as proxy:
             outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=proxy.port,
                             environment={"no_proxy": "*"})
             self.assertEqual(len(proxy.connects), 1)
         self.assertEqual(outcome.code, RECEIVE_ERROR)
 
-    def test_ports_that_cannot_be_are_refused(self):
+    def test_impossible_ports_are_refused(self):
         for port in (0, -1, 65536):
             with self.subTest(port):
                 outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=port)
