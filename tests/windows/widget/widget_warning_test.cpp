@@ -1,5 +1,4 @@
-// Running applications during a run: the real warning box, and real processes that hold their
-// mutexes.
+// Running applications during a run: the real warning box, and real processes that hold the mutexes.
 
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
@@ -15,19 +14,19 @@ class WidgetWarningTest : public RunTestBase
     Q_OBJECT
 
 private slots:
-    void okEndsTheRunningApplicationAndGoesOn();
-    void cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing();
+    void okEndsTheRunningApplicationAndContinues();
+    void cancelInASelectiveRunChecksAllRowsAndUninstallsNothing();
     void cancelInAFullRunLeavesRowsUncheckedAndControlsDisabled();
     void closingTheWarningCountsAsCancel();
     void twoRunningApplicationsAskInRowOrder();
-    void suiteRowAsksForApplicationsThatAreNotListed();
+    void suiteRowWarnsAboutApplicationsThatAreNotListed();
     void warningNamesTheInstallFolder();
     void warningWithoutAPathBeginsWithIsRunning();
     void warningOfAForeignApplicationShowsItsName();
     void taskkillIsTheSystemsAndNamesTheIdString();
 };
 
-void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
+void WidgetWarningTest::okEndsTheRunningApplicationAndContinues()
 {
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
     addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
@@ -44,7 +43,7 @@ void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
     QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")).size(), 1);
 }
 
-void WidgetWarningTest::cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing()
+void WidgetWarningTest::cancelInASelectiveRunChecksAllRowsAndUninstallsNothing()
 {
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
     addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
@@ -131,7 +130,7 @@ void WidgetWarningTest::twoRunningApplicationsAskInRowOrder()
     QVERIFY(second->state() == QProcess::NotRunning || second->waitForFinished(deadlineMs));
 }
 
-void WidgetWarningTest::suiteRowAsksForApplicationsThatAreNotListed()
+void WidgetWarningTest::suiteRowWarnsAboutApplicationsThatAreNotListed()
 {
     addApplication(suiteName, QStringLiteral("Tessera"));
     const auto running = startApplication(QStringLiteral("WaveTuner"));
