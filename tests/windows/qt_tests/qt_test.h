@@ -1,7 +1,7 @@
 #pragma once
 
-// The Qt tests are one program, so that Qt is linked once: qt_tests.exe TEST [ARGUMENTS...], where TEST
-// is the name of a class. Each source registers its class at its end:
+// The Qt tests are one program, so that Qt is linked once: qt_tests.exe TEST [ARGUMENTS...], where
+// TEST is the name of a class. Each source registers its class at its end:
 //
 //     TESSERA_QT_TEST(WidgetFormTest)
 //     #include "widget_form_test.moc"

@@ -7,8 +7,8 @@
 
 namespace windows_tests {
 
-// Sets an environment variable (null: removes it) while in scope, for this process and its children.
-// `name` must outlive the object.
+// Sets an environment variable (null: removes it) while in scope, for this process and its
+// children. `name` must outlive the object.
 class ScopedVariable
 {
 public:

@@ -4,8 +4,9 @@
 
 #include <QStringList>
 
-// Tries everything that can reach a window while a run blocks mouse and keyboard: presses and toggles
-// by assistive programs, clicks and changes by code, as from timers, and mouse and keyboard events.
+// Tries everything that can reach a window while a run blocks mouse and keyboard: presses and
+// toggles by assistive programs, clicks and changes by code, as from timers, and mouse and keyboard
+// events.
 class Intruder
 {
 public:

@@ -1,5 +1,6 @@
 // An uninstaller that removes nothing: each start appends its arguments as one line of UTF-8 to
-// "<own path>.args". A copy named "slow.exe" then runs for ten seconds and writes "<own path>.done".
+// "<own path>.args". A copy named "slow.exe" then runs for ten seconds and writes "<own
+// path>.done".
 #include "tests/sample_suite/record_file.h"
 
 #include <cstdio>

@@ -19,8 +19,8 @@ protected:
     static constexpr int deadlineMs = 60'000;
     static const QString suiteName;
 
-    // Registers an application whose uninstaller records its arguments, in a folder with a space and
-    // non-ASCII letters in its path. Returns the uninstaller's path.
+    // Registers an application whose uninstaller records its arguments, in a folder with a space
+    // and non-ASCII letters in its path. Returns the uninstaller's path.
     QString addApplication(const QString& displayName, const QString& idString,
                            const QString& program = QStringLiteral("Uninst.exe"));
 
@@ -28,8 +28,8 @@ protected:
     QStringList startsOf(const QString& idString,
                          const QString& program = QStringLiteral("Uninst.exe"));
 
-    // The same, once there is one: on a busy machine an uninstaller may record its start only after the
-    // run has stopped waiting for it.
+    // The same, once there is one: on a busy machine an uninstaller may record its start only after
+    // the run has stopped waiting for it.
     QStringList awaitedStartsOf(const QString& idString);
 
     // Starts a program that holds the application's instance mutex, and waits until it does.
@@ -38,8 +38,8 @@ protected:
     // Shows the window, presses "Uninstall" with the mouse and runs the event loop to its end.
     static bool press(WindowUnderTest& under);
 
-    // Answers the warning boxes in order by these buttons, and records their texts. NoButton closes the
-    // box by its title bar.
+    // Answers the warning boxes in order by these buttons, and records their texts. NoButton closes
+    // the box by its title bar.
     void answerBoxes(QList<QMessageBox::StandardButton> answers);
 
     static QString logSwitch(const QString& idString);

@@ -234,8 +234,8 @@ void WidgetIntrusionTest::nothingIntrudesAfterTheRun()
     verifyOutcome(under, quick);
 }
 
-// Buttons that do not match the rows stay unchanged too. "/app" does not update the select button, so
-// it does not match when every row is checked.
+// Buttons that do not match the rows stay unchanged too. "/app" does not update the select button,
+// so it does not match when every row is checked.
 void WidgetIntrusionTest::nothingIntrudesOnButtonsThatDoNotMatchTheRows()
 {
     const QString slow = QStringLiteral("slow.exe");

@@ -1,4 +1,5 @@
-// Running applications during a run: the real warning box, and real processes that hold the mutexes.
+// Running applications during a run: the real warning box, and real processes that hold the
+// mutexes.
 
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
