@@ -363,7 +363,7 @@ TEST_F(AppEventStat, SendsEventsOfManyThreadsOneByOneAndInOrder)
     EXPECT_EQ(*numbers.rbegin(), 1000);
 }
 
-TEST_F(AppEventStat, CompletesThePostInFlightAtItsEndAndDropsTheRest)
+TEST_F(AppEventStat, CompletesThePostUnderWayAtTheEndAndDropsTheRest)
 {
     std::atomic<int> completed{0};
     std::atomic<bool> ending{false};

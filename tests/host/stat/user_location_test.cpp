@@ -63,7 +63,7 @@ TEST_F(UserLocation, TreatsAnEmptyAnswerAsAnError)
     EXPECT_EQ(getUserLocation(answer, proxy), 100009);
 }
 
-TEST_F(UserLocation, AcceptsAnyStatusWithABody)
+TEST_F(UserLocation, TakesAnyStatusWithABodyForAnAnswer)
 {
     scripted::answerInOrder({{0, 404, "not here"}});
     EXPECT_EQ(getUserCountry(proxy), "not here");

@@ -79,7 +79,7 @@ TEST_F(ChannelExchange, MessageWithoutAnAnswerFailsAfterSevenAttemptsButIsDelive
     EXPECT_EQ(exchange("#deliveries").answer, "2");
 }
 
-TEST_F(ChannelExchange, ReceiverThatThrowsLosesOnlyOneAnswer)
+TEST_F(ChannelExchange, ReceiverThatThrowsCostsOneAnswerAndNoMore)
 {
     for (const char* text : {"#no memory", "#throw"}) {
         ASSERT_EQ(exchange("before"), (Exchange{0, "before"}));
