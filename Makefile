@@ -68,7 +68,7 @@ bench: setup ## measure the logic, start-up, size, runs, messages (docs/performa
 fuzz: ## run each fuzz target for FUZZ_SECONDS (60) under sanitizers
 	@tools/fuzz/run.sh
 
-lint: ## check formatting, shell scripts and spelling; clang-tidy and cppcheck
+lint: setup ## check format, scripts, spelling; cppcheck, clang-tidy, clang's warnings
 	@tools/setup/packages.sh lint
 	@tools/lint.sh
 

@@ -28,7 +28,7 @@ packages=(
     nsis
 )
 if [[ ${1:-} == lint ]]; then
-    packages+=(clang-format clang-tidy cppcheck shellcheck codespell)
+    packages+=(clang clang-format clang-tidy cppcheck shellcheck codespell pyflakes3)
 elif [[ ${1:-} == fuzz ]]; then
     packages+=(clang llvm libclang-rt-dev)
 elif [[ ${1:-} == bench ]]; then

@@ -1,6 +1,8 @@
 """netpull against local servers: its requests, and the outcome of every failure."""
 
+import base64
 import os
+import ssl
 import subprocess
 import tempfile
 import unittest
@@ -25,6 +27,7 @@ PARTIAL_FILE = 18
 WRITE_ERROR = 23
 TIMED_OUT = 28
 BAD_ARGUMENT = 43
+HANDSHAKE_FAILED = 35
 GOT_NOTHING = 52
 RECEIVE_ERROR = 56
 UNTRUSTED = 60
@@ -207,6 +210,44 @@ class Limits(unittest.TestCase):
         self.assertEqual(get(1, httpVersion=2).code, BAD_ARGUMENT)
 
 
+class Encryption(unittest.TestCase):
+    # This machine's own settings, which would refuse old versions by themselves, do not count.
+    PERMISSIVE = """openssl_conf = start
+[start]
+ssl_conf = modules
+[modules]
+system_default = everything
+[everything]
+MinProtocol = TLSv1
+CipherString = DEFAULT@SECLEVEL=0
+"""
+
+    def code_for(self, newest: ssl.TLSVersion) -> int:
+        """What becomes of a request to a server that speaks nothing newer, and that nobody here
+        trusts."""
+        with tempfile.TemporaryDirectory() as name:
+            folder = Path(name)
+            settings = folder / "openssl.cnf"
+            settings.write_text(self.PERMISSIVE)
+            context = Authority(folder / "authority", "nobody's").server_context(["localhost"])
+            context.set_ciphers("DEFAULT@SECLEVEL=0")
+            context.minimum_version = ssl.TLSVersion.TLSv1
+            context.maximum_version = newest
+            with HttpService(answer(200), tls=context) as service:
+                return fetch("GET", f"https://localhost:{service.port}/",
+                             environment={"OPENSSL_CONF": str(settings)}).code
+
+    def test_versions_before_1_2_are_refused(self):
+        for version in (ssl.TLSVersion.TLSv1, ssl.TLSVersion.TLSv1_1):
+            with self.subTest(version):
+                self.assertEqual(self.code_for(version), HANDSHAKE_FAILED)
+
+    def test_versions_from_1_2_on_get_as_far_as_the_certificate(self):
+        for version in (ssl.TLSVersion.TLSv1_2, ssl.TLSVersion.TLSv1_3):
+            with self.subTest(version):
+                self.assertEqual(self.code_for(version), UNTRUSTED)
+
+
 class Connections(unittest.TestCase):
     def test_a_name_that_does_not_resolve(self):
         self.assertEqual(fetch("GET", "http://no-such-host.invalid/").code,
@@ -249,6 +290,13 @@ class Proxies(unittest.TestCase):
                                          proxyPassword="p:w d")
         self.assertEqual(outcome.code, UNTRUSTED)
         self.assertEqual([c.accepted for c in connects], [True])
+
+    def test_half_of_the_credentials_is_sent_too(self):
+        for user, password in (("ann", ""), ("", "secret")):
+            with self.subTest(user=user, password=password):
+                _, connects = self.through(proxyUser=user, proxyPassword=password)
+                token = base64.b64encode(f"{user}:{password}".encode()).decode()
+                self.assertEqual([c.authorization for c in connects], [f"Basic {token}"])
 
     def test_a_wrong_password_ends_the_request(self):
         outcome, connects = self.through(("ann", "right"), proxyUser="ann", proxyPassword="wrong")

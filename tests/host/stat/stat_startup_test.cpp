@@ -76,6 +76,26 @@ TEST_F(StatStartup, CountsFromZeroWhenTheStoredNumberIsInvalid)
     EXPECT_NE(nextBody().find("\"event_number\"%3A\"1\""), std::string::npos);
 }
 
+TEST_F(StatStartup, CountsFromANumberWithWhatStandsAroundIt)
+{
+    storeCommon("ClientGuid=g\nEventStatEnabled=1\nLocation=DE\n");
+    struct Case
+    {
+        const char* stored;
+        const char* next;
+    };
+    for (const Case& c :
+         {Case{"  41", "42"}, Case{"41  ", "42"}, Case{"\t41 events", "42"}, Case{" +41", "42"},
+          Case{" -41 ", "%2D40"}, Case{"4 1", "5"}, Case{"- 41", "1"}, Case{" ", "1"}}) {
+        SCOPED_TRACE(c.stored);
+        storeApplication(60, std::string("EventNumber=") + c.stored + "\n");
+        startStatistics(60, false, runHere);
+        const std::string number = std::string("\"event_number\"%3A\"") + c.next + "\"";
+        const std::string body = nextBody();
+        EXPECT_NE(body.find(number), std::string::npos) << body;
+    }
+}
+
 TEST_F(StatStartup, IsOffByDefaultButStillPrepares)
 {
     storeCommon("");

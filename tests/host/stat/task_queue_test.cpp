@@ -124,3 +124,26 @@ TEST(TaskQueue, CompletesTheRunningTaskAndDropsTheWaitingOnesAtItsEnd)
     EXPECT_TRUE(firstCompleted);
     EXPECT_LT(others, 100);
 }
+
+TEST(TaskQueue, RefusesATaskOnceItsEndHasBegun)
+{
+    std::atomic<bool> refused{false};
+    std::atomic<int> run{0};
+    std::promise<void> started;
+    auto queue = std::make_unique<TaskQueue>();
+    TaskQueue& ending = *queue;
+    queue->post([&] {
+        started.set_value();
+        // Posts until the queue no longer keeps what it is given.
+        const auto giveUp = std::chrono::steady_clock::now() + deadline;
+        while (!refused && std::chrono::steady_clock::now() < giveUp) {
+            const auto token = std::make_shared<int>(0);
+            ending.post([token, &run] { ++run; });
+            refused = token.use_count() == 1;
+        }
+    });
+    started.get_future().wait();
+    queue.reset();
+    EXPECT_TRUE(refused);
+    EXPECT_EQ(run, 0);
+}

@@ -117,7 +117,7 @@ TEST_F(StartedProgram, ClosesWhileAStrangerIsConnected)
 
 TEST_F(StartedProgram, AnswersManyMessagesInARow)
 {
-    const Bytes expected = [this] {
+    const Bytes expected = [] {
         Stranger client;
         return client.transact(frame(1, "/gethwnd"));
     }();

@@ -1,6 +1,7 @@
 // Running applications during a run: the real warning box, and real processes that hold the
 // mutexes.
 
+#include "support/win32/unique_handle.h"
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
@@ -25,6 +26,7 @@ private slots:
     void warningWithoutAPathBeginsWithIsRunning();
     void warningOfAForeignApplicationShowsItsName();
     void taskkillIsTheSystemsAndNamesTheIdString();
+    void mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning();
 };
 
 void WidgetWarningTest::okEndsTheRunningApplicationAndContinues()
@@ -190,6 +192,18 @@ void WidgetWarningTest::taskkillIsTheSystemsAndNamesTheIdString()
     const QStringList expected{QStringLiteral("/IM"), QStringLiteral("ScreenTaker.exe"),
                                QStringLiteral("/F")};
     QCOMPARE(taskkill->arguments(), expected);
+}
+
+void WidgetWarningTest::mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning()
+{
+    // Another kind of object has the name.
+    const win32::KernelHandle event(
+        CreateEventW(nullptr, TRUE, FALSE, L"Global\\Lumacraft_ScreenTaker"));
+    QVERIFY(event);
+    const testing_support::RecordedLog log;
+    QVERIFY(!uninstall::applicationIsRunning("ScreenTaker"));
+    QCOMPARE(log.records().size(), std::size_t{1});
+    QCOMPARE(log.records()[0].text.rfind("CreateMutexW failed: 6 ", 0), std::size_t{0});
 }
 
 TESSERA_QT_TEST(WidgetWarningTest)
