@@ -29,7 +29,7 @@ private slots:
     void sendsItsArgumentsAndIsAnotherInstance();
     void withoutArgumentsSendsShow();
     void doesNotServe();
-    void withoutAServerIsAnotherInstanceAllTheSame();
+    void withoutAServerIsStillAnotherInstance();
     void answeredReviveBecomesTheFirst();
     void withoutTheCheckOpensItsWindow();
     void withAParentBringsItsNamesakeForward_data();
@@ -75,7 +75,7 @@ void LaterCopyTest::doesNotServe()
     QCOMPARE(client.error(), DWORD{ERROR_FILE_NOT_FOUND});
 }
 
-void LaterCopyTest::withoutAServerIsAnotherInstanceAllTheSame()
+void LaterCopyTest::withoutAServerIsStillAnotherInstance()
 {
     const ClaimingPeer other; // has the mutex, but does not serve
     QElapsedTimer timer;

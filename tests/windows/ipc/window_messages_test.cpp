@@ -68,7 +68,7 @@ private slots:
     void castsByNameReachBothBases();
 
     void withoutTheCheckNothingIsServedOrSent();
-    void withoutTheCheckTheMutexIsTakenAllTheSame();
+    void withoutTheCheckTheMutexIsStillTaken();
     void firstCopyServesAndIsNotAnotherInstance();
     void messagesAreHandledAlthoughTheServerCouldNotStart();
     void answerIsWhatTheHookMakesOfTheMessage();
@@ -125,7 +125,7 @@ void WindowMessagesTest::withoutTheCheckNothingIsServedOrSent()
     QVERIFY(!window.isConnected());
 }
 
-void WindowMessagesTest::withoutTheCheckTheMutexIsTakenAllTheSame()
+void WindowMessagesTest::withoutTheCheckTheMutexIsStillTaken()
 {
     const auto mutexExists = [] {
         const win32::KernelHandle mutex(
