@@ -22,7 +22,7 @@ packages=(
     qttools5-dev-tools
     # running Windows programs, and looking at them
     wine wine64 xvfb openbox xdotool imagemagick
-    # Tahoma; a stand-in for Segoe UI; Chinese, Japanese and Korean letters in one face; Thai letters
+    # Tahoma; a substitute for Segoe UI; Chinese, Japanese and Korean letters in one face; Thai letters
     fonts-wine fonts-open-sans fonts-wqy-microhei fonts-tlwg-garuda-ttf
     # the sample suite's installers
     nsis

@@ -1,4 +1,4 @@
-// Running applications during a run: the real warning box, and real processes that hold their
+// Running applications during a run: the real warning box, and real processes that hold the
 // mutexes.
 
 #include "support/win32/unique_handle.h"
@@ -16,12 +16,12 @@ class WidgetWarningTest : public RunTestBase
     Q_OBJECT
 
 private slots:
-    void okEndsTheRunningApplicationAndGoesOn();
-    void cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing();
+    void okEndsTheRunningApplicationAndContinues();
+    void cancelInASelectiveRunChecksAllRowsAndUninstallsNothing();
     void cancelInAFullRunLeavesRowsUncheckedAndControlsDisabled();
     void closingTheWarningCountsAsCancel();
     void twoRunningApplicationsAskInRowOrder();
-    void suiteRowAsksForApplicationsThatAreNotListed();
+    void suiteRowWarnsAboutApplicationsThatAreNotListed();
     void warningNamesTheInstallFolder();
     void warningWithoutAPathBeginsWithIsRunning();
     void warningOfAForeignApplicationShowsItsName();
@@ -29,7 +29,7 @@ private slots:
     void mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning();
 };
 
-void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
+void WidgetWarningTest::okEndsTheRunningApplicationAndContinues()
 {
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
     addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
@@ -46,7 +46,7 @@ void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
     QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")).size(), 1);
 }
 
-void WidgetWarningTest::cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing()
+void WidgetWarningTest::cancelInASelectiveRunChecksAllRowsAndUninstallsNothing()
 {
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
     addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
@@ -133,7 +133,7 @@ void WidgetWarningTest::twoRunningApplicationsAskInRowOrder()
     QVERIFY(second->state() == QProcess::NotRunning || second->waitForFinished(deadlineMs));
 }
 
-void WidgetWarningTest::suiteRowAsksForApplicationsThatAreNotListed()
+void WidgetWarningTest::suiteRowWarnsAboutApplicationsThatAreNotListed()
 {
     addApplication(suiteName, QStringLiteral("Tessera"));
     const auto running = startApplication(QStringLiteral("WaveTuner"));
