@@ -1,6 +1,6 @@
-// Settings files of 100, 10,000 and 100,000 keys: parsing (with keys in the order in which the program
-// writes them, and shuffled), looking up a key, and writing. QSettings works only on files; its file
-// is in memory.
+// Settings files of 100, 10,000 and 100,000 keys: parsing (with keys in the order in which the
+// program writes them, and shuffled), looking up a key, and writing. QSettings works only on files;
+// its file is in memory.
 
 #include "ui/common/config/config_text.h"
 

@@ -1,4 +1,5 @@
-// The time of AppStatHelper::sendEvent on the calling thread, compared with building the body alone.
+// The time of AppStatHelper::sendEvent on the calling thread, compared with building the body
+// alone.
 
 #include "bench/host/event_texts.h"
 #include "bench/host/fake_service.h"

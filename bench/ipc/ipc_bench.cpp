@@ -81,7 +81,8 @@ struct Times
     std::vector<double> whole;    // with opening and closing
 };
 
-// `connect` returns false while the server is not ready for the next client; that time is not counted.
+// `connect` returns false while the server is not ready for the next client; that time is not
+// counted.
 void measure(int count, const std::function<bool()>& connect, const std::function<bool()>& exchange,
              const std::function<void()>& close, Times& times)
 {

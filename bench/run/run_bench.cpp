@@ -2,7 +2,8 @@
 // an uninstaller and wait for it. Prints a table; see docs/performance.md. Run by "make bench".
 //
 //   run_bench [ROUNDS [APPLICATIONS]]   ROUNDS of both, in turns (default 30; half as many for the
-//                                       slower uninstaller), each over APPLICATIONS rows (default 10)
+//                                       slower uninstaller), each over APPLICATIONS rows
+//                                       (default 10)
 
 #include "bench/support/give_up.h"
 #include "bench/support/samples.h"

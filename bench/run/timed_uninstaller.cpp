@@ -1,5 +1,5 @@
-// An uninstaller that removes nothing and runs for TESSERA_BENCH_UNINSTALLER_MS milliseconds; without
-// that variable it ends at once.
+// An uninstaller that removes nothing and runs for TESSERA_BENCH_UNINSTALLER_MS milliseconds;
+// without that variable it ends at once.
 #include <cstdlib>
 #include <cwchar>
 #include <iterator>

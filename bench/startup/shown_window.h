@@ -4,9 +4,10 @@
 
 namespace bench {
 
-// Waits until another process shows its main window. The system reports new windows; those are checked
-// every millisecond until one is visible, because Wine does not report the showing. Enumerating all
-// windows instead would slow down the process that is measured. One object at a time, on one thread.
+// Waits until another process shows its main window. The system reports new windows; those are
+// checked every millisecond until one is visible, because Wine does not report the showing.
+// Enumerating all windows instead would slow down the process that is measured. One object at a
+// time, on one thread.
 class ShownWindow
 {
 public:

@@ -1,6 +1,6 @@
-// Start-up, size and memory of Uninstall.exe compared with two bare windows: one of the same Qt, one
-// with Qt's unpatched platform plugin. All are measured from outside and started in turns, so that
-// other load on the machine affects all. Prints a table; see docs/performance.md. Run by "make
+// Start-up, size and memory of Uninstall.exe compared with two bare windows: one of the same Qt,
+// one with Qt's unpatched platform plugin. All are measured from outside and started in turns, so
+// that other load on the machine affects all. Prints a table; see docs/performance.md. Run by "make
 // bench".
 //
 //   startup_bench [STARTS]   STARTS of each program (default 60)

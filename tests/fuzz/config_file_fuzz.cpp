@@ -1,6 +1,6 @@
 // Any sequence of operations on two settings objects that share one file, as two processes do;
-// compares each step with a model. The file is in memory; it can be missing and can refuse reads and
-// writes.
+// compares each step with a model. The file is in memory; it can be missing and can refuse reads
+// and writes.
 //
 // Input: steps between separators. A step's first letter selects the operation (lower case for the
 // first object, upper case for the second one); the rest is the operation's text.

@@ -2,7 +2,8 @@
 // rereads the result, and merges changes into it.
 //
 // Input: the file's text. Its fields between separators are also used as: pairs in this process's
-// memory, pairs that it set, keys that it marked as changed, and the file as another process left it.
+// memory, pairs that it set, keys that it marked as changed, and the file as another process left
+// it.
 
 #include "tests/fuzz/config_reference.h"
 #include "tests/fuzz/fuzz_support.h"

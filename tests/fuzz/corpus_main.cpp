@@ -1,5 +1,5 @@
-// Runs a fuzz target without a fuzzer over the files and folders named on the command line, and over
-// a fixed number of changed copies, which are the same in every run.
+// Runs a fuzz target without a fuzzer over the files and folders named on the command line, and
+// over a fixed number of changed copies, which are the same in every run.
 
 #include "tests/fuzz/fuzz_support.h"
 

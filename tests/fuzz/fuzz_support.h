@@ -26,7 +26,8 @@ inline std::string textOf(const std::uint8_t* data, std::size_t size)
     return {data, data + size};
 }
 
-// Separates the fields of an input: one byte, which a fuzzer inserts easily and no UTF-8 text holds.
+// Separates the fields of an input: one byte, which a fuzzer inserts easily and no UTF-8 text
+// holds.
 constexpr char separator = '\xff';
 
 inline std::vector<std::string> fieldsOf(std::string_view input)

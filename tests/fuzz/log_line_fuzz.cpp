@@ -1,5 +1,5 @@
-// Any text as a log message, as its category and as its source: the line has no control byte, so that
-// no text can forge another line.
+// Any text as a log message, as its category and as its source: the line has no control byte, so
+// that no text can forge another line.
 //
 // Input: the text; or category, source and text between separators. A text of seven or eight bytes
 // that begins with "Long" is repeated until it is too long, or exactly as long as allowed.

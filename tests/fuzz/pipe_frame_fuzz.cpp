@@ -1,6 +1,6 @@
-// Any bytes from the pipe: reads them as request and as answer, and writes the text into a new frame.
-// Bytes 1 and 2 are also the length of one more text to write, so that small inputs reach the largest
-// frames.
+// Any bytes from the pipe: reads them as request and as answer, and writes the text into a new
+// frame. Bytes 1 and 2 are also the length of one more text to write, so that small inputs reach
+// the largest frames.
 
 #include "tests/fuzz/fuzz_support.h"
 #include "ui/common/sys/ipc_commands.h"

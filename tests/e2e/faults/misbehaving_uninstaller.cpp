@@ -1,5 +1,5 @@
-// An uninstaller that misbehaves. It records its command line like every sample uninstaller and then
-// does what its file name says:
+// An uninstaller that misbehaves. It records its command line like every sample uninstaller and
+// then does what its file name says:
 //   hangs.exe       never ends by itself
 //   crashes.exe     ends with an access violation
 //   hands_over.exe  starts a copy of itself and ends; the copy ends once the file

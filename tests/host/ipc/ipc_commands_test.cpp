@@ -39,19 +39,19 @@ constexpr AnswerSource handle = AnswerSource::windowHandle;
 
 INSTANTIATE_TEST_SUITE_P(
     Words, MessagePlan,
-    testing::Values(
-        PlanCase{u"/show", restore, hook, u""}, PlanCase{u"a/showb", restore, hook, u"ab"},
-        PlanCase{u"/show/minimized", minimize, none, u""},
-        PlanCase{u"/minimized/show", minimize, none, u""},
-        PlanCase{u"/minimized and then /show", minimize, none, u""},
-        // A minimising message has no answer, not even the requested handle.
-        PlanCase{u"/show /minimized /gethwnd", minimize, none, u""},
-        PlanCase{u"/gethwnd", nothing, handle, u""},
-        PlanCase{u"/show /gethwnd", restore, handle, u""},
-        PlanCase{u"/gethwnd/show", restore, handle, u""},
-        PlanCase{u"/minimized /gethwnd", nothing, handle, u""},
-        PlanCase{u"/minimized", nothing, hook, u""},
-        PlanCase{u"x /minimized y", nothing, hook, u"x  y"}));
+    testing::Values(PlanCase{u"/show", restore, hook, u""},
+                    PlanCase{u"a/showb", restore, hook, u"ab"},
+                    PlanCase{u"/show/minimized", minimize, none, u""},
+                    PlanCase{u"/minimized/show", minimize, none, u""},
+                    PlanCase{u"/minimized and then /show", minimize, none, u""},
+                    // A minimising message has no answer, not even the requested handle.
+                    PlanCase{u"/show /minimized /gethwnd", minimize, none, u""},
+                    PlanCase{u"/gethwnd", nothing, handle, u""},
+                    PlanCase{u"/show /gethwnd", restore, handle, u""},
+                    PlanCase{u"/gethwnd/show", restore, handle, u""},
+                    PlanCase{u"/minimized /gethwnd", nothing, handle, u""},
+                    PlanCase{u"/minimized", nothing, hook, u""},
+                    PlanCase{u"x /minimized y", nothing, hook, u"x  y"}));
 
 INSTANTIATE_TEST_SUITE_P(NoWords, MessagePlan,
                          testing::Values(PlanCase{u"", nothing, hook, u""},
