@@ -14,7 +14,7 @@ _FILE_HEADER = struct.Struct("<HHIIIHH")
 _SECTION_HEADER = struct.Struct("<8sIIIIIIHHI")
 _SYMBOL = struct.Struct("<8sIhHBB")
 _SHORT_IMPORT = struct.Struct("<HHHHIIHH")
-_BY_NAME = 1 << 2           # type: code, found in the DLL by the symbol's own name
+_BY_NAME = 1 << 2           # code, found in the DLL by the symbol's own name
 _IMPORTED = b"__imp_"
 
 
