@@ -46,6 +46,7 @@ private slots:
     void everyLetterHasAGlyph();
     void textsStandOutWhateverTheUsersColours_data();
     void textsStandOutWhateverTheUsersColours();
+    void offerIsDividedByALine();
     void focusIsVisible();
     void everyControlHasAnAccessibleName();
     void cutTextIsNoticed();
@@ -160,6 +161,31 @@ void LayoutTest::textsStandOutWhateverTheUsersColours()
     QApplication::setPalette(before);
     QVERIFY(shown);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+// On the screen: QWidget::grab() draws it at scales at which the window does not.
+void LayoutTest::offerIsDividedByALine()
+{
+    bool drawn = false;
+    QVERIFY(visitWindows(QStringLiteral("en"), [&drawn](const QString& name, QWidget& window) {
+        if (name != QStringLiteral("offer_video"))
+            return;
+        const QWidget& line = *window.findChild<QFrame*>(QStringLiteral("line"));
+        drawn = QTest::qWaitFor(
+            [&] {
+                const QImage screen = window.screen()->grabWindow(window.winId()).toImage();
+                const int x = screen.width() / 2;
+                const int middle =
+                    qRound((line.y() + line.height() / 2.0) * screen.height() / window.height());
+                for (int y = middle - 3; y <= middle + 3; ++y) {
+                    if (qGray(screen.pixel(x, y)) < 200)
+                        return true;
+                }
+                return false;
+            },
+            settleMs);
+    }));
+    QVERIFY(drawn);
 }
 
 void LayoutTest::focusIsVisible()
