@@ -1,6 +1,8 @@
 // Running applications during a run: the real warning box, and real processes that hold their
 // mutexes.
 
+#include "support/win32/unique_handle.h"
+#include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
@@ -21,10 +23,13 @@ private slots:
     void closingTheWarningCountsAsCancel();
     void twoRunningApplicationsAskInRowOrder();
     void suiteRowAsksForApplicationsThatAreNotListed();
+    void warningIsAWarningOfTheWindowWithTwoButtons();
+    void otherFailuresOfTheMutexCountAsNotRunning();
     void warningNamesTheInstallFolder();
     void warningWithoutAPathBeginsWithIsRunning();
     void warningOfAForeignApplicationShowsItsName();
     void taskkillIsTheSystemsAndNamesTheIdString();
+    void taskkillIsNotWaitedFor();
 };
 
 void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
@@ -143,6 +148,39 @@ void WidgetWarningTest::suiteRowAsksForApplicationsThatAreNotListed()
     QCOMPARE(awaitedStartsOf(QStringLiteral("Tessera")).size(), 1);
 }
 
+void WidgetWarningTest::warningIsAWarningOfTheWindowWithTwoButtons()
+{
+    WindowUnderTest under;
+    QWidget* parent = nullptr;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButtons buttons = QMessageBox::NoButton;
+    DialogDriver driver;
+    driver.expect("QMessageBox", [&](QDialog& dialog) {
+        auto& box = static_cast<QMessageBox&>(dialog);
+        parent = box.parentWidget();
+        icon = box.icon();
+        buttons = box.standardButtons();
+        QTest::mouseClick(box.button(QMessageBox::Cancel), Qt::LeftButton);
+    });
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    QCOMPARE(driver.problem(), QString());
+    QCOMPARE(parent, &under.window);
+    QCOMPARE(icon, QMessageBox::Warning);
+    QCOMPARE(buttons, QMessageBox::Ok | QMessageBox::Cancel);
+}
+
+void WidgetWarningTest::otherFailuresOfTheMutexCountAsNotRunning()
+{
+    // Something else by that name: the mutex cannot be created, and does not exist either.
+    const win32::KernelHandle event(
+        CreateEventW(nullptr, TRUE, FALSE, L"Global\\Lumacraft_WaveTuner"));
+    QVERIFY(event);
+    QVERIFY(!uninstall::applicationIsRunning("WaveTuner"));
+    const win32::KernelHandle mutex(CreateMutexW(nullptr, FALSE, L"Global\\Lumacraft_LoopMaker"));
+    QVERIFY(mutex);
+    QVERIFY(uninstall::applicationIsRunning("LoopMaker"));
+}
+
 void WidgetWarningTest::warningNamesTheInstallFolder()
 {
     registry->addPath(QStringLiteral("ScreenTaker"),
@@ -190,6 +228,17 @@ void WidgetWarningTest::taskkillIsTheSystemsAndNamesTheIdString()
     const QStringList expected{QStringLiteral("/IM"), QStringLiteral("ScreenTaker.exe"),
                                QStringLiteral("/F")};
     QCOMPARE(taskkill->arguments(), expected);
+}
+
+void WidgetWarningTest::taskkillIsNotWaitedFor()
+{
+    answerBoxes({QMessageBox::Ok});
+    WindowUnderTest under;
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    const auto* taskkill = under.window.findChild<QProcess*>();
+    QVERIFY(taskkill != nullptr);
+    // Its end is noticed by an event loop or a wait only, and there has been neither since.
+    QCOMPARE(taskkill->state(), QProcess::Running);
 }
 
 TESSERA_QT_TEST(WidgetWarningTest)
