@@ -1,5 +1,5 @@
-# The few commands that a person needs; each one first sets up what is missing. CMake presets do
-# the work (see CMakePresets.json and docs/building.md).
+# The everyday commands; each one first sets up what is missing. CMake presets do the work (see
+# CMakePresets.json and docs/building.md).
 
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
@@ -29,7 +29,7 @@ configure: setup
 build: configure ## build build/windows/Uninstall.exe
 	@cmake --build --preset windows-cross --target Uninstall
 
-# What a person, or a script in a person's place, uses the program with; the tests are left out.
+# The program, the sample suite and what both need under Wine; no tests.
 build-demo: configure
 	@cmake --build --preset windows-cross --target Uninstall sample_suite wine_launcher trust_root
 
@@ -68,7 +68,7 @@ bench: setup ## measure the logic, start-up, size, runs, messages (docs/performa
 fuzz: ## run each fuzz target for FUZZ_SECONDS (60) under sanitizers
 	@tools/fuzz/run.sh
 
-lint: ## check formatting, shell scripts and spelling; clang-tidy and cppcheck
+lint: setup ## check format, scripts, spelling; cppcheck, clang-tidy, clang's warnings
 	@tools/setup/packages.sh lint
 	@tools/lint.sh
 

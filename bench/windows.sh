@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# Builds the program and one of its measurements, and runs that under Wine.
+# Builds the program and one of its measurements, and runs the measurement under Wine.
 #
-#   bench/windows.sh SUBJECT [ARGS...]   SUBJECT: a folder beside this script (ipc, run, startup);
-#                                        ARGS go to SUBJECT_bench, see there
+#   bench/windows.sh SUBJECT [ARGS...]   SUBJECT: ipc, run or startup; ARGS: those of SUBJECT_bench
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

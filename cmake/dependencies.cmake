@@ -1,9 +1,9 @@
-# Third-party code. Everything comes from Debian's packages (or, on Windows, from where
-# CMAKE_PREFIX_PATH points); nothing is downloaded by CMake.
+# Third-party code, from Debian's packages (on Windows: from CMAKE_PREFIX_PATH). CMake downloads
+# nothing.
 find_package(Threads REQUIRED)
 
-# Header-only spdlog and fmt. /usr/include as a whole must stay out of the cross compiler's
-# path, so only the two folders are exposed, through links in the build tree.
+# Header-only spdlog and fmt. The cross compiler must not see the rest of /usr/include, so the two
+# folders are exposed through links in the build tree.
 set(TESSERA_HEADER_ONLY_ROOT "/usr/include" CACHE PATH "Folder that holds spdlog/ and fmt/")
 set(header_links "${PROJECT_BINARY_DIR}/header_only")
 file(MAKE_DIRECTORY "${header_links}")

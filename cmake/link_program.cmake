@@ -1,7 +1,7 @@
-# tessera_link_program(TARGET): links a program that is given to users. Of the system's libraries
-# only those are loaded with it that Windows, whatever its version, takes from its own folder
-# ("KnownDLLs"). The others are loaded when they are first used, see support/win32/delay_load.cpp.
-# tests/package has the list that is allowed. lld links: it can delay imports by itself.
+# tessera_link_program(TARGET): links a program for users. At its start Windows loads only system
+# libraries that every version takes from its own folder ("KnownDLLs"; tests/package verifies this).
+# The libraries listed here are loaded on first use, see support/win32/delay_load.cpp. Delayed
+# imports need lld; GCC's own linker lacks them.
 set(TESSERA_DELAYED_LIBRARIES
     bcrypt comdlg32 crypt32 dwmapi imm32 netapi32 ole32 oleaut32 rpcrt4 shell32 userenv uxtheme
     version winmm ws2_32 wtsapi32)

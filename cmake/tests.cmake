@@ -1,9 +1,9 @@
 # The functions that add tests. A CTest entry is called <host|windows|e2e|package>_<subject>.
-# The longest start first: COST is about the seconds that an entry takes. Without one CTest goes by
-# the runs before.
+# COST, roughly the seconds that an entry takes, makes CTest start the longest entries first. For
+# entries without it CTest uses the times of earlier runs.
 
 # tessera_add_host_test(NAME SOURCES ... [LIBRARIES ...])
-#   One GoogleTest executable on what the program decides.
+#   One GoogleTest executable for this machine, and its entry.
 function(tessera_add_host_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
@@ -15,16 +15,16 @@ endfunction()
 
 # tessera_add_windows_entry(NAME COMMAND program arguments... [ENVIRONMENT variable=value...]
 #                           [TIMEOUT seconds] [COST seconds])
-#   One CTest entry for a Windows test program, with a Wine prefix of its own, so that registry,
-#   mutexes and pipes never meet. CTest runs it through the cross-compiling emulator. Without
-#   ENVIRONMENT the test also goes into the kit for a real Windows (tools/windows_kit).
+#   One CTest entry for a Windows test program, with its own Wine prefix, so that entries share no
+#   registry, mutexes or pipes. CTest runs it through the cross-compiling emulator. An entry without
+#   ENVIRONMENT also goes into the kit for a real Windows (tools/windows_kit).
 function(tessera_add_windows_entry name)
     cmake_parse_arguments(ARG "" "TIMEOUT;COST" "COMMAND;ENVIRONMENT" ${ARGN})
     if(NOT ARG_TIMEOUT)
-        set(ARG_TIMEOUT 180)
+        set(ARG_TIMEOUT 300)
     endif()
     add_test(NAME ${name} COMMAND ${ARG_COMMAND})
-    # What needs a variable needs something of Wine's.
+    # The kit's runner sets no variables.
     if(NOT ARG_ENVIRONMENT)
         list(POP_FRONT ARG_COMMAND program)
         list(JOIN ARG_COMMAND " " arguments)
@@ -40,8 +40,8 @@ function(tessera_add_windows_entry name)
 endfunction()
 
 # tessera_add_windows_test(NAME SOURCES ... [LIBRARIES ...] [TIMEOUT seconds] [COST seconds])
-#   One GoogleTest program for Windows, and its entry. Like the program of the Qt tests it runs only
-#   where the user's settings may be changed: tests/windows/support/settings_guard.h.
+#   One GoogleTest program for Windows, and its entry. Like qt_tests it runs only where the user's
+#   settings may be changed: tests/windows/support/settings_guard.h.
 function(tessera_add_windows_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
@@ -52,8 +52,7 @@ function(tessera_add_windows_test name)
 endfunction()
 
 # tessera_add_qt_test(NAME CLASS SOURCES ... [LIBRARIES ...] [TIMEOUT seconds] [COST seconds])
-#   A test class in the program of all Qt tests, which its source registers (TESSERA_QT_TEST), and
-#   its entry.
+#   A test class in qt_tests, registered by its source (TESSERA_QT_TEST), and its entry.
 function(tessera_add_qt_test name class)
     cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES" ${ARGN})
     list(TRANSFORM ARG_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
@@ -65,9 +64,8 @@ endfunction()
 
 # tessera_add_python_test(NAME MODULE [DISPLAY] [ENVIRONMENT variable=value...]
 #                         [TIMEOUT seconds] [COST seconds])
-#   One entry for a Python module of tests, or a class in it, by its name in the package `tests`:
-#   tests.e2e.start_test. With DISPLAY it has a screen of its own, even on a person's desktop: such
-#   tests move the mouse.
+#   One entry for a Python test module, or a class in it, by its dotted name: tests.e2e.start_test.
+#   With DISPLAY it gets a private screen, even on a developer's desktop: such tests move the mouse.
 function(tessera_add_python_test name module)
     cmake_parse_arguments(ARG "DISPLAY" "TIMEOUT;COST" "ENVIRONMENT" ${ARGN})
     find_package(Python3 3.11 REQUIRED COMPONENTS Interpreter)

@@ -1,30 +1,76 @@
 #!/usr/bin/env bash
-# lint.sh: checks the formatting of the C++ sources, the shell scripts and the spelling, and looks
-# for mistakes with clang-tidy (what compiles on this machine) and cppcheck (everything).
+# lint.sh: checks the C++ sources' format, the scripts and the spelling, and reads the C++ code with
+# cppcheck, clang-tidy (what compiles on this machine) and clang (what compiles for Windows, with
+# the same warnings as errors). What passed is remembered in the set-up's cache.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+setupName=lint
+# shellcheck source=tools/setup/common.sh
+source tools/setup/common.sh
+cache=$(cacheRoot)/lint
 
-status=0
-git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror || status=1
+failed=()
+check() {
+    local name=$1 begun=$SECONDS
+    shift
+    if "$@"; then
+        say "$name: passed, $((SECONDS - begun)) s"
+    else
+        say "$name: FAILED"
+        failed+=("$name")
+    fi
+}
+
+checkFormat() {
+    git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror
+}
+
 # Files that are only ever sourced are checked as parts of the scripts that source them.
-git grep -lzE '^#!.*(bash|sh)$' -- tools .ci | xargs -0 shellcheck -x -a -P "$PWD" || status=1
+checkShell() {
+    git grep -lzE '^#!.*(bash|sh)$' | xargs -0 shellcheck -x -a -P "$PWD"
+}
+
+checkPython() {
+    { git ls-files -z '*.py'; git grep -lz '^#!.*python3$' -- ':!*.py'; } | xargs -0 pyflakes3
+}
+
 # Spelling is checked in English only.
-git ls-files -z -- ':!*.png' ':!*.ico' ':!*.ts' ':!tests/windows/languages' ':!tests/fuzz/corpora' |
-    xargs -0 codespell --ignore-words tools/codespell_ignore.txt || status=1
+checkSpelling() {
+    git ls-files -z -- ':!*.png' ':!*.ico' ':!*.ts' ':!tests/windows/languages' \
+        ':!tests/fuzz/corpora' |
+        xargs -0 codespell --ignore-words tools/lint/codespell_ignore.txt
+}
 
-git ls-files -z '*.cpp' '*.c' | xargs -0 cppcheck --quiet --error-exitcode=1 -j "$(nproc)" \
-    --enable=warning,performance,portability,style --inline-suppr --std=c++17 -I . \
-    --library=qt --library=windows --library=googletest --suppress=missingIncludeSystem \
-    --suppressions-list=tools/cppcheck_suppressions.txt || status=1
+# One run at a time: its cache has files that runs would write at the same time.
+checkWithCppcheck() {
+    local build="$cache/cppcheck"
+    mkdir -p "$build"
+    git ls-files -z '*.cpp' '*.c' |
+        xargs -0 flock "$cache/cppcheck.lock" cppcheck --quiet --error-exitcode=1 -j "$(nproc)" \
+            --cppcheck-build-dir="$build" \
+            --enable=warning,performance,portability,style --inline-suppr --std=c++17 -I . \
+            --library=qt --library=windows --library=googletest --suppress=missingIncludeSystem \
+            --suppressions-list=tools/lint/cppcheck_suppressions.txt
+}
 
-# Each source as the host build compiles it. The compiler options are g++'s, and clang-tidy counts
-# what it found in foreign headers.
-tools/setup/configure.sh host >/dev/null
-python3 -c '
-import json
-for entry in json.load(open("build/host/compile_commands.json")):
-    print(entry["file"])' | grep "^$PWD/" | sort -u | tr '\n' '\0' |
-    xargs -0 -P "$(nproc)" -n 4 clang-tidy --quiet -p build/host \
-        --extra-arg=-Wno-unknown-warning-option \
-        2> >(grep -vE '^[0-9]+ warnings? generated\.$' >&2) || status=1
-exit "$status"
+# The headers that Qt's tools generate are built; nothing else.
+prepareFolders() {
+    local -a generated
+    tools/setup/configure.sh host >/dev/null && tools/setup/configure.sh windows-cross >/dev/null &&
+        mapfile -t generated < <(ninja -C build/windows -t targets all |
+            sed -n 's,^\([^/]*_autogen\): phony$,\1,p') &&
+        cmake --build build/windows --target "${generated[@]}" >/dev/null
+}
+
+check "format" checkFormat
+check "shell scripts" checkShell
+check "Python" checkPython
+check "spelling" checkSpelling
+check "cppcheck" checkWithCppcheck
+check "build folders" prepareFolders
+check "clang-tidy" python3 -B tools/lint/read_again.py clang-tidy build/host "$cache"
+check "clang for Windows" python3 -B tools/lint/read_again.py clang build/windows "$cache"
+if ((${#failed[@]} > 0)); then
+    say "failed: ${failed[*]}"
+    exit 1
+fi

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# run_tests.sh [PRESET...]: builds the presets, then runs their tests; ends with a summary and, when
-# anything failed, with exit code 1. Without arguments: every preset that runs on this machine.
+# run_tests.sh [PRESET...]: builds the presets, then runs their tests; ends with a summary, which
+# stays in build/test_summary.txt, and with exit code 1 when anything failed. Without arguments:
+# every preset that runs on this machine.
 #
 #   TEST_JOBS   how many Windows tests run at once (default: three for each core; they mostly wait)
 set -uo pipefail
@@ -112,6 +113,9 @@ for preset in "${hostPresets[@]}"; do
 done
 echo
 echo "== summary: tests took $((SECONDS - begun)) s, $SECONDS s with the build"
-printf '%s\n' "${summary[@]}"
-echo "$passed passed, $failed failed"
+mkdir -p build
+{
+    printf '%s\n' "${summary[@]}"
+    echo "$passed passed, $failed failed"
+} | tee build/test_summary.txt
 ((failed == 0))

@@ -1,6 +1,6 @@
-// Settings files of 100, 10,000 and 100,000 keys: reading one (as this program writes it, and with
-// its lines shuffled), looking a key up, and writing one. QSettings only works on files; its file
-// lies in memory.
+// Settings files of 100, 10,000 and 100,000 keys: parsing (with keys in the order in which the
+// program writes them, and shuffled), looking up a key, and writing. QSettings works only on files;
+// its file is in memory.
 
 #include "ui/common/config/config_text.h"
 
@@ -45,7 +45,7 @@ std::string textOf(benchmark::State& state)
     return text;
 }
 
-// Keys in an order that no cache foresees.
+// Keys in random order.
 std::vector<std::string> questions(long count)
 {
     std::vector<std::string> keys;

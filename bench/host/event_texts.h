@@ -7,14 +7,14 @@
 #include <utility>
 #include <vector>
 
-// One ordinary event, for all benchmarks that need one.
+// One ordinary event for the benchmarks.
 namespace bench {
 
-// The parameters as the start-up sequence fills them.
+// The parameters that the start-up fills in.
 stats::TemplateParams sharedParams();
 stats::EventTexts eventTexts();
 
-// Every placeholder of the body with its value, in the body's order.
+// Every placeholder of the body and its value, in the body's order.
 const std::vector<std::pair<std::string, std::string>>& bodyValues();
 
 // The body with `open` and `close` around each placeholder's name.

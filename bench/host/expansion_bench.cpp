@@ -1,5 +1,5 @@
-// The expansion of one event body, beside template libraries and plain concatenation. All have
-// taken their template apart beforehand, as the program does it.
+// The expansion of one event body, compared with template libraries and plain concatenation. All
+// parse their template beforehand, as the program does.
 
 #include "bench/host/event_texts.h"
 #include "ui/common/stat/template_params.h"
@@ -26,7 +26,7 @@ std::string expected()
     return stats::buildEventBody(bench::sharedParams(), bench::eventTexts());
 }
 
-// A rival that yields another text would be measured at another task.
+// All must produce the same text.
 void check(const std::string& text)
 {
     if (text != expected())
@@ -42,7 +42,7 @@ void expansionOurs(benchmark::State& state)
         benchmark::DoNotOptimize(params.expand(prepared, false));
 }
 
-// What the rules ask for without any template: literals and values in a row.
+// The lower bound, without any template: literals and values are appended.
 std::string concatenate(const std::vector<std::string>& values)
 {
     std::string text;

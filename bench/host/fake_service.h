@@ -1,7 +1,6 @@
 #pragma once
 
-// The network as the benchmarks want it: no network. While a Service exists, it answers every
-// request with status 200.
+// Replaces the network: while a Service exists, it answers every request with status 200.
 
 #include <condition_variable>
 #include <mutex>
@@ -16,12 +15,12 @@ public:
     Service(const Service&) = delete;
     Service& operator=(const Service&) = delete;
 
-    // Requests wait from now on until release().
+    // Makes requests wait until release().
     void holdAnswers();
     void release();
     void waitForRequests(int count);
 
-    // Called by netpull's stand-in, on the worker.
+    // Called for every request, on the worker thread.
     void answer();
 
 private:

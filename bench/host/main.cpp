@@ -4,8 +4,8 @@
 
 int main(int argc, char** argv)
 {
-    // Freed memory stays with the process. Otherwise whatever frees a large block last decides how
-    // often all the others hand their memory back to the system and fetch it again.
+    // Keep freed memory in the process. Otherwise one benchmark's large blocks decide how often the
+    // others return memory to the system.
     constexpr int oneGibibyte = 1 << 30;
     mallopt(M_MMAP_THRESHOLD, oneGibibyte);
     mallopt(M_TRIM_THRESHOLD, oneGibibyte);

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Runs host_bench and prints its medians beside those of the other libraries, as Markdown.
+"""Runs host_bench and prints its medians next to those of the other libraries, as Markdown.
 
     report.py HOST_BENCH [REPETITIONS]
 
-A ratio above 1 says how many times faster ours is. Every measurement has a process of its own, so
-that none finds its memory as another one left it, and the repetitions go round all of them, so that a
-busy moment of the machine does not fall on one of them only.
+A ratio above 1 says how many times faster our code is. Each measurement runs in a process of its own,
+unaffected by the memory use of another, and each round runs all of them once, so that other load on
+the machine is spread over all.
 """
 
 import json
@@ -27,13 +27,13 @@ def names(program: str) -> List[str]:
 
 
 def measure_once(program: str, name: str) -> float:
-    """Processor time in nanoseconds: the machine may be busy with other things. A benchmark that
-    takes its time itself takes real time."""
+    """Processor time in nanoseconds, which other load on the machine affects least; real time for a
+    benchmark that takes the time itself."""
     done = subprocess.run(
         [program, "--benchmark_format=json", "--benchmark_min_time=0.1",
          "--benchmark_repetitions=3", f"--benchmark_filter=^{re.escape(name)}$"],
         check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-    # The median leaves out the first one, which is the one that gets its memory from the system.
+    # The median ignores the first repetition, which gets its memory from the system.
     [entry] = [entry for entry in json.loads(done.stdout)["benchmarks"]
                if entry.get("aggregate_name") == "median"]
     kind = "real_time" if "manual_time" in name else "cpu_time"

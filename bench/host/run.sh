@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and runs the measurements of the logic on this machine; prints Markdown tables.
+# Builds and runs the measurements of the logic on this machine, and prints Markdown tables.
 #
 #   bench/host/run.sh [REPETITIONS]
 set -euo pipefail

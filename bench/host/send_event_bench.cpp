@@ -1,4 +1,4 @@
-// What AppStatHelper::sendEvent costs the thread that calls it, beside the building of the body
+// The time of AppStatHelper::sendEvent on the calling thread, compared with building the body
 // alone.
 
 #include "bench/host/event_texts.h"
@@ -28,11 +28,11 @@ void eventBody(benchmark::State& state)
         benchmark::DoNotOptimize(stats::buildEventBody(params, bench::eventTexts()));
 }
 
-// A post is under way, so the event is only queued.
+// While a post is in flight the event is only queued.
 void sendEventToABusyWorker(benchmark::State& state)
 {
     bench::Service service;
-    Helper helper; // its end drops what is still queued
+    Helper helper; // its destructor drops the queue
     service.holdAnswers();
     helper.send();
     service.waitForRequests(1); // the worker now waits for the service
@@ -41,7 +41,7 @@ void sendEventToABusyWorker(benchmark::State& state)
     service.release();
 }
 
-// Nothing is under way, so a worker thread is started.
+// With nothing in flight a worker thread is started.
 void sendEventToAnIdleWorker(benchmark::State& state)
 {
     using Clock = std::chrono::steady_clock;
@@ -54,7 +54,7 @@ void sendEventToAnIdleWorker(benchmark::State& state)
         const std::chrono::duration<double> spent = Clock::now() - begun;
         state.SetIterationTime(spent.count());
         service.waitForRequests(++sent);
-        // After its answer the worker still has to find the queue empty and end.
+        // After the answer the worker finds the queue empty and ends. Nothing announces its end.
         std::this_thread::sleep_for(std::chrono::microseconds(300));
     }
 }

@@ -1,4 +1,4 @@
-// The form encoding of one event body, beside the general-purpose encoders.
+// The form encoding of one event body, compared with general-purpose encoders.
 
 #include "bench/host/event_texts.h"
 #include "ui/common/stat/url_encode.h"

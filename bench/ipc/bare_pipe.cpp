@@ -7,7 +7,8 @@ namespace {
 constexpr DWORD largest = 65535;
 constexpr const wchar_t* pipeName = L"DF467A07-9FF8-46A9-B701-2D3ADDD9BE3B_Uninstall";
 
-bool happens(HANDLE io, HANDLE stop)
+// False when `stop` was signalled instead.
+bool completes(HANDLE io, HANDLE stop)
 {
     const HANDLE either[] = {stop, io};
     return WaitForMultipleObjects(2, either, FALSE, INFINITE) == WAIT_OBJECT_0 + 1;
@@ -30,10 +31,10 @@ void serveBare(HANDLE stop, HANDLE ready)
         ConnectNamedPipe(pipe.get(), &overlapped);
         if (first)
             SetEvent(ready);
-        if (!happens(io.get(), stop))
+        if (!completes(io.get(), stop))
             return;
         ReadFile(pipe.get(), buffer.data(), largest, nullptr, &overlapped);
-        if (!happens(io.get(), stop))
+        if (!completes(io.get(), stop))
             return;
         DWORD size = 0;
         DWORD written = 0;

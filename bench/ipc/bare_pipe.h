@@ -1,7 +1,7 @@
 #pragma once
 
-// The least that one exchange over the program's pipe takes: the platform's calls and nothing
-// else, with the same names, modes and sizes.
+// The lower bound of one exchange over the program's pipe: only the system calls, with the same
+// names, modes and sizes.
 
 #include "support/win32/unique_handle.h"
 
@@ -19,7 +19,7 @@ class BareClient
 {
 public:
     BareClient();
-    // False when the server is busy with the exchange before.
+    // False while the server is busy with the previous exchange.
     bool connect();
     // The size of the answer, 0 when there is none.
     DWORD exchange(std::vector<unsigned char>& request);

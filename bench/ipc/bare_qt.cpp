@@ -1,4 +1,4 @@
-// A static Qt program that does nothing but start and quit: what any start costs here.
+// A static Qt program that only starts and quits: the lower bound of a start.
 #include <QApplication>
 #include <QTimer>
 

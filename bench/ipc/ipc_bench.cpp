@@ -1,5 +1,5 @@
-// Speed of the message channel and of a second start, each beside the least that it could cost.
-// Prints tables; see docs/performance.md. Run by "make bench".
+// Speed of the message channel and of a second start, each compared with its lower bound. Prints
+// tables; see docs/performance.md. Run by "make bench".
 //
 //   ipc_bench [EXCHANGES]            measures; EXCHANGES per size and turn (default 1500)
 //   ipc_bench serve KIND STOP READY  the server of a measurement, in a process of its own
@@ -81,8 +81,8 @@ struct Times
     std::vector<double> whole;    // with opening and closing
 };
 
-// `connect` gives false while the server is not ready for the next client; that time belongs to
-// the server and is not counted.
+// `connect` returns false while the server is not ready for the next client; that time is not
+// counted.
 void measure(int count, const std::function<bool()>& connect, const std::function<bool()>& exchange,
              const std::function<void()>& close, Times& times)
 {
@@ -137,7 +137,7 @@ void row(const char* name, const char* what, const std::vector<double>& ours,
                 1e6 / least, our, least, our / least);
 }
 
-// Floor and channel in turns, so that what else the machine does hits both.
+// Floor and channel in turns, so that other load on the machine affects both.
 void compareExchanges(int count)
 {
     std::printf("Round trips            (per second, from the medians)   (median, microseconds)\n");

@@ -1,5 +1,5 @@
-// An uninstaller that has nothing to remove. It takes as many milliseconds as the environment's
-// TESSERA_BENCH_UNINSTALLER_MS says; without it, all that it costs is its start.
+// An uninstaller that removes nothing and runs for TESSERA_BENCH_UNINSTALLER_MS milliseconds;
+// without that variable it ends at once.
 #include <cstdlib>
 #include <cwchar>
 #include <iterator>

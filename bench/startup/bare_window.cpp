@@ -1,4 +1,4 @@
-// The least that a Qt program with a window can be: one label. What Uninstall.exe is measured by.
+// A minimal Qt program with a window, which Uninstall.exe is compared with.
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>
@@ -9,7 +9,7 @@ int main(int argc, char* argv[])
     QMainWindow window;
     window.setWindowTitle(QStringLiteral("Bare window"));
     window.setCentralWidget(new QLabel(QStringLiteral("Nothing to remove")));
-    // As large as the program's, since the pixels cost time and memory too.
+    // The size of the program's window, since pixels cost time and memory.
     window.resize(379, 305);
     window.show();
     return QApplication::exec();

@@ -7,9 +7,9 @@ namespace bench {
 
 namespace {
 
-constexpr DWORD lookAgainAfter = 1; // ms
+constexpr DWORD checkInterval = 1; // ms
 
-// Windows made since the object was, those of all processes.
+// Windows that any process has created since the ShownWindow was.
 std::vector<HWND> made;
 
 void CALLBACK onCreated(HWINEVENTHOOK, DWORD, HWND window, LONG object, LONG, DWORD, DWORD)
@@ -45,7 +45,7 @@ HWND ShownWindow::wait(DWORD pid, DWORD milliseconds)
     const ULONGLONG end = GetTickCount64() + milliseconds;
     std::vector<HWND> candidates;
     while (GetTickCount64() < end) {
-        // The calls of the hook arrive with the messages.
+        // The hook is called while messages are dispatched.
         MSG message = {};
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
             DispatchMessageW(&message);
@@ -55,7 +55,7 @@ HWND ShownWindow::wait(DWORD pid, DWORD milliseconds)
         const auto shown = std::find_if(candidates.begin(), candidates.end(), &IsWindowVisible);
         if (shown != candidates.end())
             return *shown;
-        const DWORD pause = candidates.empty() ? milliseconds : lookAgainAfter;
+        const DWORD pause = candidates.empty() ? milliseconds : checkInterval;
         MsgWaitForMultipleObjects(0, nullptr, FALSE, pause, QS_ALLINPUT);
     }
     return nullptr;

@@ -4,14 +4,14 @@
 
 namespace bench {
 
-// Tells when another process shows its main window. The system reports every new window; only those
-// are then looked at, once a millisecond, until one is visible: Wine does not report the showing,
-// and looking for windows all the time would cost the system what the process needs. One object at
-// a time, on one thread.
+// Waits until another process shows its main window. The system reports new windows; those are
+// checked every millisecond until one is visible, because Wine does not report the showing.
+// Enumerating all windows instead would slow down the process that is measured. One object at a
+// time, on one thread.
 class ShownWindow
 {
 public:
-    // Begins to listen; windows that exist already are not seen.
+    // Begins to listen; windows that exist already are ignored.
     ShownWindow();
     ~ShownWindow();
     ShownWindow(const ShownWindow&) = delete;

@@ -1,6 +1,6 @@
-// Start-up, size and memory of Uninstall.exe beside two bare windows: one of the same Qt, one whose
-// platform plugin is as Qt ships it. All are looked at from outside and started in turns, so that
-// what else the machine does hits all. Prints a table; see docs/performance.md. Run by "make
+// Start-up, size and memory of Uninstall.exe compared with two bare windows: one of the same Qt,
+// one with Qt's unpatched platform plugin. All are measured from outside and started in turns, so
+// that other load on the machine affects all. Prints a table; see docs/performance.md. Run by "make
 // bench".
 //
 //   startup_bench [STARTS]   STARTS of each program (default 60)
@@ -41,7 +41,7 @@ void forget(Subject& subject)
     subject = {subject.program, {}, {}, {}, {}, {}};
 }
 
-// At most so many times the bare window's; 0: no goal.
+// The largest permitted ratios to the bare windows; 0: no goal.
 struct Goals
 {
     double sameQt;
@@ -59,7 +59,7 @@ void startOnce(Subject& subject)
     const double seen = now();
     if (window == nullptr)
         giveUp("a program shows no window");
-    // The answer comes from its event loop, so the start is over.
+    // The event loop answers, so the start is over.
     DWORD_PTR answer = 0;
     if (!SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL,
                              ipctest::waitTime(ipctest::patience), &answer))
@@ -83,7 +83,7 @@ void startOnce(Subject& subject)
     subject.libraries.push_back(static_cast<double>(size / sizeof(HMODULE)));
 }
 
-// As many rows as the sample suite has.
+// The number of rows is that of the sample suite.
 void registerApplications()
 {
     for (int number = 1; number <= 12; ++number) {
@@ -105,7 +105,7 @@ std::string judged(double ours, double bare, double goal)
     return text;
 }
 
-// What is measured of the program, of a bare window of the same Qt, and of one of Qt as it is.
+// A figure of the program, of the bare window of the same Qt, and of the one of unpatched Qt.
 using Figures = std::array<double, 3>;
 
 void row(const char* what, const Figures& figures, const Goals& goals)
@@ -157,7 +157,7 @@ int main(int argc, char** argv)
             for (Subject& subject : subjects)
                 forget(subject);
         }
-        // None always follows the same other.
+        // The order rotates.
         for (std::size_t turn = 0; turn < subjects.size(); ++turn)
             startOnce(subjects[(static_cast<std::size_t>(i) + turn) % subjects.size()]);
     }

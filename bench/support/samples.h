@@ -1,6 +1,6 @@
 #pragma once
 
-// What the measurements under Windows share: the clock, and what is said about its readings.
+// The clock of the measurements under Windows, and statistics of its readings.
 
 #include <algorithm>
 #include <cstdio>

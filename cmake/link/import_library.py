@@ -1,8 +1,7 @@
-"""Import libraries that lld can delay.
+"""Converts import libraries for lld's delayed imports.
 
-lld delays imports that are in the short form only: a record with the names of a function and its
-DLL. MinGW's import libraries consist of object files instead, one for each function. Here the first
-is made of the second.
+lld delays only imports in the short form: a record with the names of a function and its DLL. MinGW's
+import libraries hold an object file for each function instead. short_form() converts them.
 """
 
 import struct
@@ -15,7 +14,7 @@ _FILE_HEADER = struct.Struct("<HHIIIHH")
 _SECTION_HEADER = struct.Struct("<8sIIIIIIHHI")
 _SYMBOL = struct.Struct("<8sIhHBB")
 _SHORT_IMPORT = struct.Struct("<HHHHIIHH")
-_BY_NAME = 1 << 2           # the type: code, and the name in the DLL is that of the symbol
+_BY_NAME = 1 << 2           # code, found in the DLL by the symbol's own name
 _IMPORTED = b"__imp_"
 
 
@@ -78,14 +77,15 @@ def _short_library(imports: List[_Import], dll: bytes) -> bytes:
 
 
 def short_form(archive: bytes) -> bytes:
-    """The functions of a MinGW import library that are imported by the name they are called by."""
+    """Converts a MinGW import library. Functions whose name in the DLL differs from their symbol are
+    left out."""
     imports = []
     dll = b""
     for member in _members(archive):
         if len(member) < _FILE_HEADER.size or int.from_bytes(member[:2], "little") != _X86_64:
             continue
         sections = _sections(member)
-        # The last member has the DLL's name where the others refer to it.
+        # Only the last member holds the DLL's name; the others refer to it.
         dll = sections.get(b".idata$7", b"").rstrip(b"\0") or dll
         entry = sections.get(b".idata$6", b"")
         for symbol in _imported_symbols(member):

@@ -15,13 +15,13 @@ namespace {
 constexpr int failedOpensTolerated = 3;
 
 // Holds the gate for a scope.
-class GatePassage
+class GateLock
 {
 public:
-    explicit GatePassage(WriteGate& writeGate) : gate(writeGate) { gate.enter(); }
-    ~GatePassage() { gate.leave(); }
-    GatePassage(const GatePassage&) = delete;
-    GatePassage& operator=(const GatePassage&) = delete;
+    explicit GateLock(WriteGate& writeGate) : gate(writeGate) { gate.enter(); }
+    ~GateLock() { gate.leave(); }
+    GateLock(const GateLock&) = delete;
+    GateLock& operator=(const GateLock&) = delete;
 
 private:
     WriteGate& gate;
@@ -50,12 +50,12 @@ void FileLogger::write(const LogRecord& record) noexcept
         if (failedOpens < failedOpensTolerated && !folderWasRemoved())
             append(line);
     } catch (...) {
-        // A message that cannot be written is lost; the program goes on.
+        // The message is lost; the program goes on.
     }
 }
 
-// Opening the file makes missing folders. Whoever removed them, an uninstaller told to delete the
-// user's history among them, must not find them again.
+// Opening the file creates missing folders, and folders that somebody removed, such as an
+// uninstaller that deletes the user's history, must not come back.
 bool FileLogger::folderWasRemoved() const
 {
     std::error_code ignored;
@@ -64,10 +64,10 @@ bool FileLogger::folderWasRemoved() const
 
 void FileLogger::append(const std::string& line)
 {
-    const GatePassage passage(gate);
+    const GateLock lock(gate);
     const spdlog::details::log_msg message({}, spdlog::level::off, line);
-    // A rotation that fails (somebody keeps an older file open) leaves an emptied file behind,
-    // and the second attempt puts the message there.
+    // A rotation fails while another program has an older file open, but it empties the current
+    // file, so the second attempt finds room there.
     for (int attempt = 0; attempt < 2; ++attempt) {
         ++failedOpens;
         spdlog::sinks::rotating_file_sink_st sink(file.native(), limits.fileSize,
@@ -81,6 +81,7 @@ void FileLogger::append(const std::string& line)
             sink.flush();
             return;
         } catch (const spdlog::spdlog_ex&) {
+            // Tried once more.
         }
     }
 }

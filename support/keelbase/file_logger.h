@@ -18,11 +18,13 @@ struct RotationLimits
     std::size_t olderFiles = 3;                      // name.1.log to name.3.log
 };
 
-// The file is open only while a message is written: what was logged survives a crash, and the
-// log folder can be removed while the program runs. Missing folders are made for the first message
-// only: a folder that is removed later stays removed, and messages are dropped while it is missing.
-// After a few messages in a row for which the file cannot be opened the logger falls silent for
-// good, since each attempt takes some 50 ms.
+// The file is open only while a message is written: what was logged survives a crash, and the log
+// folder can be removed while the program runs. Only the first message creates missing folders; a
+// folder that is removed later stays removed, and messages are dropped while it is missing. After
+// three messages in a row for which the file cannot be opened the logger gives up for good, since
+// each attempt takes some 50 ms.
+//
+// Threads: any.
 class FileLogger : public ILogger
 {
 public:

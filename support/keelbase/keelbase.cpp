@@ -27,14 +27,14 @@ struct Library
     LoggerHandle logger;
 };
 
-// Never destroyed: static objects of the program may still log while they end.
+// Never destroyed: static objects of the program may log from their destructors.
 Library& library()
 {
     static Library& instance = *new Library;
     return instance;
 }
 
-// Needs no memory, so that it is there even when a logger could not be made.
+// Allocates nothing, so it is available when memory is short, and is never destroyed.
 LoggerHandle silentLogger() noexcept
 {
     alignas(SilentLogger) static unsigned char storage[sizeof(SilentLogger)];
@@ -126,7 +126,7 @@ CLogMsgMultibyte::~CLogMsgMultibyte()
     try {
         logger->write({level, category, sourceFile, sourceLine, str()});
     } catch (...) {
-        // No memory for the message: it is lost, the program goes on.
+        // No memory for the message: it is lost.
     }
 }
 

@@ -1,18 +1,18 @@
 #pragma once
 
-// Keelbase: the support library's logging surface, as the suite's applications use it.
+// The support library's logging interface.
 //
 // The log: <roaming application data>\<settings name>\logs\<program>.log, UTF-8, one message a
 // line, each ended by a line feed:
 //   2026-11-21 01:39:46.123 1234:5678 6 MainForm ui/uninstall/src/widget:77 | text
 //   local time              pid :tid  level category  source file:line      | text
-// At 1 MiB the file is moved to <program>.1.log and so on up to .3.log; the oldest goes.
-// Missing folders are made for a program's first message only. Where the system does not tell the
-// folder of the roaming application data, there is no log.
-// Threads: everything here may be called from any thread, except setSettingsName, which belongs
-// into a static initialiser, before the first createLogger.
-// Failures: logging never makes the program fail. A log that cannot be opened or written is
-// given up silently; createLogger still succeeds and messages go nowhere.
+// At 1 MiB the file is renamed to <program>.1.log, and so on up to .3.log; the oldest is deleted.
+// A folder that is removed while the program runs is not created again. Without a folder for
+// roaming application data there is no log.
+// Threads: any. Only setSettingsName must be called before the first createLogger, in a static
+// initialiser for example.
+// Errors: logging never makes the program fail. When the log cannot be opened or written, messages
+// are dropped silently.
 
 #include <memory>
 #include <ostream>
@@ -28,8 +28,8 @@ constexpr int levelInformation = 6;
 constexpr int levelDetail = 7;
 constexpr int defaultLevel = levelInformation;
 
-// Support staff raise or lower the level with this environment variable (a decimal number, 0
-// writes nothing). Anything else in it leaves the default. Read by the first createLogger.
+// The environment variable that sets the logger's level: a decimal number, 0 for no messages at
+// all. Any other value leaves the default. Read by the first createLogger.
 constexpr const char* levelVariable = "KEELBASE_LOG_LEVEL";
 
 // One finished message, as handed to a logger.
@@ -42,10 +42,12 @@ struct LogRecord
     std::string text;
 };
 
+// Receives finished messages. Any thread may call it.
 class ILogger
 {
 public:
     virtual ~ILogger() = default;
+    // The highest level that is written.
     virtual int level() const noexcept = 0;
     virtual void write(const LogRecord& record) noexcept = 0;
 };
@@ -57,16 +59,16 @@ using LoggerHandle = std::shared_ptr<ILogger>;
 void setSettingsName(const char* name);
 std::string settingsName();
 
-// Fills `logger` with the process's logger, made on the first call; returns 0 on success, and
-// there is no failure: the logger is never null.
+// Fills `logger` with the process's logger, made on the first call. Always returns 0, and the
+// logger is never null.
 int createLogger(LoggerHandle& logger) noexcept;
 
-// Replaces the process's logger (null: back to the library's own at the next createLogger).
-// For programs that collect their messages elsewhere, tests among them.
+// Replaces the process's logger; null brings the library's own back at the next createLogger. For
+// programs, such as tests, that collect their messages elsewhere.
 void setLogger(LoggerHandle logger);
 
-// An output stream that is one log message: text is inserted, and the finished message goes to
-// the logger when the stream object ends. The three texts are kept by pointer: literals.
+// An output stream for one log message, which the destructor hands to the logger. A null logger
+// drops it. `messageCategory` and `file` are not copied: pass literals.
 class CLogMsgMultibyte : public std::ostringstream
 {
 public:
@@ -76,6 +78,7 @@ public:
     CLogMsgMultibyte(const CLogMsgMultibyte&) = delete;
     CLogMsgMultibyte& operator=(const CLogMsgMultibyte&) = delete;
 
+    // The stream as an lvalue, for use on a temporary.
     std::ostream& text() { return *this; }
 
 private:
@@ -86,20 +89,20 @@ private:
     int sourceLine;
 };
 
-// Where the messages of one source file come from: a constant at the file's top. Both texts are
-// kept by pointer: literals.
+// What the messages of one source file have in common. The texts are not copied: pass literals.
 struct LogSource
 {
     const char* category;
     const char* file;
 };
 
-// Whether the process's logger writes messages of this level.
+// True when the process's logger writes messages of this level.
 bool isLogged(int level) noexcept;
 
-// The parts of KEELBASE_LOG.
+// Parts of KEELBASE_LOG. The operator turns the whole stream expression into void, since it binds
+// more weakly than << and more strongly than ?:.
 LoggerHandle processLogger() noexcept;
-struct LogStatement
+struct LogVoidify
 {
     void operator&(const std::ostream&) const {}
 };
@@ -110,13 +113,13 @@ struct LogStatement
 //
 //     KEELBASE_LOG(logSource, Keelbase::levelInformation) << "text " << value;
 //
-// What stands behind the macro is evaluated only when the level is logged. The second form names
-// the line of the source, for messages that are known by it.
+// The operands are evaluated only when the level is logged. The second form sets the source line,
+// for messages that are known by it.
 #define KEELBASE_LOG(source, messageLevel) KEELBASE_LOG_AT(source, messageLevel, __LINE__)
 #define KEELBASE_LOG_AT(source, messageLevel, sourceLine)                                          \
     !Keelbase::isLogged(messageLevel)                                                              \
         ? static_cast<void>(0)                                                                     \
-        : Keelbase::LogStatement() & Keelbase::CLogMsgMultibyte(Keelbase::processLogger(),         \
-                                                                messageLevel, (source).category,   \
-                                                                (source).file, sourceLine)         \
-                                         .text()
+        : Keelbase::LogVoidify() & Keelbase::CLogMsgMultibyte(Keelbase::processLogger(),           \
+                                                              messageLevel, (source).category,     \
+                                                              (source).file, sourceLine)           \
+                                       .text()

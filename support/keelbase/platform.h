@@ -7,28 +7,28 @@
 
 namespace Keelbase {
 
-// Where this program's log file lies; empty when the platform has no place for one.
+// The path of this program's log file; empty when the platform has no place for one.
 std::filesystem::path logFilePath(const std::string& settingsName);
 
-// The log file of the program `program` below the folder `roaming`; empty when either is, since a
-// relative path would put the log into whatever folder is the current one.
+// The path of the log file of `program` below the folder `roaming`. Empty when one of them is: a
+// relative path would lead into the current folder.
 std::filesystem::path logFileBelow(const std::filesystem::path& roaming,
                                    const std::string& settingsName,
                                    const std::filesystem::path& program);
 
-// Lets one process after the other write to a log file. Not for threads of one process: the
-// logger that owns the gate serialises those.
+// Serialises the processes that write to one log file. The threads of one process are serialised by
+// the logger that owns the gate.
 class WriteGate
 {
 public:
-    // `logFile` names the gate: every process that passes the same path shares it.
+    // Processes that pass the same path share the gate.
     explicit WriteGate(const std::filesystem::path& logFile);
     ~WriteGate();
     WriteGate(const WriteGate&) = delete;
     WriteGate& operator=(const WriteGate&) = delete;
 
-    // Waits for the other processes, but not for long: a process that was stopped while writing
-    // must not stop this one. The write goes ahead in any case.
+    // Waits for other processes, at most half a second: one that was suspended while writing must
+    // not stop this one. The caller writes in any case.
     void enter() noexcept;
     void leave() noexcept;
 

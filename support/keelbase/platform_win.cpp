@@ -12,10 +12,11 @@ namespace Keelbase {
 
 namespace {
 
-// Many times what one write takes, and short enough to go unnoticed in the window.
+// Far longer than one write takes, and short enough for a window not to seem frozen.
 constexpr DWORD patienceMs = 500;
 
-// Mutex names cannot hold backslashes, and paths compare without regard to letter case.
+// A hash, since a mutex name cannot hold backslashes, of the folded path, since paths are not
+// case-sensitive.
 std::wstring gateName(const std::filesystem::path& logFile)
 {
     std::wstring folded = logFile.native();
@@ -23,10 +24,10 @@ std::wstring gateName(const std::filesystem::path& logFile)
     return L"Local\\Keelbase_log_" + std::to_wstring(std::hash<std::wstring>{}(folded));
 }
 
-// The user's roaming application data; empty when the system does not tell it.
+// The user's folder for roaming application data; empty when the system has none.
 std::wstring roamingFolder()
 {
-    // shlobj.h only declares the identifier, and the import library that defines it is not wanted.
+    // FOLDERID_RoamingAppData, which shlobj.h only declares.
     constexpr GUID roamingAppData = {
         0x3EB685DB, 0x65F9, 0x4CF6, {0xA0, 0x3A, 0xE3, 0xEF, 0x65, 0x72, 0x9F, 0x3D}};
     wchar_t* found = nullptr;
@@ -35,7 +36,7 @@ std::wstring roamingFolder()
     return known && found != nullptr ? found : std::wstring();
 }
 
-// Longer paths than this do not exist.
+// No Windows path is longer than the buffer here.
 std::wstring programPath()
 {
     std::wstring path(32768, L'\0');
@@ -68,7 +69,7 @@ void WriteGate::enter() noexcept
 {
     if (!state->mutex)
         return;
-    // After one wait in vain the gate is only tried, until it proves free again.
+    // After a wait that timed out the gate is only tried, until it is free again.
     const DWORD outcome =
         WaitForSingleObject(state->mutex.get(), state->othersStuck ? 0 : patienceMs);
     state->entered = outcome == WAIT_OBJECT_0 || outcome == WAIT_ABANDONED;

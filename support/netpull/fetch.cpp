@@ -15,7 +15,7 @@ struct Replacement
 };
 
 // Never destroyed: a worker may still fetch while the process ends.
-Replacement& replacement()
+Replacement& current()
 {
     static Replacement& instance = *new Replacement;
     return instance;
@@ -27,16 +27,16 @@ Response fetch(const Request& request)
 {
     Fetch chosen;
     {
-        const std::lock_guard lock(replacement().mutex);
-        chosen = replacement().fetch;
+        const std::lock_guard lock(current().mutex);
+        chosen = current().fetch;
     }
     return chosen ? chosen(request) : transfer(request);
 }
 
-void setFetch(Fetch newFetch)
+void setFetch(Fetch replacement)
 {
-    const std::lock_guard lock(replacement().mutex);
-    replacement().fetch = std::move(newFetch);
+    const std::lock_guard lock(current().mutex);
+    current().fetch = std::move(replacement);
 }
 
 } // namespace netpull

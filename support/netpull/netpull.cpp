@@ -12,17 +12,17 @@
 namespace netpull {
 namespace {
 
-struct EasyHandleEnd
+struct EasyHandleDeleter
 {
     void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
 };
-using EasyHandle = std::unique_ptr<CURL, EasyHandleEnd>;
+using EasyHandle = std::unique_ptr<CURL, EasyHandleDeleter>;
 
-struct HeaderListEnd
+struct HeaderListDeleter
 {
     void operator()(curl_slist* list) const { curl_slist_free_all(list); }
 };
-using HeaderList = std::unique_ptr<curl_slist, HeaderListEnd>;
+using HeaderList = std::unique_ptr<curl_slist, HeaderListDeleter>;
 
 // Sets options on one handle and remembers the first refusal.
 class Options
@@ -81,10 +81,10 @@ void setLimits(Options& options, const Request& request)
     options.set(CURLOPT_TIMEOUT, long{std::min(request.timeoutSeconds, request.longestSeconds)});
     options.set(CURLOPT_CONNECTTIMEOUT, long{request.connectSeconds});
     options.set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(answerLimit));
-    // Time-outs by signal would reach a random thread of the program.
+    // Signals for time-outs are not safe in a program with threads.
     options.set(CURLOPT_NOSIGNAL, 1L);
-    // A name lookup cannot be broken off. Without this libcurl waits for its end, whatever the
-    // time-outs say; with it the thread that looks up ends by itself some time later.
+    // A name lookup cannot be cancelled. Without this option libcurl waits for its end, whatever
+    // the time-outs; with it the lookup's thread ends by itself some time later.
     options.set(CURLOPT_QUICK_EXIT, 1L);
 }
 
@@ -95,14 +95,15 @@ void setSecurity(Options& options, const Request& request)
     options.set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});
     options.set(CURLOPT_SSL_VERIFYPEER, request.verifyServer ? 1L : 0L);
     options.set(CURLOPT_SSL_VERIFYHOST, request.verifyServer ? 2L : 0L);
-    // Windows would fetch revocation lists inside the handshake, for up to 20 seconds that no
-    // time-out ends, and best effort takes a certificate whose list is withheld all the same.
+    // Windows would fetch revocation lists during the handshake, for up to 20 seconds that no
+    // time-out limits. A best-effort check would not be safer: it accepts a certificate whose list
+    // is withheld.
     options.set(CURLOPT_SSL_OPTIONS, long{CURLSSLOPT_NO_REVOKE});
 }
 
 void setProxy(Options& options, const Proxy& proxy)
 {
-    // Empty texts, not absent ones: the variables http_proxy and no_proxy must not decide.
+    // Empty rather than unset, so that the variables http_proxy and no_proxy are ignored.
     options.set(CURLOPT_PROXY, proxy.address);
     options.set(CURLOPT_NOPROXY, "");
     if (proxy.address.empty())
@@ -128,7 +129,7 @@ void setMessage(Options& options, const Request& request, HeaderList& headers)
         options.set(CURLOPT_POST, 1L);
         options.set(CURLOPT_POSTFIELDS, request.postData.data());
         options.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.postData.size()));
-        // A long form goes out at once instead of waiting a second for "100 Continue".
+        // Sends a long form at once instead of waiting a second for "100 Continue".
         complete = complete && append(headers, "Expect:");
     }
     if (!complete)
@@ -136,7 +137,7 @@ void setMessage(Options& options, const Request& request, HeaderList& headers)
     options.set(CURLOPT_HTTPHEADER, headers.get());
 }
 
-bool isPossible(const Request& request)
+bool isValid(const Request& request)
 {
     const bool proxyPortIsValid =
         request.proxy.address.empty() || (request.proxy.port > 0 && request.proxy.port <= 65535);
@@ -148,7 +149,7 @@ bool isPossible(const Request& request)
 
 void init()
 {
-    // Never undone: a post may still be under way while the process's statics are destroyed.
+    // Never undone: a post may still be under way while static objects are destroyed.
     static std::once_flag once;
     std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
 }
@@ -157,11 +158,11 @@ Response transfer(const Request& request)
 {
     init();
     Response response;
-    if (!isPossible(request)) {
+    if (!isValid(request)) {
         response.transportCode = CURLE_BAD_FUNCTION_ARGUMENT;
         return response;
     }
-    // Before the handle, which uses it until its own end.
+    // Declared before the handle, which uses it until it is destroyed.
     HeaderList headers;
     const EasyHandle handle(curl_easy_init());
     if (!handle) {

@@ -1,20 +1,19 @@
 #pragma once
 
-// netpull: one HTTP or HTTPS request, answered or given up within its time-out.
+// One HTTP or HTTPS request, answered or given up within its time-out.
 //
 // Servers are verified against the system's certificate store. Redirects are not followed: the
-// caller gets the 3xx answer, and a form is never repeated to an address that nobody chose.
-// Nothing is added to a request beyond what HTTP asks for: no agent name, no cookies, and no
-// proxy from the environment.
+// caller gets the 3xx answer, and a form is never sent on to another address. Nothing is added to a
+// request beyond what HTTP requires: no agent name, no cookies, and no proxy from the environment.
 //
-// Threads: everything here may be called from any thread. fetch blocks its caller until the
-// answer is complete or has failed. Nothing throws except std::bad_alloc, and a lack of memory in
-// the middle of an answer is a failed transfer (code 23).
+// Threads: any. fetch blocks its caller until the answer is complete or has failed. Nothing throws
+// except std::bad_alloc; running out of memory in the middle of an answer is a failed transfer
+// (code 23).
 //
-// Time-outs also end a request whose name lookup hangs; the lookup's thread goes on alone until the
-// system gives it up. They do not end what Windows fetches inside a TLS handshake to complete a
-// certificate's chain: an intermediate certificate that the server did not send, a new root.
-// Revocation lists, the usual reason for such a wait, are not asked for.
+// Time-outs also end a request whose name lookup hangs; the lookup's thread goes on until the
+// system gives up. They do not limit what Windows fetches during a TLS handshake to complete a
+// chain of certificates: a new root, or an intermediate that the server did not send. Revocation
+// lists are not fetched.
 
 #include <cstddef>
 #include <functional>
@@ -28,7 +27,7 @@ constexpr std::size_t answerLimit = std::size_t{1024} * 1024;
 
 struct Proxy
 {
-    std::string address; // host name or address of an HTTP proxy; empty: straight to the server
+    std::string address; // host name or address of an HTTP proxy; empty: no proxy
     int port = 80;       // 1 to 65535
     std::string user;    // sent as Basic credentials with the first request, unless both are empty
     std::string password;
@@ -40,7 +39,7 @@ struct Request
 {
     std::string url; // http:// or https://
     Method method = Method::get;
-    std::string postData;             // sent as it is with Method::post, else ignored
+    std::string postData;             // sent unchanged with Method::post, else ignored
     std::vector<std::string> headers; // "Name: value" each
     Proxy proxy;
 
@@ -63,8 +62,8 @@ void init();
 
 Response fetch(const Request& request);
 
-// Answers all following requests by `replacement` instead of the network, on the thread that
-// fetches; null brings the network back. For tests and measurements.
+// Makes `replacement` answer all further requests instead of the network, on the thread that calls
+// fetch; null brings the network back. For tests and measurements.
 using Fetch = std::function<Response(const Request&)>;
 void setFetch(Fetch replacement);
 

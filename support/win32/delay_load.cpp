@@ -1,9 +1,10 @@
-// Loads the libraries that the program imports with a delay: each one when its first function is
-// called, and from the system's folder only. A file of the same name beside the program, in a
-// folder of downloads say, or in the current folder is never looked at.
+// Loads the program's delay-loaded libraries: each when its first function is called, and from the
+// system's folder only. A file of the same name in the current folder, or beside a program that was
+// started in a download folder, is ignored.
 //
-// The linker refers to __delayLoadHelper2, and nothing here has a header.
+// Only the linker refers to __delayLoadHelper2, so this file has no header.
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <iterator>
 
@@ -13,8 +14,8 @@
 
 namespace {
 
-// Libraries are also loaded by other means: by Qt, by the system's own libraries, by name. From now
-// on these names, too, are looked up in the system's folder only.
+// Qt and the system's libraries load others by name. From here on those names, too, are looked up
+// in the system's folder only.
 struct SystemFolderOnly
 {
     SystemFolderOnly()
@@ -22,14 +23,14 @@ struct SystemFolderOnly
         using SetDirectories = BOOL(WINAPI*)(DWORD);
         const auto setDirectories = reinterpret_cast<SetDirectories>(reinterpret_cast<void*>(
             GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories")));
-        // A Windows 7 without its updates has no such function. The current folder can be left out
-        // there; children inherit that, so only there.
+        // Windows 7 without updates lacks the function and can only leave out the current folder.
+        // Child processes inherit that, so it is done only there.
         if (setDirectories == nullptr || !setDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32))
             SetDllDirectoryW(L"");
     }
 };
 
-// Before all other initialisers, which might load something.
+// Runs before all other initialisers, which may load libraries.
 [[gnu::init_priority(101)]] const SystemFolderOnly systemFolderOnly;
 
 HMODULE loadFromSystemFolder(const char* name)
@@ -41,7 +42,7 @@ HMODULE loadFromSystemFolder(const char* name)
         return nullptr;
     path[length] = L'\\';
     std::copy_n(name, nameLength, path + length + 1);
-    // What the library itself needs is looked for beside it, not beside the program.
+    // The library's own imports are looked up beside it, not beside the program.
     return LoadLibraryExW(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 
@@ -52,8 +53,8 @@ Target* at(RVA address)
     return reinterpret_cast<Target*>(base + address);
 }
 
-// There is nobody to tell: the caller takes its function for granted. The code is the one that
-// debuggers know for this.
+// No error can be returned: the caller expects its function to exist. Debuggers know this exception
+// code.
 [[noreturn]] void giveUp(DWORD error)
 {
     RaiseException(static_cast<DWORD>(VcppException(ERROR_SEVERITY_ERROR, error)),
@@ -72,7 +73,7 @@ extern "C" FARPROC WINAPI __delayLoadHelper2(PCImgDelayDescr library, FARPROC* f
         module = loadFromSystemFolder(at<const char>(library->rvaDLLName));
         if (module == nullptr)
             giveUp(ERROR_MOD_NOT_FOUND);
-        // Two threads may come here at once, and one of them has loaded it a second time.
+        // Another thread may have loaded it meanwhile; then this reference is one too many.
         if (InterlockedExchangePointer(loaded, module) == module)
             FreeLibrary(module);
     }

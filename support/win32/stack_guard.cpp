@@ -1,19 +1,20 @@
-// What -fstack-protector refers to. GCC's own library for it asks the system's cryptography for the
-// value, which at every start loads two libraries; the value below is made as Microsoft's compiler
-// makes its own, from what differs between starts.
+// The symbols that -fstack-protector code refers to. GCC's own library takes the guard value from
+// the system's cryptography, which loads two libraries at every start. Here it is mixed, as by
+// Microsoft's compiler, from what differs between starts.
 #include <cstdint>
 
 #include <windows.h>
 
 extern "C" {
 
-// Read by the compiler's code at the begin and the end of functions with arrays.
+// Read by the compiler's code at the beginning and end of functions with arrays. Until
+// chooseGuard() runs it has the start value that Microsoft's compiler uses.
 std::uintptr_t __stack_chk_guard = 0x00002B992DDFA232;
 
-// Called by that code when the value on the stack is another one at the end.
+// Called by that code when the copy on the stack has changed.
 [[noreturn]] void __stack_chk_fail()
 {
-    // Without unwinding or handlers: the stack is not to be trusted.
+    // No unwinding and no handlers: the stack cannot be trusted.
     TerminateProcess(GetCurrentProcess(), static_cast<UINT>(STATUS_STACK_BUFFER_OVERRUN));
     __builtin_trap();
 }
@@ -21,7 +22,7 @@ std::uintptr_t __stack_chk_guard = 0x00002B992DDFA232;
 
 namespace {
 
-// First of all: functions that are running while the value changes would fail.
+// Runs first: a function that is active while the value changes would fail its check.
 [[gnu::constructor(101), gnu::no_stack_protector]] void chooseGuard()
 {
     FILETIME time = {};
@@ -32,10 +33,10 @@ namespace {
     value ^= static_cast<std::uintptr_t>(ticks.QuadPart) << 16;
     value ^= std::uintptr_t{GetCurrentProcessId()} << 24;
     value ^= GetCurrentThreadId();
-    // Where the stack and the program lie is chosen anew by the system.
+    // The system chooses the addresses of stack and program anew.
     value ^= reinterpret_cast<std::uintptr_t>(&time) << 8;
     value ^= reinterpret_cast<std::uintptr_t>(&chooseGuard);
-    // No copy of text goes past a zero, which lies lowest in memory.
+    // The lowest byte in memory is zero: it stops overruns by functions that copy text.
     __stack_chk_guard = value & ~std::uintptr_t{0xFF};
 }
 

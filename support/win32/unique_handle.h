@@ -3,8 +3,8 @@
 // Owners of Win32 handles: one type for each kind, each with its own invalid value, so that a
 // file's INVALID_HANDLE_VALUE is never taken for an event, nor a null event for a file.
 //
-// An owner closes its handle when it ends, moves, and is never copied. Like the handle itself it
-// may be used by one thread at a time.
+// An owner closes its handle on destruction; it can be moved, not copied. One thread at a time may
+// use an owner.
 
 #include <utility>
 
@@ -29,7 +29,7 @@ public:
     }
     ~UniqueHandle() { reset(); }
 
-    // Stays owned by this object.
+    // This object keeps ownership.
     Value get() const noexcept { return value; }
     explicit operator bool() const noexcept { return value != Kind::invalid(); }
 

@@ -1,4 +1,4 @@
-"""Uninstall lists that no installer of the suite would write."""
+"""Uninstall lists with contents that no installer of the suite writes."""
 
 from tests.harness import probes
 from tests.harness.case import SuiteTestCase
@@ -7,13 +7,13 @@ from tests.harness.registry import (REG_BINARY, REG_DWORD, REG_EXPAND_SZ, REG_MU
 from tests.harness.suite import LIST_KEY, SELECTIVE, SUITE_KEY, Suite
 from tests.sample_suite.applications import PARTNER, RUNNING
 
-# As long as a command may be that Windows still starts, with the other switches added.
+# With the other switches added, Windows still starts a command of this length.
 LONG = 30_000
 LONGEST_VALUE_NAME = 16_383
 
 
 class BadRegistry(SuiteTestCase):
-    """The commands name copies of a program that records what it is given."""
+    """The commands name copies of a program that records its arguments."""
 
     def setUp(self):
         super().setUp()
@@ -22,17 +22,17 @@ class BadRegistry(SuiteTestCase):
         self.suite.place_program()
 
     def place_probe(self, name):
-        """Its Windows path."""
+        """Returns its Windows path."""
         return probes.place_working(self.prefix, name)
 
     def remove(self, checked, rows):
         self.remove_rows(self.suite, checked, rows)
 
     def assert_probes(self, expected):
-        """Which probes ran, once each, and with which arguments."""
+        """Exactly these probes ran, once each, with these arguments."""
         self.assert_recorded(self.suite, expected)
 
-    def test_commands_of_other_shapes_run_as_far_as_they_name_a_program(self):
+    def test_unusual_commands_run_if_they_name_a_program(self):
         no_switch = self.place_probe("no_switch")
         no_folder = self.place_probe("no_folder")
         quoted = self.place_probe("quoted")
@@ -64,7 +64,7 @@ class BadRegistry(SuiteTestCase):
             "long": [f"/log{long_log}", *SELECTIVE],
         })
 
-    def test_a_program_name_of_any_length_is_only_not_found(self):
+    def test_a_program_that_is_not_found_is_skipped_however_long_its_name(self):
         probe = self.place_probe("after")
         self.prefix.write_registry([
             Value(LIST_KEY, "1 long program", "C:\\" + "p" * LONG),
@@ -93,24 +93,24 @@ class BadRegistry(SuiteTestCase):
 
     def test_unusual_value_names_are_rows_like_others(self):
         names = ["", "n" * LONGEST_VALUE_NAME, "100 %20 percent", "Übergröße 節拍", "with/slash"]
-        probes = ["empty", "huge", "percent", "letters", "slash"]
-        values = [Value(LIST_KEY, name, self.place_probe(probe) + " /log=C:\\logs\\Some_uninstall")
-                  for name, probe in zip(names, probes)]
+        programs = ["empty", "huge", "percent", "letters", "slash"]
+        values = [Value(LIST_KEY, name, self.place_probe(program) + " /log=C:\\logs\\Some_uninstall")
+                  for name, program in zip(names, programs)]
         self.prefix.write_registry(values + [Value(LIST_KEY, "~ stays", "C:\\nothing.exe")])
-        # The rows are sorted; the one that stays comes before the accented letter.
+        # The rows are sorted; "~ stays" comes before the accented letter.
         self.remove([0, 1, 2, 3, 5], rows=6)
-        self.assert_probes({probe: ["/log=C:\\logs\\Some_uninstall", *SELECTIVE]
-                            for probe in probes})
+        self.assert_probes({program: ["/log=C:\\logs\\Some_uninstall", *SELECTIVE]
+                            for program in programs})
 
     def test_a_value_name_with_a_backslash_has_a_row_without_a_command(self):
-        # The settings object takes it for the path of another key, which does not exist.
+        # QSettings reads the name as the path of another key, which does not exist.
         self.prefix.write_registry([
             Value(LIST_KEY, "a\\b", self.place_probe("backslash") + " /log=C:\\logs\\B_uninstall"),
             Value(LIST_KEY, "stays", "C:\\nothing.exe")])
         self.remove([0], rows=2)
         self.assert_probes({})
 
-    def test_a_damaged_install_path_does_not_disturb_the_question(self):
+    def test_a_damaged_install_path_leaves_the_warning_working(self):
         self.suite.install([RUNNING, PARTNER])
         self.prefix.write_registry([
             Value(f"{SUITE_KEY}\\AppPaths", RUNNING.id_string, b"\0\1", REG_BINARY)])

@@ -1,4 +1,4 @@
-"""Which brand's list the program reads: the folder's name decides, else global.cfg."""
+"""Which brand's list the program reads: the folder's name decides, otherwise global.cfg."""
 
 from pathlib import PureWindowsPath
 
@@ -6,7 +6,7 @@ from tests.harness.case import SuiteTestCase
 from tests.harness.suite import COMPANY_BRAND, PRODUCT_BRAND, PROGRAM_FILES, Suite
 from tests.sample_suite.applications import AWKWARD_FOLDER, PARTNER, SUITE, UNKNOWN
 
-# As many applications as tell the two lists apart.
+# Different numbers of applications, so that the lists differ.
 ROWS = {COMPANY_BRAND: 1, PRODUCT_BRAND: 2}
 
 
@@ -29,10 +29,10 @@ class Brand(SuiteTestCase):
         if global_settings is not None:
             beside.write_bytes(global_settings)
         program = self.start_program(suite)
-        # Told before the window is shown.
-        told = [message.text for message in suite.log()
-                if message.text.startswith("Try to fill list widget")]
-        self.assertEqual(told[-1], f"Try to fill list widget (runtime brand: {expected})")
+        # Logged before the window is shown.
+        logged = [message.text for message in suite.log()
+                  if message.text.startswith("Try to fill list widget")]
+        self.assertEqual(logged[-1], f"Try to fill list widget (runtime brand: {expected})")
         program.main_window.wait_for_rows(ROWS[expected])
         program.main_window.close()
         self.assertEqual(program.exit_code(), 0)
@@ -64,7 +64,7 @@ class Brand(SuiteTestCase):
         self.assertEqual(company.registered(), [])
         self.assertEqual(product.registered(), ["Beat Grid", "Zebra Player"])
 
-    def test_in_the_company_brand_a_full_run_goes_the_same_way(self):
+    def test_company_has_the_same_full_run(self):
         suite = self.install([SUITE, PARTNER], COMPANY_BRAND)
         program = self.start_program(suite, rows=2)
         program.main_window.select_all()

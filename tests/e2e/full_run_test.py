@@ -96,7 +96,7 @@ class FullRun(SuiteTestCase):
             self.assert_removed(suite, application, with_settings=True)
         self.assertFalse(settings.exists())
 
-    def test_checking_the_suite_row_alone_is_a_full_run_of_all(self):
+    def test_begins_by_checking_only_the_suites_row(self):
         suite = self.install([SUITE, PARTNER])
         program = self.start_program(suite, rows=2)
         program.main_window.toggle_row(0)
@@ -116,10 +116,10 @@ class FullRun(SuiteTestCase):
             *suite.removal_log(SUITE, "full"),
             "~Widget()",
         ])
-        # The suite's uninstaller could remove the program, because that had ended.
+        # The suite's uninstaller removed the program after its end.
         self.assertFalse((suite.prefix.unix_path(suite.program_folder) / "Uninstall.exe").exists())
 
-    def test_of_the_suite_alone_does_not_announce_a_full_run(self):
+    def test_of_the_suite_alone_does_not_write_the_uninstall_mode(self):
         suite = self.install([SUITE])
         self.remove_rows(suite, [0], rows=1)
 
@@ -128,7 +128,7 @@ class FullRun(SuiteTestCase):
         self.assert_removed(suite, SUITE, with_settings=False)
         self.assertNotIn("UninstallMode", suite.registry()[SUITE_KEY])
 
-    def test_without_a_suite_row_ends_well_after_the_last_application(self):
+    def test_without_a_suite_row_ends_after_the_last_application(self):
         suite = self.install([PARTNER, UNKNOWN])
         self.remove_rows(suite, [0, 1], rows=2)
 
@@ -137,7 +137,7 @@ class FullRun(SuiteTestCase):
                       "/DISABLEREDIRECT"],
             UNKNOWN: [suite.log_switch(UNKNOWN), "/SILENT", "/SUPPRESSMSGBOXES", "/LASTAPP"],
         })
-        # The last step finds no uninstaller of the suite to start.
+        # The last step finds no uninstaller of the suite.
         self.assertEqual([message.text for message in suite.log()][-2:],
                          ["--> DoUninsstall: full", "~Widget()"])
         self.assertEqual(suite.registry()[SUITE_KEY]["UninstallMode"], 1)

@@ -1,4 +1,4 @@
-"""The NSIS script of docs/integrating.md, taken from the page as an application's developer would."""
+"""The NSIS script of docs/integrating.md, extracted from the page."""
 
 import os
 import re
@@ -13,7 +13,7 @@ from tests.harness.suite import LIST_KEY, SUITE_KEY, Suite
 from tests.harness.waiting import wait_until
 
 PAGE = layout.REPOSITORY / "docs" / "integrating.md"
-LAST_WORDS = "Wave Tuner removed\r\n"
+LOG_OF_REMOVAL = "Wave Tuner removed\r\n"
 
 
 class IntegratingPage(SuiteTestCase):
@@ -40,10 +40,11 @@ class IntegratingPage(SuiteTestCase):
         return tree[LIST_KEY], tree[f"{SUITE_KEY}\\AppPaths"]
 
     def _assert_removed(self, log: PureWindowsPath) -> None:
-        """The first process of the uninstaller returns at once; its log tells the end."""
+        """Waits for the uninstaller's log, since its first process ends at once."""
         file = self.prefix.unix_path(log)
-        wait_until(lambda: file.exists() and file.read_bytes() == LAST_WORDS.encode("utf-16-le"),
-                   f"no word of the removal in {log}")
+        content = LOG_OF_REMOVAL.encode("utf-16-le")
+        wait_until(lambda: file.exists() and file.read_bytes() == content,
+                   f"{log} does not report the removal")
         self.assertFalse(self.prefix.unix_path(self.folder).exists())
         self.assertEqual(self._registered(), ({}, {}))
 

@@ -1,5 +1,5 @@
-"""A download folder may hold anything. No library and no program is taken from beside the program
-or from the current folder."""
+"""The program loads no library and runs no program from its own folder or the current folder: a
+download folder may hold anything."""
 
 import shutil
 from pathlib import Path
@@ -11,15 +11,14 @@ from tests.harness.suite import SURVEY_TITLE, WARNING_TITLE
 from tests.sample_suite.applications import CLIP_SAVER, RUNNING
 
 LIBRARIES = [
-    # What the program, with Qt and libcurl in it, imports beyond the libraries that Windows always
-    # takes from its own folder,
+    # Imports of the program beyond the libraries that Windows always takes from its own folder,
     "bcrypt", "crypt32", "dwmapi", "netapi32", "userenv", "uxtheme", "version", "winmm", "wtsapi32",
-    # and what they load at run time.
+    # and libraries that are loaded at run time.
     "combase", "d3d9", "d3d11", "dwrite", "dxgi", "opengl32", "secur32", "shcore",
     "uiautomationcore", "wintab32"]
 PROGRAMS = ["taskkill"]
 
-# Statistics and the country lookup run, and come as far as a proxy that does not answer.
+# Statistics and the country lookup run up to a proxy that does not answer.
 SETTINGS = b"EventStatEnabled=1\nLanguage=en\nProxyType=1\nProxyAddress=127.0.0.1\nProxyPort=9\n"
 
 
@@ -45,7 +44,7 @@ class PlantedFiles(SuiteTestCase):
         plant(self.prefix.unix_path(suite.program_folder))
         plant(current_folder)
 
-        # Without the launcher: what it loads into the program needs libraries of these names.
+        # Without the launcher, whose shims load libraries of these names.
         program = self.start_program(suite, rows=2, folder=current_folder,
                                      environment={"WINE_RUN_TOOLS": ""})
         program.main_window.toggle_row(0)

@@ -1,4 +1,4 @@
-"""Applications that run when their removal begins."""
+"""Applications that are running when their removal begins."""
 
 import shutil
 
@@ -57,7 +57,7 @@ class RunningApplications(SuiteTestCase):
     def test_cancel_on_the_first_removes_nothing_and_ends_the_program(self):
         self.check_cancelled("Escape")
 
-    def test_closing_the_question_is_a_cancel(self):
+    def test_closing_the_warning_is_a_cancel(self):
         self.check_cancelled("alt+F4")
 
     def test_cancel_in_a_full_run_spares_the_suite_too(self):
@@ -69,7 +69,7 @@ class RunningApplications(SuiteTestCase):
         program.wait_for_warning().press("Escape")
         self.assertEqual(program.exit_code(), 0)
 
-        # What went before the question stays removed.
+        # Applications removed before the warning stay removed.
         self.assertTrue(karaoke.running)
         self.assert_arguments(suite, {
             AWKWARD_FOLDER: ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/DISABLEREDIRECT"]})
@@ -80,9 +80,9 @@ class RunningApplications(SuiteTestCase):
             *suite.removal_log(AWKWARD_FOLDER, "full"), warning(RUNNING), "changeItemsState: 0",
             "allApplicationsSelButtonClicked", "changeItemsState: 0", "~Widget()"])
 
-    def test_two_are_asked_about_one_after_the_other_in_row_order(self):
+    def test_two_warnings_appear_in_row_order(self):
         suite = self.install([RUNNING, SECOND_RUNNING, UNKNOWN])
-        # Started in the other order, which must not matter.
+        # Started in the other order.
         tuner = self.start_application(suite, SECOND_RUNNING)
         karaoke = self.start_application(suite, RUNNING)
         program = self.start_program(suite, rows=3)
@@ -117,9 +117,9 @@ class RunningApplications(SuiteTestCase):
         for application in (AWKWARD_FOLDER, SECOND_RUNNING, UNKNOWN):
             self.assert_untouched(suite, application)
 
-    def test_the_suites_row_asks_about_applications_that_have_no_row(self):
+    def test_the_suites_row_warns_about_applications_without_a_row(self):
         suite = self.install([SUITE, PARTNER])
-        # Copied to the computer without an installer: the suite knows neither row nor path of it.
+        # Copied without an installer, so that neither a row nor a path is registered.
         folder = suite.folder(RUNNING)
         folder.mkdir()
         shutil.copy(layout.INSTALLERS / "sample_instance.exe", folder / RUNNING.process_name)
@@ -134,13 +134,13 @@ class RunningApplications(SuiteTestCase):
         self.assert_arguments(suite, {
             PARTNER: ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/DISABLEREDIRECT"],
             SUITE: ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/LASTAPP"]})
-        # The suite's row comes first in the list, its removal last.
+        # The suite's row is first in the list, its removal last in the run.
         self.assert_log(suite, START_OF_LOG + [
             "allApplicationsSelButtonClicked", "changeItemsState: 1", BEGUN, warning(RUNNING),
             *suite.removal_log(PARTNER, "full"), *suite.removal_log(SUITE, "full"), "~Widget()"])
 
-    def test_the_slideshow_maker_is_never_seen_running(self):
-        # Its instance is looked for under its spaced name, which no instance ever had.
+    def test_the_slideshow_maker_is_never_warned_about(self):
+        # The program looks for its mutex by the spaced name, which no instance uses.
         suite = self.install([SLIDESHOW, PARTNER])
         slideshow = self.start_application(suite, SLIDESHOW)
         program = self.start_program(suite, rows=2)
@@ -152,7 +152,7 @@ class RunningApplications(SuiteTestCase):
         self.assertTrue(slideshow.running)
         self.assert_ran_selectively(suite, SLIDESHOW)
 
-    def test_an_application_that_nobody_removes_is_left_alone(self):
+    def test_an_application_that_is_not_checked_is_left_running(self):
         suite = self.install([RUNNING, PARTNER])
         karaoke = self.start_application(suite, RUNNING)
         program = self.start_program(suite, rows=2)

@@ -1,4 +1,4 @@
-"""The window at the scales that Windows offers most."""
+"""The window at 100, 125, 150 and 200 percent."""
 
 from tests.harness import screen
 from tests.harness.case import SuiteTestCase

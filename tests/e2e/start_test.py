@@ -1,4 +1,4 @@
-"""The program's start: its command line, and what it does without anything to remove."""
+"""The program's start: its command line, and starts without anything to remove."""
 
 from tests.harness import screen
 from tests.harness.case import SuiteTestCase
@@ -21,7 +21,7 @@ class Preselection(SuiteTestCase):
         for application in (AWKWARD_FOLDER, CLIP_SAVER, SLIDESHOW):
             self.assert_untouched(suite, application)
 
-    def test_of_a_surveyed_application_goes_by_its_name_in_the_list(self):
+    def test_finds_a_surveyed_application_by_its_name_in_the_list(self):
         suite = self.install(ROWS)
         program = self.start_program(suite, "/app", "ClipSaver", rows=4)
         program.main_window.press_uninstall()
@@ -54,7 +54,7 @@ class Preselection(SuiteTestCase):
             with self.subTest(arguments=arguments):
                 program = self.start_program(suite, *arguments, rows=4)
                 self.assertEqual(program.main_window.checked_rows(), expected)
-                # Nothing happens for a button that is not enabled.
+                # The button is disabled, so nothing happens.
                 if not any(expected):
                     program.main_window.press_uninstall()
                 program.main_window.close()
@@ -64,7 +64,7 @@ class Preselection(SuiteTestCase):
 
 class Start(SuiteTestCase):
 
-    def test_with_an_empty_list_shows_a_window_that_can_only_be_closed(self):
+    def test_with_an_empty_list_shows_a_window_without_active_buttons(self):
         suite = self.install([])
         program = self.start_program(suite, rows=0)
         program.main_window.press_select_button()
@@ -81,7 +81,7 @@ class Start(SuiteTestCase):
         program.main_window.close()
         self.assertEqual(program.exit_code(), 0)
 
-    def test_of_a_second_copy_shows_no_window_and_ends_well(self):
+    def test_of_a_second_copy_shows_no_window(self):
         suite = self.install([PARTNER])
         first = self.start_program(suite, rows=1)
         program_file = suite.prefix.unix_path(suite.program_folder) / "Uninstall.exe"
@@ -92,7 +92,7 @@ class Start(SuiteTestCase):
         first.main_window.close()
         self.assertEqual(first.exit_code(), 0)
 
-    def test_without_a_usable_log_folder_changes_nothing_else(self):
+    def test_without_a_usable_log_folder_still_removes_applications(self):
         suite = self.install([PARTNER, AWKWARD_FOLDER])
         logs = suite.prefix.unix_path(suite.prefix.logs)
         logs.rmdir()

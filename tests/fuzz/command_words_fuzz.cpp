@@ -1,5 +1,5 @@
-// Any message between copies: compares the plan for it with a plain second reading, and checks what
-// a sender makes of its arguments and of answers.
+// Any message between copies: compares the plan for it with a plain second implementation, and
+// checks how a sender joins its arguments and reads answers.
 
 #include "tests/fuzz/fuzz_support.h"
 #include "ui/common/sys/ipc_commands.h"
@@ -9,7 +9,7 @@ namespace {
 using fuzz::contains;
 using fuzz::require;
 
-// As the window reads bytes: Latin-1.
+// Latin-1, as the window reads bytes.
 std::u16string wide(std::string_view text)
 {
     std::u16string result(text.size(), u'\0');
@@ -82,6 +82,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     checkPlan(text + sys::showMessage());
     checkArguments(text);
     checkHandle(data, size);
-    require(sys::answerRevives(text) == contains(text, "revive"), "the answer word is seen");
+    require(sys::answerRevives(text) == contains(text, "revive"), "the answer's word is found");
     return 0;
 }

@@ -1,9 +1,9 @@
 // Any sequence of operations on two settings objects that share one file, as two processes do;
-// compares each step with a model. The file is held in memory and can be missing or refuse to be
-// read or written.
+// compares each step with a model. The file is in memory; it can be missing and can refuse reads
+// and writes.
 //
-// Input: steps, kept apart by the separator. A step's first letter chooses the operation (in lower
-// case on the first object, in upper case on the second one), the rest is the operation's text.
+// Input: steps between separators. A step's first letter selects the operation (lower case for the
+// first object, upper case for the second one); the rest is the operation's text.
 
 #include "tests/fuzz/config_reference.h"
 #include "tests/fuzz/fuzz_support.h"
@@ -57,7 +57,7 @@ std::string plainlyWritten(const Pairs& pairs)
     return text;
 }
 
-// What one settings object must do, in the simplest words.
+// A plain model of one settings object.
 class Model
 {
 public:

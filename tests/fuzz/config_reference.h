@@ -1,6 +1,6 @@
 #pragma once
 
-// The reading rules of ".cfg" files, written down a second time as plainly as possible.
+// A second, plain implementation of the reading rules of ".cfg" files.
 
 #include <map>
 #include <string>

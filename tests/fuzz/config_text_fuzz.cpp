@@ -1,8 +1,9 @@
 // Any bytes as the text of a ".cfg" file: compares the parser with a plain second one, writes and
-// reads the result again, and merges changes over it.
+// rereads the result, and merges changes into it.
 //
-// Input: the file's text; with separators in it also: what this process had in memory, what the
-// process set, keys it marked as changed, the file as another process left it.
+// Input: the file's text. Its fields between separators are also used as: pairs in this process's
+// memory, pairs that it set, keys that it marked as changed, and the file as another process left
+// it.
 
 #include "tests/fuzz/config_reference.h"
 #include "tests/fuzz/fuzz_support.h"
@@ -31,7 +32,7 @@ void checkText(const std::string& text)
     const std::string written = fs::serialiseConfig(pairs);
     require(written.empty() || written.back() == '\n', "the last line is ended");
     require(parsed(written) == fuzz::withoutEmpty(pairs), "what is written is read back");
-    require(fs::serialiseConfig(parsed(written)) == written, "writing again changes nothing");
+    require(fs::serialiseConfig(parsed(written)) == written, "rewriting changes nothing");
 }
 
 void checkOrderOfLoading(const std::string& first, const std::string& second)

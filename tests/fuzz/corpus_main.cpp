@@ -1,6 +1,5 @@
-// Runs a fuzz target without a fuzzer: over every file of the folders named on the command line,
-// and over a fixed number of changed copies of them, always the same ones. A single file may be
-// named too, to replay what a fuzzer has found.
+// Runs a fuzz target without a fuzzer over the files and folders named on the command line, and
+// over a fixed number of changed copies, which are the same in every run.
 
 #include "tests/fuzz/fuzz_support.h"
 
@@ -30,7 +29,7 @@ std::vector<Bytes> readCorpus(int count, char** paths)
         for (const auto& entry : std::filesystem::directory_iterator(path))
             files.push_back(entry.path());
     }
-    // Folders list their files in any order; the copies shall be the same ones everywhere.
+    // Folders list their files in any order, which would change the copies.
     std::sort(files.begin(), files.end());
 
     std::vector<Bytes> corpus;

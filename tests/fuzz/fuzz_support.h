@@ -1,6 +1,6 @@
 #pragma once
 
-// What every fuzz target needs: a check that ends the process, and a way to take one input apart.
+// Helpers of the fuzz targets: a check that ends the process, and fields of an input.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace fuzz {
 
-// Ends the process, which the fuzzer and the corpus runner both take for a finding.
+// Aborts when the condition is false; the fuzzer and CTest report that as a failure.
 inline void require(bool condition, const char* what)
 {
     if (condition)
@@ -26,8 +26,8 @@ inline std::string textOf(const std::uint8_t* data, std::size_t size)
     return {data, data + size};
 }
 
-// Inputs with several texts keep them apart by this byte: it is easy to see in a file, easy to
-// hit for a fuzzer, and part of no UTF-8 text.
+// Separates the fields of an input: one byte, which a fuzzer inserts easily and no UTF-8 text
+// holds.
 constexpr char separator = '\xff';
 
 inline std::vector<std::string> fieldsOf(std::string_view input)

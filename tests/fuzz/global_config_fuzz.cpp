@@ -1,5 +1,5 @@
-// Any bytes as the text of "global.cfg", and as the folder's name: compares the brand with a plain
-// second reading, and checks that only the first line of the key counts.
+// Any bytes as the text of "global.cfg" and as the folder's name: compares the brand with a plain
+// second implementation, and checks that only the first line of the key counts.
 
 #include "tests/fuzz/fuzz_support.h"
 #include "ui/common/config/brand.h"
@@ -51,13 +51,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const std::string text = fuzz::textOf(data, size);
     const std::string decided = plainlyRead(text);
     const std::string brand = fs::brandFromGlobalConfig(text);
-    require(brand == (decided.empty() ? "Lumacraft" : decided), "the brand is as a person reads");
+    require(brand == (decided.empty() ? "Lumacraft" : decided), "the deciding line sets the brand");
 
     for (const char* added : {"CompanyBrandMode=0", "CompanyBrandMode=1"}) {
         const std::string addedBrand = added[17] == '1' ? "Corvane" : "Lumacraft";
         require(fs::brandFromGlobalConfig(text + "\n" + added) ==
                     (decided.empty() ? addedBrand : decided),
-                "a line behind counts only when none before does");
+                "a later line decides only when no earlier one does");
         require(fs::brandFromGlobalConfig(std::string(added) + "\n" + text) == addedBrand,
                 "the first line of the key decides");
     }

@@ -1,8 +1,8 @@
-// Any text as a log message, as its category and as its source: the line holds no control byte, so
-// that nothing from outside looks like a line of its own, and the text can be read back from it.
+// Any text as a log message, as its category and as its source: the line has no control byte, so
+// that no text can forge another line.
 //
-// Input: the text; or category, source and text kept apart by separators. A text of seven or
-// eight bytes that begins with "Long" is repeated until it is too long, or just as long as allowed.
+// Input: the text; or category, source and text between separators. A text of seven or eight bytes
+// that begins with "Long" is repeated until it is too long, or exactly as long as allowed.
 
 #include "support/keelbase/log_line.h"
 #include "tests/fuzz/fuzz_support.h"
@@ -52,7 +52,7 @@ std::size_t cutOf(const std::string& text)
 
 std::string textFrom(const std::string& field)
 {
-    // Two sizes only: such inputs are slow, and the fuzzer needs few of them.
+    // Two sizes only: such inputs are slow.
     if (!fuzz::startsWith(field, "Long") || field.size() < 7 || field.size() > 8)
         return field;
     std::string text;

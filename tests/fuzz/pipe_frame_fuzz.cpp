@@ -1,6 +1,6 @@
-// Arbitrary bytes at the pipe: reads them as request and as answer, and writes what was read into a
-// frame again. Bytes 1 and 2 also name the length of one more text to write, so that the largest
-// frames are reached by small inputs.
+// Any bytes from the pipe: reads them as request and as answer, and writes the text into a new
+// frame. Bytes 1 and 2 are also the length of one more text to write, so that small inputs reach
+// the largest frames.
 
 #include "tests/fuzz/fuzz_support.h"
 #include "ui/common/sys/ipc_commands.h"
@@ -58,7 +58,7 @@ std::uint32_t plainPid(const std::uint8_t* frame)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    // An own block of exactly this size, so that a read past its end is seen.
+    // A block of exactly this size lets the sanitizer report a read past its end.
     const std::vector<std::uint8_t> frame(data, data + size);
     const auto request = sys::readRequest(frame.data(), frame.size());
     const auto answer = sys::readAnswer(frame.data(), frame.size());

@@ -1,7 +1,7 @@
 // Any template with any values: compares the expansion, the body of an event and the form encoding
 // with plain second versions.
 //
-// Input: the template, then names and values in turn, kept apart by the separator.
+// Input: the template, then alternating names and values, between separators.
 
 #include "tests/fuzz/fuzz_support.h"
 #include "tests/support/event_members.h"
@@ -28,7 +28,7 @@ void cutToLastPair(std::string& text)
         text.erase(last);
 }
 
-// The name of the placeholder that begins here; empty when none does.
+// The name of the placeholder that begins at `position`, else empty.
 std::string placeholderAt(const std::string& text, std::size_t position)
 {
     if (text[position] != '{')
@@ -120,7 +120,7 @@ void checkExpansion(const std::string& text, const TemplateParams& params, const
     if (!fuzz::contains(text, "{") || !fuzz::contains(text, "}"))
         require(params.expand(text, false).text == text, "a text without placeholders stays");
 
-    // Each name stands for its own placeholder: then nothing may change.
+    // When each name's value is its own placeholder, the text must not change.
     TemplateParams itself;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const std::string name = placeholderAt(text, i);

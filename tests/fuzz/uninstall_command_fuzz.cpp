@@ -1,5 +1,5 @@
-// Any text as an uninstall command, an install path and a command line: compares the parts with
-// plain second readings and checks what must hold for the switches.
+// Any text as an uninstall command, an install path and a command line: compares the results with
+// plain second implementations.
 //
 // Input: two bytes of options, then the text.
 
@@ -16,7 +16,7 @@ namespace {
 using fuzz::contains;
 using fuzz::require;
 
-// What stands between the last `before` and the first `after` that follows it.
+// The text between the last `before` and the first `after` that follows it.
 std::string between(std::string text, const std::string& before, const std::string& after)
 {
     for (std::size_t i = text.size(); i-- > 0;) {
@@ -41,7 +41,7 @@ void checkParts(const std::string& command)
     std::string joined = parts[0];
     for (std::size_t i = 1; i < parts.size(); ++i)
         joined += " /log" + parts[i];
-    require(joined == command, "the parts make the command again");
+    require(joined == command, "the joined parts are the command");
     require(std::none_of(parts.begin(), parts.end(),
                          [](const std::string& part) { return contains(part, " /log"); }),
             "no switch is left inside a part");
@@ -65,7 +65,7 @@ void checkSwitches(const std::string& command, const uninstall::RunOptions& opti
         expected.erase(expected.begin());
     require(arguments == expected, "the switches follow the options");
     require(uninstall::writesUninstallMode(options) == (options.full && options.remaining > 1),
-            "the mode is written while more of the suite follows");
+            "the mode is written unless the last application is removed");
 }
 
 void checkNames(const std::string& text)
@@ -90,7 +90,7 @@ void checkNames(const std::string& text)
 
 void checkCommandLine(const std::string& text)
 {
-    // As the start-up code hands arguments over: ended by NULs and a null pointer.
+    // As the start-up code passes arguments: ended by NULs and a null pointer.
     std::vector<std::string> words = fuzz::fieldsOf(text);
     std::vector<char*> argv;
     for (std::string& word : words)

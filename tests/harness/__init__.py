@@ -1,2 +1,2 @@
-"""What the end-to-end tests and the demo share: a Wine prefix with the sample suite in it, the
-program under test, and a person's hands on its window."""
+"""Helpers of the end-to-end tests and the demo: a Wine prefix with the sample suite, the program
+under test, and mouse and keyboard for its window."""

@@ -9,15 +9,15 @@ from typing import Dict, Iterable, List, Optional
 
 from tests.harness import layout, screen
 from tests.harness.prefix import Prefix
-from tests.harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, RunningApplication,
-                                 RunningProgram, Suite)
+from tests.harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, START_OF_LOG,
+                                 RunningApplication, RunningProgram, Suite)
 from tests.harness.waiting import wait_until
 from tests.sample_suite.applications import Application
 
 
 class SuiteTestCase(unittest.TestCase):
-    """Each test has its own computer (Wine prefix) below the build tree. It is removed after a
-    test that passed, and kept, with a picture of the screen, after one that failed."""
+    """Each test has its own computer (Wine prefix) below the build tree. After a failure it is kept,
+    with a picture of the screen; otherwise it is removed."""
 
     maxDiff = None
 
@@ -38,15 +38,15 @@ class SuiteTestCase(unittest.TestCase):
         self.programs: List[RunningProgram] = []
         self.prefix.create()
         self.addCleanup(self.prefix.end)
-        self.addCleanup(self._picture_of_the_end)
+        self.addCleanup(self._save_last_screen)
 
-    def _picture_of_the_end(self):
+    def _save_last_screen(self):
         screen.save_screen(self.scratch / "screen.png")
 
     # Steps that most tests begin with
 
     def install(self, chosen: Iterable[Application], brand: str = PRODUCT_BRAND) -> Suite:
-        """The applications, and the program in the suite's folder."""
+        """Installs the applications, and the program in the suite's folder."""
         suite = Suite(self.prefix, brand)
         suite.install(chosen)
         suite.place_program()
@@ -60,8 +60,8 @@ class SuiteTestCase(unittest.TestCase):
     def start_program(self, suite: Suite, *arguments: str, rows: Optional[int] = None,
                       environment: Optional[Dict[str, str]] = None,
                       folder: Optional[Path] = None) -> RunningProgram:
-        """The program with its window, which shows so many rows. One that a failed sub-test left
-        running is ended first: it would take the new one's arguments."""
+        """Starts the program and waits for its window, with `rows` rows if given. A program that a
+        failed sub-test left running is ended first: it would receive the new one's arguments."""
         for earlier in self.programs:
             self._stop(earlier.process)
         wait_until(lambda: not screen.find_windows(MAIN_TITLE), "an earlier program's window stays")
@@ -74,8 +74,8 @@ class SuiteTestCase(unittest.TestCase):
 
     def remove_rows(self, suite: Suite, checked: Iterable[int], rows: int,
                     environment: Optional[Dict[str, str]] = None) -> None:
-        """Starts the program, which shows so many rows, checks some of them, and sees the run to
-        its end. Nothing may have to be answered on the way."""
+        """Starts the program, which must show `rows` rows, uninstalls the checked ones, and waits
+        for the program's end. The run must ask no questions."""
         program = self.start_program(suite, rows=rows, environment=environment)
         for row in checked:
             program.main_window.toggle_row(row)
@@ -90,8 +90,7 @@ class SuiteTestCase(unittest.TestCase):
     # Checks
 
     def assert_arguments(self, suite: Suite, expected: Dict[Application, List[str]]):
-        """Exactly these uninstallers ran, each once, with exactly these arguments, and all have
-        ended by now."""
+        """Exactly these uninstallers ran, each once, with exactly these arguments, and have ended."""
         for application in expected:
             suite.records.wait_for_end(application.id_string)
         self.assert_recorded(suite, {application.id_string: arguments
@@ -104,8 +103,8 @@ class SuiteTestCase(unittest.TestCase):
             for application in applications})
 
     def assert_recorded(self, suite: Suite, expected: Dict[str, List[str]]):
-        """Exactly these programs have begun, by their names in the records, each once, with
-        exactly these arguments."""
+        """Exactly these programs have started, each once, with exactly these arguments. The keys are
+        their names in the records."""
         for name in expected:
             suite.records.wait_for_begin(name)
         self.assertEqual({name: [run.arguments for run in suite.records.runs(name)]
@@ -113,15 +112,22 @@ class SuiteTestCase(unittest.TestCase):
                          {name: [arguments] for name, arguments in expected.items()})
 
     def assert_log(self, suite: Suite, expected: List[str]):
-        """The program's messages of the main form, all of them, in order."""
+        """These are all of the program's main form messages, in order."""
         messages = [message for message in suite.log() if message.category == "MainForm"]
         self.assertEqual([message.text for message in messages], expected)
         self.assertEqual({(message.level, message.source) for message in messages},
                          {(6, "ui/uninstall/src/widget")})
 
+    def assert_selective_log(self, suite: Suite, *applications: Application):
+        """The program was started once and ran a selective run over these applications."""
+        removals = [line for application in applications
+                    for line in suite.removal_log(application)]
+        self.assert_log(suite, [*START_OF_LOG, "--> uninstallButtonClicked", *removals,
+                                "~Widget()"])
+
     def assert_removed(self, suite: Suite, application: Application, with_settings: bool):
-        """Once its uninstaller has ended, nothing is left of its program; its settings are, unless
-        they were to go too."""
+        """Once its uninstaller has ended, its program folder is gone, and its settings are gone only
+        if `with_settings`."""
         suite.records.wait_for_end(application.id_string)
         self.assertFalse(suite.folder(application).exists(), application.folder)
         self.assertEqual(suite.settings_folder(application).exists(), not with_settings)

@@ -42,7 +42,7 @@ def _argument(line: str, position: int) -> Tuple[str, int]:
                 text += line[position]
                 position += 1
             continue
-        # Before a quote every two backslashes are one; an odd one makes the quote a character.
+        # Before a quote two backslashes mean one; an odd backslash makes the quote a character.
         text += "\\" * (backslashes // 2)
         position += 1
         if backslashes % 2 == 1:

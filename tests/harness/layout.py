@@ -1,4 +1,4 @@
-"""Where the tree keeps what the harness needs."""
+"""Paths in the source and build trees."""
 
 import os
 from pathlib import Path

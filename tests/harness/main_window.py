@@ -1,23 +1,24 @@
-"""The program's main window, used as a person does: looked at and clicked."""
+"""The program's main window, read from its picture and used by mouse and keyboard."""
 
 from typing import List, NamedTuple
 
 from tests.harness.screen import Picture, Window
 from tests.harness.waiting import wait_until
 
-# Fixed by the form: the window has one size, and the controls' places follow from it.
+# The form fixes the window's size and so the positions of its controls.
 _WIDTH, _HEIGHT = 379, 305
 _UNINSTALL = (317, 276)
 _SELECT = (210, 276)
-_REST = (60, 276)  # nothing is there
+_REST = (60, 276)  # an empty place for the mouse
 _LIST_LEFT, _LIST_TOP, _LIST_BOTTOM = 14, 13, 203
 _BELOW_LIST = 210
 _DELETE_BOTTOM = 245
-# As many rows as the list shows whole, without scrolling.
+# Rows that the list shows completely without scrolling.
 VISIBLE_ROWS = 10
 _BOX_COLUMNS = 30  # check boxes begin left of this
 
-# A check box is a frame of 13 points whose corners are rounded, with a dark tick inside.
+# A check box is a frame of 13 points with rounded corners and a dark tick inside. The limits are of
+# brightness; rounded corners shorten the straight part of a side.
 _FRAME_LIMIT = 0xC8
 _TICK_LIMIT = 0x60
 _BOX_SIZE = 13
@@ -31,7 +32,7 @@ class CheckBox(NamedTuple):
 
 
 def _vertical_lines(picture: Picture, x: int, top: int, bottom: int) -> List[int]:
-    """Where in the column a line as long as a check box's side begins."""
+    """The rows in which column `x` has a line as long as a check box's side."""
     starts = []
     y = top
     while y < bottom:
@@ -45,7 +46,7 @@ def _vertical_lines(picture: Picture, x: int, top: int, bottom: int) -> List[int
 
 
 def find_check_boxes(picture: Picture, left: int, top: int, bottom: int) -> List[CheckBox]:
-    """The whole check boxes of the first column of them, from the top down."""
+    """The completely visible check boxes of the leftmost column that has any, from the top down."""
     for x in range(left, _BOX_COLUMNS):
         right = x + _BOX_SIZE - 1
         boxes = []
@@ -61,7 +62,7 @@ def find_check_boxes(picture: Picture, left: int, top: int, bottom: int) -> List
 
 
 class MainWindow:
-    """Rows are counted from 0; only those that the list shows whole can be used."""
+    """Rows are counted from 0; only completely visible ones can be used."""
 
     def __init__(self, window: Window):
         self.window = window
@@ -80,7 +81,7 @@ class MainWindow:
         return wait_until(found, "the box 'Delete settings and history' is not shown")[0]
 
     def settled_picture(self) -> Picture:
-        """The window once two looks at it show the same; the mouse is out of the way."""
+        """A picture of the window, once two in a row are the same; the mouse is out of the way."""
         self.window.move_mouse(*_REST)
         seen = [self._picture()]
 
@@ -113,7 +114,7 @@ class MainWindow:
                    f"row {row} did not change its state")
 
     def press_in_list(self, *keys: str) -> None:
-        """Gives the list the keyboard by a click on a row's text, and presses keys there."""
+        """Focuses the list by a click on a row's text, and presses keys."""
         box = wait_until(self._rows, "no row is shown")[0]
         self.window.click(box.x + _BOX_COLUMNS, box.y)
         self.window.press(*keys)
@@ -132,7 +133,7 @@ class MainWindow:
         self.window.move_mouse(*_REST)
 
     def select_all(self) -> None:
-        """Presses "Select all" and waits until everything, the delete box too, is checked."""
+        """Presses "Select all" and waits until all boxes, including the delete box, are checked."""
         rows = len(self._rows())
         self.press_select_button()
         self.wait_for_checked_rows([True] * rows)

@@ -10,15 +10,15 @@ from typing import Dict, Optional, Sequence, Union
 
 from tests.harness import layout, registry
 
-# No single Windows program that the harness runs to its end takes longer.
+# No Windows program that the harness waits for takes longer.
 RUN_DEADLINE = 120.0
 
 
 class Prefix:
     """Owns the folder: `create` makes it, `destroy` ends its processes and removes it.
 
-    What its programs print goes to a file beside the folder, never to a pipe: Wine's own service
-    processes inherit it, and a reader would wait until they end."""
+    Its programs' output goes to a file beside the folder, never to a pipe: Wine's service processes
+    inherit it, and a reader would wait until they end."""
 
     def __init__(self, folder: Path):
         self.folder = folder
@@ -94,7 +94,7 @@ class Prefix:
     # Registry
 
     def read_registry(self, key: str) -> registry.Tree:
-        """The key and all below it, as {path: {value name: data}}; empty when it is missing."""
+        """The key and all keys below it; empty when it is missing."""
         name = f"export-{uuid.uuid4().hex}.reg"
         self.run("regedit", "/E", f"C:\\{name}", key)
         exported = self.drive / name

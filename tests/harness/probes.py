@@ -1,5 +1,5 @@
-"""Programs that stand in for uninstallers in registered commands: one that works, and those that go
-wrong (tests/e2e/faults)."""
+"""Substitutes for uninstallers in registered commands: one that works, and some that fail
+(tests/e2e/faults)."""
 
 import shutil
 from pathlib import Path
@@ -31,21 +31,21 @@ def _target(prefix: Prefix, name: str) -> Path:
 
 
 def place_working(prefix: Prefix, name: str) -> str:
-    """Records its arguments and ends. Returns its Windows path."""
+    """A program that records its arguments and ends. Returns its Windows path."""
     shutil.copy(layout.ARGUMENT_RECORDER, _target(prefix, name))
     return path(name)
 
 
 def place_misbehaving(prefix: Prefix, name: str) -> None:
-    """Does what its name says (misbehaving_uninstaller.cpp)."""
+    """A program that misbehaves as its name says (misbehaving_uninstaller.cpp)."""
     shutil.copy(MISBEHAVING, _target(prefix, name))
 
 
 def place_elevated(prefix: Prefix, name: str) -> None:
-    """May only be started by an administrator."""
+    """A program that only an administrator may start."""
     shutil.copy(ELEVATED, _target(prefix, name))
 
 
 def place_text(prefix: Prefix, name: str) -> None:
-    """Is no program."""
+    """A text file instead of a program."""
     _target(prefix, name).write_text("not a program\n")

@@ -17,7 +17,7 @@ def find(prefix: Prefix, program: Union[str, PureWindowsPath]) -> List[int]:
                     and owner in process.joinpath("environ").read_bytes().split(b"\0")):
                 found.append(int(process.name))
         except OSError:
-            continue  # it has just ended, or is another user's
+            continue  # it has just ended, or belongs to another user
     return found
 
 

@@ -1,4 +1,4 @@
-"""What the sample uninstallers wrote about themselves (tests/sample_suite/records.nsh)."""
+"""Reads the records of the sample uninstallers (tests/sample_suite/records.nsh)."""
 
 from dataclasses import dataclass
 from pathlib import Path
@@ -25,11 +25,11 @@ class Records:
         self.folder: Path = prefix.unix_path(FOLDER)
 
     def recorded(self) -> List[str]:
-        """The id strings of the applications whose uninstaller has run at all."""
+        """The id strings of the applications whose uninstaller has started."""
         return sorted(path.stem for path in self.folder.glob("*.txt"))
 
     def runs(self, id_string: str) -> List[Run]:
-        """Every run so far, oldest first. A line that is only half written is not read."""
+        """Every run so far, oldest first. An incomplete last line is ignored."""
         path = self.folder / f"{id_string}.txt"
         if not path.exists():
             return []
@@ -45,7 +45,7 @@ class Records:
         return found
 
     def wait_for_begin(self, id_string: str, seconds: float = PATIENCE) -> Run:
-        """Waits until the first run has told its arguments."""
+        """Waits until the first run has recorded its arguments."""
         def begun() -> Optional[Run]:
             runs = self.runs(id_string)
             return runs[0] if runs else None
@@ -59,6 +59,6 @@ class Records:
         return wait_until(ended, f"the uninstaller of {id_string} has not ended", seconds)
 
     def release(self, id_string: str) -> None:
-        """Lets an uninstaller that holds go on."""
+        """Lets an uninstaller whose removal holds continue."""
         self.folder.mkdir(exist_ok=True)
         (self.folder / f"{id_string}.release").touch()

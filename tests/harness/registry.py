@@ -23,14 +23,14 @@ class Value:
 
 
 class Tree(Dict[str, Dict[str, Data]]):
-    """{key: {value name: data}}; a key that is missing reads as one without values."""
+    """{key: {value name: data}}; a missing key reads as one without values."""
 
     def __missing__(self, key: str) -> Dict[str, Data]:
         return {}
 
 
 def text_bytes(*texts: str) -> bytes:
-    """The raw data of a text value (one text) or of a multiple-text value (several and "")."""
+    """The raw data of a text value (one text) or of a multi-text value (several, then "")."""
     return b"".join(text.encode("utf-16-le") + b"\0\0" for text in texts)
 
 
@@ -56,6 +56,8 @@ def serialise(values: Iterable[Value]) -> str:
     return "\r\n".join(lines) + "\r\n"
 
 
+# The lines of an export: "[key]" and "name"=data, where @ is the default value's name. Backslashes
+# escape quotes and themselves. Data is a quoted text, dword:..., hex:... or hex(type):...
 _KEY = re.compile(r"\[(.*)\]$")
 _VALUE = re.compile(r'(?:@|"((?:[^"\\]|\\.)*)")=(.*)$', re.DOTALL)
 _TEXT = re.compile(r'"((?:[^"\\]|\\.)*)"$', re.DOTALL)

@@ -1,6 +1,6 @@
-"""The X screen: its windows, the person's mouse and keyboard, and pictures.
+"""The X screen: windows, mouse, keyboard and pictures.
 
-Positions are relative to the window: under a window manager absolute ones are misreported.
+Positions are relative to the window, since xdotool misreports absolute ones under a window manager.
 """
 
 import subprocess
@@ -10,12 +10,12 @@ from typing import Callable, List, Optional, Sequence
 
 from tests.harness.waiting import Timeout, wait_until
 
-# No single call of a screen tool takes longer.
+# No call of a screen tool takes longer.
 _TOOL_DEADLINE = 30.0
 
 
 def _xdotool(*arguments: str) -> Optional[str]:
-    """The tool's output; None when it fails, as it does for a window that has just gone."""
+    """The tool's output; None when it fails, for instance because the window is gone."""
     result = subprocess.run(["xdotool", *arguments], stdout=subprocess.PIPE,
                             stderr=subprocess.DEVNULL, text=True, timeout=_TOOL_DEADLINE,
                             check=False)
@@ -35,7 +35,7 @@ class Picture:
 
 @dataclass(frozen=True)
 class Window:
-    """One top-level window by its X id. It may go at any time."""
+    """One top-level window by its X id. It may close at any time."""
     identifier: str
 
     @property
@@ -53,14 +53,13 @@ class Window:
         _xdotool("mousemove", "--window", self.identifier, str(x), str(y))
 
     def press(self, *keys: str) -> None:
-        """Presses keys as xdotool names them (Return, Escape, alt+F4) while the window has the
-        keyboard."""
+        """Focuses the window and presses keys by xdotool's names (Return, Escape, alt+F4)."""
         self.activate()
         _xdotool("key", "--clearmodifiers", *keys)
 
     def activate(self) -> None:
-        """Brings it forward and waits until it has the keyboard, which a program takes a moment
-        after the window manager has given it; a key pressed in between reaches nobody."""
+        """Brings the window forward and waits until it has the keyboard focus, which a program takes
+        only some time after it becomes active; keys pressed in between are lost."""
         def active() -> bool:
             if all((_xdotool(command) or "").strip() == self.identifier
                    for command in ("getactivewindow", "getwindowfocus")):
@@ -71,7 +70,7 @@ class Window:
 
     def picture(self) -> Picture:
         data = _import("-window", self.identifier, "-colorspace", "Gray", "-depth", "8", "pgm:-")
-        # "P5 <width> <height> 255" and one white-space byte, then the points.
+        # The format is "P5 <width> <height> 255", one white-space byte, then the points.
         kind, width, height, _, = data.split(maxsplit=4)[:4]
         assert kind == b"P5", kind
         size = int(width) * int(height)
@@ -82,7 +81,7 @@ class Window:
         _import("-window", self.identifier, "-frame", str(file))
 
 
-# What a person does about a window.
+# A reaction to a window.
 Answer = Callable[[Window], None]
 
 

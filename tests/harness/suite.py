@@ -26,18 +26,26 @@ SURVEY_TITLE = "Uninstall .+"
 OFFER_TITLE = "Tessera (Clip|Track) Saver"
 WARNING_TITLE = "Uninstallation"
 
-# What an uninstaller receives after its log switch in a selective run.
+# The switches after the log switch in a selective run.
 SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
 
-# What the program logs before its window is used.
+# How long the program waits for an uninstaller, in seconds, and how much shorter or longer the times
+# in its log may make that wait appear on a busy machine.
+UNINSTALLER_WAIT = 2.0
+EARLY, LATE = 0.05, 8.0
+
+# Variables that let the program log more than usual.
+DETAILED_LOG = {"KEELBASE_LOG_LEVEL": "7"}
+
+# The program's messages until its window appears.
 START_OF_LOG = ["-->Widget::Widget()", "Try to fill list widget (runtime brand: Lumacraft)"]
 
-# What a suite in use has in its settings; the place is known, so no survey asks a server for it.
+# The settings of a suite in use. With a known location no survey asks a server for it.
 COMMON_SETTINGS = "EventStatEnabled=0\nLanguage=en\nLocation=US\n"
 
 
 class Suite:
-    """`brand` is what the applications were installed as. Everything ends with the prefix."""
+    """`brand` is the one that the applications are installed under."""
 
     def __init__(self, prefix: Prefix, brand: str = PRODUCT_BRAND):
         self.prefix = prefix
@@ -54,7 +62,7 @@ class Suite:
         self.write_common_settings(COMMON_SETTINGS.encode())
 
     def place_program(self, folder: Optional[PureWindowsPath] = None) -> None:
-        """Puts the program into the suite's folder, or into another one, from then on its own."""
+        """Copies the program to the suite's folder or to `folder`, from where it is then started."""
         self.program_folder = folder or self.program_folder
         target = self.prefix.unix_path(self.program_folder)
         target.mkdir(parents=True, exist_ok=True)
@@ -69,7 +77,7 @@ class Suite:
         """Removes the program folder by hand; what is registered stays."""
         shutil.rmtree(self.folder(application))
 
-    # Where things are
+    # Paths
 
     def windows_folder(self, application: Application) -> PureWindowsPath:
         return PROGRAM_FILES / self.brand / application.folder
@@ -87,7 +95,7 @@ class Suite:
         return f"/log={self.prefix.logs}\\{application.id_string}_uninstall.log"
 
     def removal_log(self, application: Application, mode: str = "selective") -> List[str]:
-        """What the program logs when it starts the application's uninstaller."""
+        """The program's messages when it starts the application's uninstaller."""
         return [f"--> DoUninsstall: {mode}", f"DoUninsstall: {self.uninstaller(application)}"]
 
     def uninstall_log(self, application: Application) -> Path:
@@ -102,7 +110,7 @@ class Suite:
         return sorted(self.registry()[f"{SUITE_KEY}\\{LIST_NAMES[self.brand]}"])
 
     def log(self) -> List[log_file.Message]:
-        """The program's own log, of all its runs; empty before it has written one."""
+        """The program's log of all its runs; empty while there is none."""
         file = self.prefix.unix_path(self.prefix.logs / "Uninstall.log")
         return log_file.read(file) if file.exists() else []
 
@@ -113,18 +121,18 @@ class Suite:
 
     def start_program(self, *arguments: str, environment: Optional[Dict[str, str]] = None,
                       folder: Optional[Path] = None) -> "RunningProgram":
-        """`folder` is to be the program's current one."""
+        """`folder` becomes the program's current folder."""
         return RunningProgram(self, arguments, environment, folder)
 
 
 class RunningApplication:
-    """An application of the suite while the person uses it."""
+    """A running application of the suite."""
 
     def __init__(self, suite: Suite, application: Application):
         self.application = application
         self.process = suite.prefix.start(suite.folder(application) / application.process_name,
                                           stdout=subprocess.PIPE, text=True)
-        # The line comes once the application holds its mutex; an early end reads as no line.
+        # The application prints the line once it holds its mutex.
         line = self.process.stdout.readline().strip()
         if line != "ready":
             raise AssertionError(f"{application.process_name} said {line!r}")
@@ -137,7 +145,7 @@ class RunningApplication:
         wait_until(lambda: not self.running, f"{self.application.process_name} still runs")
 
     def stop(self) -> None:
-        """Closes it from here; also what must be called when it has ended by itself."""
+        """Ends it. Must also be called when it has ended by itself."""
         self.process.terminate()
         self.process.wait(PATIENCE)
         self.process.stdout.close()
@@ -163,9 +171,9 @@ class RunningProgram:
 
     def attend(self, answers: Dict[str, screen.Answer],
                meanwhile: Callable[[], None] = lambda: None) -> List[str]:
-        """Answers windows until the program has ended. `answers` tells what to do with a window by
-        its title (a regular expression), so that it closes; `meanwhile` is called again and again.
-        Returns the titles answered, in order."""
+        """Answers windows until the program has ended. `answers` maps titles (regular expressions)
+        to reactions that close such a window; `meanwhile` is called repeatedly. Returns the titles
+        answered, in order."""
         answered: List[str] = []
 
         def gone(window: screen.Window) -> Callable[[], bool]:
@@ -183,11 +191,11 @@ class RunningProgram:
         return answered
 
     def press_escape_on_surveys(self) -> List[str]:
-        """Sees the run to its end; declines to say why the applications go."""
+        """Closes every survey without an answer until the program has ended."""
         return self.attend({SURVEY_TITLE: screen.pressing("Escape")})
 
     def exit_code(self) -> int:
-        """Waits for the end."""
+        """Waits for the program's end."""
         try:
             return self.process.wait(PATIENCE)
         except subprocess.TimeoutExpired as error:

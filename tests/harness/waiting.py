@@ -5,14 +5,14 @@ from typing import Callable, TypeVar
 
 Result = TypeVar("Result")
 
-# Long enough for a heavily loaded machine; only a failing test ever waits that long.
+# Long enough for a heavily loaded machine; only failing tests wait that long.
 PATIENCE = 40.0
-# Between two looks at a condition that nothing announces.
+# Between two checks of a condition that no event announces.
 INTERVAL = 0.02
 
 
 class Timeout(AssertionError):
-    """Something that had to happen did not happen in time."""
+    """A condition was not met in time."""
 
 
 def wait_until(condition: Callable[[], Result], what: str, seconds: float = PATIENCE) -> Result:

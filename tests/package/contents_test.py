@@ -1,4 +1,4 @@
-"""What is in the packages."""
+"""The contents of the packages."""
 
 import hashlib
 import json
@@ -8,11 +8,12 @@ import subprocess
 import zipfile
 from pathlib import Path
 
-from tests.package.packing import BUILD, REPOSITORY, ScratchTestCase, only, pack, unpack
+from tests.harness.layout import BUILD, PROGRAM, REPOSITORY
+from tests.package.packing import ScratchTestCase, only, pack, unpack
 
 TABLE = json.loads((REPOSITORY / "packaging" / "components.json").read_text(encoding="utf-8"))
 
-# Members of an import library, which hold addresses of a Windows DLL and no code of their own.
+# Members of MinGW's import libraries, which hold no code: lib<name>s00012.o, ...h.o and ...t.o.
 IMPORT_MEMBER = re.compile(r"lib\w+?(s\d{5}|[ht])\.o")
 
 
@@ -37,8 +38,7 @@ class Package(ScratchTestCase):
         self.assertEqual(sorted(file.name for file in folder.iterdir()),
                          ["LICENSE.txt", "SHA256SUMS", "THIRD-PARTY-NOTICES.txt", "Uninstall.exe",
                           "components.cdx.json", "licences"])
-        self.assertEqual((folder / "Uninstall.exe").read_bytes(),
-                         (BUILD / "Uninstall.exe").read_bytes())
+        self.assertEqual((folder / "Uninstall.exe").read_bytes(), PROGRAM.read_bytes())
         self.assertEqual(text_of(folder / "LICENSE.txt"),
                          (REPOSITORY / "LICENSE").read_text(encoding="utf-8"))
 
@@ -64,15 +64,14 @@ class Package(ScratchTestCase):
                     self.assertEqual(stat.filemode(entry.external_attr >> 16),
                                      "-rwxr-xr-x" if executable else "-rw-r--r--", entry.filename)
 
-    def test_is_dated_by_the_last_commit_when_nothing_else_is_asked_for(self):
+    def test_is_dated_by_the_last_commit_by_default(self):
         committed = subprocess.run(["git", "log", "-1", "--format=%ct"], cwd=REPOSITORY, text=True,
                                    stdout=subprocess.PIPE, check=True).stdout.strip()
-        for environment in ({"SOURCE_DATE_EPOCH": None}, {"SOURCE_DATE_EPOCH": committed}):
-            output = self.scratch / f"dated{len(environment)}{environment['SOURCE_DATE_EPOCH']}"
-            self.assert_packed(pack(output, environment=environment))
-        first, second = sorted(self.scratch.glob("dated*"))
-        self.assertEqual((first / "SHA256SUMS").read_bytes(),
-                         (second / "SHA256SUMS").read_bytes())
+        by_default, by_commit = self.scratch / "by default", self.scratch / "by commit"
+        self.assert_packed(pack(by_default, environment={"SOURCE_DATE_EPOCH": None}))
+        self.assert_packed(pack(by_commit, environment={"SOURCE_DATE_EPOCH": committed}))
+        self.assertEqual((by_default / "SHA256SUMS").read_bytes(),
+                         (by_commit / "SHA256SUMS").read_bytes())
 
     def test_names_every_component_with_version_licence_and_text(self):
         folder = self.unpacked()
@@ -114,7 +113,7 @@ class Package(ScratchTestCase):
                     for reference in entry["dependsOn"]}
         self.assertEqual(depended, set(entries))
 
-    def test_relinks_to_the_same_program_from_which_the_notices_leave_nothing_out(self):
+    def test_relinks_to_the_same_program_and_accounts_for_all_linked_code(self):
         folder = unpack(self.relink, self.scratch / "with blanks" / "relink")
         self.assertIn("qtbase-opensource-src=5.", text_of(folder / "README.txt"))
         linker = self.scratch / "linker"
@@ -123,17 +122,16 @@ class Package(ScratchTestCase):
         linker.chmod(0o755)
         prefix = re.search(r"^Qt5_DIR:PATH=(.*)/lib/cmake/Qt5$",
                            (BUILD / "CMakeCache.txt").read_text(encoding="utf-8"), re.MULTILINE)[1]
-        told = subprocess.run([folder / "relink.sh", prefix], text=True, check=True,
-                              env={"CXX": linker, "PATH": "/usr/bin:/bin"},
-                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout
-        self.assertTrue((folder / "Uninstall.exe").read_bytes() ==
-                        (BUILD / "Uninstall.exe").read_bytes())
+        output = subprocess.run([folder / "relink.sh", prefix], text=True, check=True,
+                                env={"CXX": linker, "PATH": "/usr/bin:/bin"},
+                                stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout
+        self.assertTrue((folder / "Uninstall.exe").read_bytes() == PROGRAM.read_bytes())
 
-        # The linker's own account of what it took from which archive, and of what it kept of that.
+        # The linker reports which members of which archives it loaded; its map, which it kept.
         linked = (self.scratch / "map").read_text(encoding="utf-8", errors="replace")
         kept = set(re.findall(r" {9}(\S+):\(", linked))
         members = {(Path(archive).name, member) for archive, member in
-                   re.findall(r": Loaded (\S+\.a)\((\S+)\) for ", told) if member in kept}
+                   re.findall(r": Loaded (\S+\.a)\((\S+)\) for ", output) if member in kept}
         self.assertGreater(len(members), 500)
         with zipfile.ZipFile(self.main) as packed:
             document = json.loads(packed.read(only_name(packed, "components.cdx.json")))
@@ -144,9 +142,9 @@ class Package(ScratchTestCase):
                        if archive not in accounted | own
                        and not IMPORT_MEMBER.fullmatch(member)}
         self.assertEqual(unaccounted, set())
-        taken = {f"{archive}({member})" for archive, member in members}
+        linked_members = {f"{archive}({member})" for archive, member in members}
         self.assertEqual([part["name"] for part in TABLE["inside Qt"]["parts"]
-                          if part["member"] not in taken], [])
+                          if part["member"] not in linked_members], [])
 
 
 def only_name(packed: zipfile.ZipFile, end: str) -> str:
@@ -155,13 +153,13 @@ def only_name(packed: zipfile.ZipFile, end: str) -> str:
 
 class Packaging(ScratchTestCase):
 
-    def test_without_a_build_says_so(self):
+    def test_fails_without_a_build(self):
         result = pack(self.scratch / "out", build=self.scratch)
         self.assertEqual(result.returncode, 1)
         self.assertEqual(result.stdout, f"package: {self.scratch} holds no built program; "
                                         "run \"make build\" first\n")
 
-    def test_stops_at_a_date_that_a_zip_cannot_hold(self):
+    def test_fails_at_a_date_that_a_zip_cannot_hold(self):
         for date, complaint in (("5", "before 1980"), ("soon", "set SOURCE_DATE_EPOCH")):
             result = pack(self.scratch / "out", environment={"SOURCE_DATE_EPOCH": date})
             self.assertEqual(result.returncode, 1)

@@ -1,25 +1,25 @@
-"""What Windows does before the program's first instruction: which libraries it loads, what it must
-find in them, and how it protects the program."""
+"""The program's headers: imported libraries and functions, requested rights, and protections."""
 
 import re
 import subprocess
 import unittest
 
-from tests.package.packing import BUILD
+from tests.harness.layout import PROGRAM
 from tests.package.portable_executable import Program
 
 # Listed under "KnownDLLs" in the registry of Windows 7, 8.1, 10 and 11 (HKLM\\SYSTEM\\
-# CurrentControlSet\\Control\\Session Manager\\KnownDLLs): these are always the system's own,
-# whatever lies beside the program.
+# CurrentControlSet\\Control\\Session Manager\\KnownDLLs): always the system's own, whatever lies
+# beside the program.
 ALWAYS_THE_SYSTEMS = {"advapi32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll", "user32.dll"}
 
-# Together they declare all that the program imports.
+# Together they declare everything that the program imports.
 HEADERS = ["winsock2.h", "ws2tcpip.h", "windows.h", "aclapi.h", "bcrypt.h", "commctrl.h",
-           "commdlg.h", "dwmapi.h", "imm.h", "lm.h", "mmsystem.h", "ntsecapi.h", "ole2.h", "oleauto.h", "rpc.h",
-           "shellapi.h", "shlobj.h", "userenv.h", "uxtheme.h", "wincrypt.h", "winver.h",
-           "wtsapi32.h"]
+           "commdlg.h", "dwmapi.h", "imm.h", "lm.h", "mmsystem.h", "ntsecapi.h", "ole2.h",
+           "oleauto.h", "rpc.h", "shellapi.h", "shlobj.h", "userenv.h", "uxtheme.h", "wincrypt.h",
+           "winver.h", "wtsapi32.h"]
 WINDOWS_7 = "0x0601"
-# Declared for all, though Windows 8 brought it.
+WINDOWS_10 = "0x0A00"
+# New in Windows 8, but declared for all versions.
 WRONGLY_DECLARED = {"GetSystemTimePreciseAsFileTime"}
 
 
@@ -33,24 +33,22 @@ def declared_for(version: str) -> str:
 
 
 def names_in(text: str) -> set:
-    return set("".join(letter if letter.isalnum() or letter == "_" else " "
-                       for letter in text).split())
+    return set(re.findall(r"\w+", text))
 
 
 class Imports(unittest.TestCase):
 
     def setUp(self):
-        self.program = Program(BUILD / "Uninstall.exe")
+        self.program = Program(PROGRAM)
 
-    def test_that_are_loaded_with_the_program_are_always_the_systems_own(self):
+    def test_at_the_start_come_only_from_system_libraries(self):
         self.assertEqual(set(self.program.imports()), ALWAYS_THE_SYSTEMS)
         self.assertTrue({"bcrypt.dll", "crypt32.dll", "userenv.dll", "dwmapi.dll"} <=
                         set(self.program.delayed_imports()))
 
     def test_exist_on_windows_7(self):
-        # By the compiler's headers, which declare newer functions for newer versions only. The C
-        # library's functions are not looked at: msvcrt.dll has got none since Windows 7 that the
-        # compiler's libraries use.
+        # The compiler's headers declare newer functions only for newer versions. The C library is
+        # left out: its functions are not declared by version.
         known = names_in(declared_for(WINDOWS_7)) - WRONGLY_DECLARED
         imported = [*self.program.imports().items(), *self.program.delayed_imports().items()]
         newer = [f"{library}: {name}" for library, names in imported if library != "msvcrt.dll"
@@ -58,8 +56,8 @@ class Imports(unittest.TestCase):
         self.assertGreater(sum(len(names) for _, names in imported), 300)
         self.assertEqual(newer, [])
 
-    def test_headers_tell_old_functions_from_new_ones(self):
-        known, later = names_in(declared_for(WINDOWS_7)), names_in(declared_for("0x0A00"))
+    def test_are_checked_by_headers_that_distinguish_versions(self):
+        known, later = names_in(declared_for(WINDOWS_7)), names_in(declared_for(WINDOWS_10))
         for name in ("CreateFile2", "GetDpiForWindow", "GetFirmwareType", "GetPointerInfo"):
             self.assertTrue(name in later and name not in known, name)
 
@@ -67,16 +65,15 @@ class Imports(unittest.TestCase):
 class Rights(unittest.TestCase):
 
     def test_are_the_highest_that_the_user_has(self):
-        # An administrator's uninstallers below Program Files start; a standard user is not asked.
-        manifest = (BUILD / "Uninstall.exe").read_bytes()
-        self.assertEqual(re.findall(rb'requestedExecutionLevel level="(\w+)"', manifest),
+        # An administrator can start every uninstaller; a standard user is not asked.
+        self.assertEqual(re.findall(rb'requestedExecutionLevel level="(\w+)"', PROGRAM.read_bytes()),
                          [b"highestAvailable"])
 
 
 class Protections(unittest.TestCase):
 
-    def test_random_addresses_of_64_bits_and_no_execution_of_data(self):
-        self.assertEqual(Program(BUILD / "Uninstall.exe").protections(),
+    def test_are_random_64_bit_addresses_and_no_execution_of_data(self):
+        self.assertEqual(Program(PROGRAM).protections(),
                          ["high entropy", "dynamic base", "no execution of data"])
 
 

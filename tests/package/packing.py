@@ -1,4 +1,4 @@
-"""Runs tools/package/package for a test, and unpacks what it made."""
+"""Runs tools/package/package for tests, and unpacks its results."""
 
 import os
 import shutil
@@ -9,15 +9,15 @@ import zipfile
 from pathlib import Path
 from typing import Dict, Optional
 
-REPOSITORY = Path(__file__).resolve().parents[2]
-BUILD = Path(os.environ.get("TESSERA_BUILD_DIR", REPOSITORY / "build" / "windows"))
+from tests.harness.layout import BUILD, REPOSITORY
+
 SOURCE_DATE = 1767323045  # 2026-01-02 03:04:05 UTC
 DEADLINE = 300
 
 
 def pack(output: Path, build: Path = BUILD, repository: Path = REPOSITORY,
          environment: Optional[Dict[str, str]] = None) -> subprocess.CompletedProcess:
-    """The finished call; `environment` is added to, or with None as a value taken from, ours."""
+    """Returns the finished process. `environment` changes variables of ours; None removes one."""
     merged = {**os.environ, "SOURCE_DATE_EPOCH": str(SOURCE_DATE), "TESSERA_SIGN_COMMAND": "",
               **(environment or {})}
     return subprocess.run(
@@ -33,12 +33,12 @@ def only(folder: Path, pattern: str) -> Path:
 
 
 def unpack(archive: Path, folder: Path) -> Path:
-    """As a person would; returns the one folder that is in the archive."""
+    """Returns the one folder that the archive holds."""
     folder.mkdir(parents=True, exist_ok=True)
     with zipfile.ZipFile(archive) as packed:
         packed.extractall(folder)
         names = {name.split("/")[0] for name in packed.namelist()}
-        # ZipFile leaves the permissions out.
+        # ZipFile ignores the permissions.
         for entry in packed.infolist():
             (folder / entry.filename).chmod(entry.external_attr >> 16 & 0o777)
     assert len(names) == 1, names

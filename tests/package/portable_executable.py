@@ -1,4 +1,4 @@
-"""What the headers of a 64-bit Windows program tell about it."""
+"""Reads the headers of a 64-bit Windows program."""
 
 import struct
 from pathlib import Path
@@ -60,11 +60,11 @@ class Program:
         return names
 
     def imports(self) -> Dict[str, List[str]]:
-        """Libraries in lower case that are loaded with the program, and their functions."""
+        """The functions imported at the program's start, by library in lower case."""
         return {self._text(fields[3]).lower(): self._functions(fields[0])
                 for fields in self._descriptors(_IMPORTS, 20)}
 
     def delayed_imports(self) -> Dict[str, List[str]]:
-        """The same of libraries that are loaded when they are first used."""
+        """The same for libraries that are loaded on first use."""
         return {self._text(fields[1]).lower(): self._functions(fields[4])
                 for fields in self._descriptors(_DELAYED, 32)}

@@ -1,4 +1,4 @@
-"""The packaged program, unpacked where people unpack things."""
+"""The packaged program, unpacked into a download folder."""
 
 from pathlib import PureWindowsPath
 
@@ -7,7 +7,7 @@ from tests.harness.suite import START_OF_LOG
 from tests.package.packing import only, pack, unpack
 from tests.sample_suite.applications import AWKWARD_FOLDER, PARTNER, SECOND_RUNNING
 
-# Blanks, a German letter, an en dash and Chinese letters: the last two are in no common ANSI page.
+# A blank, German letters, an en dash and Chinese letters: no ANSI code page has all of them.
 FOLDER = PureWindowsPath("C:/users/Public/Größere Downloads – 卸载")
 
 

@@ -1,4 +1,4 @@
-"""The same sources give the same package, whichever folder they are built in and when."""
+"""The same sources give the same packages, wherever and whenever they are built."""
 
 import os
 import re
@@ -7,10 +7,11 @@ import subprocess
 import zipfile
 from pathlib import Path
 
-from tests.package.packing import BUILD, REPOSITORY, ScratchTestCase, pack
+from tests.harness.layout import BUILD, PROGRAM, REPOSITORY
+from tests.package.packing import ScratchTestCase, pack
 
-# What the first build was configured with beyond the preset; the tests and measurements are no
-# part of the program.
+# Lines of CMakeCache.txt with settings of the first build beyond the preset that may change the
+# program: ours, except those of the measurements, and the compiler's flags.
 _SETTING = re.compile(r"^((?:TESSERA_(?!BENCH)|CMAKE_(?:BUILD_TYPE|\w*_FLAGS|INTERPROCEDURAL)).*?)"
                       r":(\w+)=(.*)$", re.MULTILINE)
 _PLACE = BUILD / "another place"
@@ -22,10 +23,8 @@ def settings_of(build: Path, pattern: re.Pattern):
 
 
 class SecondBuild(ScratchTestCase):
-    """The first build is the one under test. The second is made here from a copy of the sources,
-    in a folder with another name, at another time, and without what a compiler cache may hold of
-    the first: it has one of its own, to which only second builds in this folder contribute. So
-    every object was compiled here, though not again when nothing that went into it has changed."""
+    """The first build is the one under test. The second is made here from a copy of the sources in
+    another folder. It has its own compiler cache, so that no object of the first build is reused."""
 
     def copy_sources(self) -> Path:
         copy = _PLACE / "uninstaller sources"
@@ -37,7 +36,7 @@ class SecondBuild(ScratchTestCase):
         for name in names.rstrip("\0").split("\0"):
             if (REPOSITORY / name).is_file():
                 (copy / name).parent.mkdir(parents=True, exist_ok=True)
-                # With today's times: those of a fresh clone are not those of this tree either.
+                # Without the times, as in a fresh clone.
                 shutil.copyfile(REPOSITORY / name, copy / name)
                 shutil.copymode(REPOSITORY / name, copy / name)
         return copy
@@ -58,7 +57,7 @@ class SecondBuild(ScratchTestCase):
 
     @staticmethod
     def contents(file: Path):
-        """What can be read in a report of differences."""
+        """In a form whose differences can be read in a report."""
         if file.suffix != ".zip":
             return file.read_text(encoding="utf-8")
         with zipfile.ZipFile(file) as packed:
@@ -74,9 +73,9 @@ class SecondBuild(ScratchTestCase):
         self.assert_packed(pack(first))
         self.assert_packed(pack(second, build, sources))
 
-        # The programs first: their difference explains all others.
-        self.assertTrue((build / "Uninstall.exe").read_bytes() ==
-                        (BUILD / "Uninstall.exe").read_bytes(), "the programs differ")
+        # The programs first: differences of theirs explain all others.
+        program = (build / "Uninstall.exe").read_bytes()
+        self.assertTrue(program == PROGRAM.read_bytes(), "the programs differ")
         names = sorted(file.name for file in first.iterdir())
         self.assertEqual(sorted(file.name for file in second.iterdir()), names)
         self.assertEqual(len(names), 3)
@@ -84,8 +83,7 @@ class SecondBuild(ScratchTestCase):
             self.assertEqual(self.contents(second / name), self.contents(first / name))
             self.assertTrue((first / name).read_bytes() == (second / name).read_bytes(), name)
 
-        # Nothing of where it was built is in the program.
-        program = (build / "Uninstall.exe").read_bytes()
+        # The program names no folder that it was built in.
         for text in (str(sources), str(REPOSITORY)):
             for encoded in (text.encode(), text.encode("utf-16-le")):
                 self.assertNotIn(encoded, program)

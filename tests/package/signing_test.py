@@ -1,15 +1,16 @@
-"""The signing command: what it gets, and what follows from how it ends."""
+"""The signing command: its arguments, its effect, and its failures."""
 
 import hashlib
 import stat
 
-from tests.package.packing import BUILD, ScratchTestCase, only, pack, unpack
+from tests.harness.layout import PROGRAM
+from tests.package.packing import ScratchTestCase, only, pack, unpack
 
 
 class SigningCommand(ScratchTestCase):
 
     def command(self, script: str) -> str:
-        # A blank in its path, and an argument of its own, as such commands have.
+        # With a blank in its path and an argument of its own.
         tool = self.scratch / "signing tool"
         tool.write_text(f"#!/bin/sh\n{script}\n", encoding="utf-8")
         tool.chmod(tool.stat().st_mode | stat.S_IXUSR)
@@ -23,20 +24,20 @@ class SigningCommand(ScratchTestCase):
         return program
 
     def test_changes_the_packed_program_and_its_sum_but_not_the_built_one(self):
-        built = (BUILD / "Uninstall.exe").read_bytes()
+        built = PROGRAM.read_bytes()
         command = self.command('[ "$1" = /sha256 ] && printf signed >>"$2"')
         self.assert_packed(pack(self.scratch / "out",
                                 environment={"TESSERA_SIGN_COMMAND": command}))
         self.assertEqual(self.packed_program(), built + b"signed")
-        self.assertEqual((BUILD / "Uninstall.exe").read_bytes(), built)
+        self.assertEqual(PROGRAM.read_bytes(), built)
 
-    def test_is_not_needed(self):
+    def test_is_optional(self):
         for environment in ({"TESSERA_SIGN_COMMAND": None}, {"TESSERA_SIGN_COMMAND": ""}):
             with self.subTest(environment):
                 self.assert_packed(pack(self.scratch / "out", environment=environment))
-                self.assertEqual(self.packed_program(), (BUILD / "Uninstall.exe").read_bytes())
+                self.assertEqual(self.packed_program(), PROGRAM.read_bytes())
 
-    def test_that_fails_leaves_no_package_not_even_an_older_one(self):
+    def test_leaves_no_package_not_even_an_older_one_when_it_fails(self):
         self.assert_packed(pack(self.scratch / "out"))
         for command, complaint in ((self.command("exit 3"), "ended with code 3"),
                                    (str(self.scratch / "missing"), "cannot be run")):

@@ -9,12 +9,11 @@
 ;   OUTPUT          the installer to make
 ;   KEEPER          when defined: the program installed as Uninst.exe, which runs the NSIS
 ;                   uninstaller (Uninst_core.exe) and stays until that has ended
-;   REMOVAL         "works", "fails" (ends with code 5 and removes nothing) or "holds" (goes on
-;                   only when C:\records\<ID_STRING>.release exists, or after a minute)
+;   REMOVAL         "works", "fails" (ends with code 5 and removes nothing) or "holds" (waits until
+;                   C:\records\<ID_STRING>.release exists, for at most a minute)
 ;
-; The installer's own switches: /S (no windows), /BRAND=Corvane or /BRAND=Lumacraft, which decides
-; the list that the application registers in and the folder it goes to, and /ROOT=<folder>, which
-; replaces the folder that holds the brand's folder.
+; The installer's switches: /S (no windows), /BRAND=Corvane or /BRAND=Lumacraft (decides in which
+; list and folder the application is installed), /ROOT=<folder> (replaces Program Files).
 
 Unicode true
 Target amd64-unicode
@@ -92,7 +91,7 @@ Section
   WriteUninstaller "$INSTDIR\Uninst.exe"
 !endif
 
-  ; What the application itself would leave behind after some use.
+  ; Settings and history, as the application would write them.
   CreateDirectory "${SETTINGS_FOLDER}\${ID_STRING}"
   FileOpen $0 "${SETTINGS_FOLDER}\${ID_STRING}\${ID_STRING}.cfg" w
   FileWrite $0 "InstType=full$\nVersion=${VERSION}$\n"
@@ -105,7 +104,7 @@ Section
   WriteRegStr HKCU "${SUITE_KEY}\$listName" "${DISPLAY_NAME}" \
     "$INSTDIR\Uninst.exe /log=${SETTINGS_FOLDER}\logs\${ID_STRING}_uninstall.log"
   WriteRegStr HKCU "${SUITE_KEY}\AppPaths" "${ID_STRING}" "$INSTDIR"
-  ; The uninstaller finds its brand again here.
+  ; The uninstaller reads its brand from here.
   FileOpen $0 "$INSTDIR\brand.txt" w
   FileWrite $0 "$brand"
   FileClose $0
@@ -113,8 +112,8 @@ SectionEnd
 
 ; -------------------------------------------------------------- uninstaller
 
-; findLogFile: from the parameters in $R0, the value of "/log=", or nothing. With a blank in it the
-; whole switch is in quotes.
+; findLogFile: the value of "/log=" in the parameters in $R0, or nothing. With a blank in it the whole
+; switch is in quotes.
 Function un.findLogFile
   StrCpy $logFile ""
   StrCpy $1 -1
@@ -145,7 +144,7 @@ Function un.findLogFile
   ${Loop}
 FunctionEnd
 
-; The result is 1 when the parameters in $R0 hold the switch, else 0.
+; The result is 1 when the parameters in $R0 contain the switch, else 0.
 !macro switchPresent name result
   ${GetOptions} $R0 "${name}" ${result}
   ${If} ${Errors}
@@ -180,7 +179,7 @@ Function un.onInit
   ${EndIf}
 FunctionEnd
 
-; ${un.log} TEXT: one line in the file that the /log switch names; nothing without the switch.
+; ${un.log} TEXT: adds a line to the file that the /log switch names, if any.
 !macro log text
   ${If} $logFile != ""
     FileOpen $0 "$logFile" a
@@ -223,7 +222,7 @@ Section un.Remove
 !ifndef KEEPER
   Delete "$INSTDIR\Uninst.exe"
 !endif
-  ; The suite's own folder holds the program that started us; it goes as soon as that has ended.
+  ; The suite's own folder holds the program that started us, which can be deleted once it has ended.
   ${If} $isLast == 1
     ${ForEach} $1 1 200 + 1
       Delete "$INSTDIR\Uninstall.exe"

@@ -1,13 +1,12 @@
 """The applications of the sample suite.
 
-Names and ids are those of the suite's catalogue, except for the application that the catalogue
-does not know. Everything else about them (folders, how their removal behaves) is chosen so that
-each stands for one situation that a person's computer can be in.
+Names and ids are from the suite's catalogue, except for UNKNOWN. Folders and behaviour are chosen so
+that each application stands for one situation on a user's computer.
 """
 
 from dataclasses import dataclass
 
-# How an application's uninstaller behaves; application.nsi tells the details.
+# How an application's uninstaller behaves, see application.nsi.
 WORKS = "works"
 FAILS = "fails"
 HOLDS = "holds"
@@ -23,7 +22,7 @@ class Application:
     display_name: str    # the row's text in the window
     folder: str          # below the brand's folder
     removal: str = WORKS
-    stays: bool = False  # the first process of its uninstaller lives until the removal has ended
+    stays: bool = False  # its uninstaller's first process runs until the removal has ended
 
     @property
     def process_name(self) -> str:

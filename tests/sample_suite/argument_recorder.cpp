@@ -1,6 +1,5 @@
-// Stands in for any program that a registered uninstall command may name: it records the command
-// line that it received, in the form that records.nsh describes, under its own file name, and ends.
-// Unlike an NSIS program it takes command lines of any length.
+// Replaces an uninstaller: records its command line under its own file name, in the form that
+// records.nsh describes, and ends. Unlike an NSIS program it takes command lines of any length.
 #include "tests/sample_suite/record_file.h"
 
 int main()

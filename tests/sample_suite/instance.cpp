@@ -1,6 +1,5 @@
-// The running application of the sample suite. Installed as <IdString>.exe it holds the mutex that
-// tells the suite that the application runs, says "ready" on its standard output, and stays until
-// it is ended from outside.
+// An application of the sample suite. Installed as <IdString>.exe it holds the mutex that marks the
+// application as running, prints "ready", and runs until it is ended from outside.
 #include "tests/sample_suite/record_file.h"
 
 #include <cstdio>
@@ -8,7 +7,7 @@
 
 namespace {
 
-// Nothing ends a copy that a test forgot; it leaves by itself.
+// A copy that no test ends must end by itself.
 constexpr DWORD longestLifeMs = 30 * 60 * 1000;
 
 } // namespace

@@ -1,6 +1,6 @@
-; Uninst.exe of the applications whose uninstaller stays until the removal has ended. An NSIS
-; uninstaller by itself moves to the temporary folder, and its first process returns at once; this
-; program runs it in place instead, waits, and passes its exit code on.
+; Uninst.exe of the applications whose uninstaller runs until the removal has ended. A plain NSIS
+; uninstaller copies itself to the temporary folder and its first process ends at once. This program
+; runs it in place, waits, and passes its exit code on.
 ;
 ; Compile-time values: ID_STRING, OUTPUT.
 

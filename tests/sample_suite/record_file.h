@@ -1,6 +1,6 @@
 #pragma once
 
-// What the sample programs write about themselves, in the form that records.nsh describes.
+// The records of the sample programs, in the form that records.nsh describes.
 
 #include <cstdio>
 #include <memory>
@@ -32,7 +32,7 @@ inline std::wstring ownName()
     return name.substr(0, name.find_last_of(L'.'));
 }
 
-// Adds whole lines, each with its line end. Tells on the error stream when that is not possible.
+// Appends whole lines, each with its line end. Prints an error and returns false when that fails.
 inline bool appendToRecord(const std::wstring& lines)
 {
     CreateDirectoryW(recordsFolder, nullptr);
@@ -45,13 +45,13 @@ inline bool appendToRecord(const std::wstring& lines)
     return false;
 }
 
-// The program has begun, with the command line that it was given.
+// To be called at the program's start.
 inline bool recordCommandLine()
 {
     return appendToRecord(std::wstring(L"line\t") + GetCommandLineW() + L"\r\n");
 }
 
-// The program ends now.
+// To be called at the program's end.
 inline bool recordEnd()
 {
     return appendToRecord(L"end\t0\r\n");

@@ -1,13 +1,11 @@
-; What the sample uninstallers tell about themselves, in C:\records\<id string>.txt (UTF-16 text,
-; one line per entry, tab between its fields):
+; The records of the sample uninstallers in C:\records\<id string>.txt: UTF-16 text, one line per
+; entry, tabs between fields. Each run adds
 ;
-;   line <TAB> command line    at the start, exactly as Windows handed it over
-;   end <TAB> exit code
+;   line <TAB> command line    at its start, exactly as Windows passed it
+;   end <TAB> exit code        at its end
 ;
-; A file that several runs wrote holds several such pairs.
-;
-; No plug-in is used here or in the uninstallers. NSIS unpacks plug-ins into a temporary folder whose
-; name two uninstallers can pick at the same moment, and one of them then gives up with a message.
+; No plug-in is used here or in the uninstallers. NSIS unpacks plug-ins into a temporary folder, whose
+; name two uninstallers can choose at the same moment; one of them then fails with a message.
 
 !ifndef RECORDS_NSH
 !define RECORDS_NSH

@@ -1,1 +1,1 @@
-"""Servers on this machine that stand in for the suite's services and for a proxy before them."""
+"""Local servers that replace the suite's services and a proxy before them."""

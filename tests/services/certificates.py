@@ -27,7 +27,7 @@ def _openssl(*arguments: object) -> None:
 
 
 class Authority:
-    """Keeps its files in `folder`, which it makes."""
+    """Keeps its files in `folder`, which it creates."""
 
     def __init__(self, folder: Path, name: str):
         self._folder = folder
@@ -47,8 +47,8 @@ class Authority:
     def server_context(self, hosts: Sequence[str],
                        period: Optional[Tuple[str, str]] = None,
                        revocation_list: Optional[str] = None) -> ssl.SSLContext:
-        """For a TLS server with those names. `period` is (from, to) as YYYYMMDDHHMMSSZ; without
-        it the certificate is good today. `revocation_list` is where revoked ones are told."""
+        """For a TLS server with these names. `period` is (from, to) as YYYYMMDDHHMMSSZ; without it
+        the certificate is valid now. `revocation_list` is the URL of the revocation list."""
         base = self._folder / f"server-{len(list(self._folder.glob('server-*.key')))}"
         key, request, certificate = (base.with_suffix(suffix) for suffix in
                                      (".key", ".csr", ".pem"))

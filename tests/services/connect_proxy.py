@@ -1,4 +1,4 @@
-"""An HTTP proxy that only tunnels, to where the test says each host is."""
+"""An HTTP proxy that only tunnels, to local ports that the test chooses for each host."""
 
 import base64
 import http.client

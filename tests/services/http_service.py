@@ -14,7 +14,7 @@ from tests.services.local_server import LocalServer, reset
 
 @dataclass
 class Received:
-    """One request as it came over the wire."""
+    """One request as it was received."""
     method: str
     target: str
     headers: Message
@@ -22,8 +22,7 @@ class Received:
     at: float
 
 
-# What happens on the connection once a request has been read. The event is set when the service
-# is to end.
+# Called with the connection once a request has been read. The event is set when the service ends.
 Behaviour = Callable[[socket.socket, threading.Event], None]
 
 
@@ -46,14 +45,14 @@ def stall(_, stopping: threading.Event) -> None:
 
 
 def slow_drip(connection: socket.socket, stopping: threading.Event) -> None:
-    """Begins a long answer at once and sends a byte of it now and then."""
+    """Begins a long answer at once and sends one byte of it every 0.2 seconds."""
     connection.sendall(_head(200, "Content-Length: 100000"))
     while not stopping.wait(0.2):
         connection.sendall(b"x")
 
 
 def declared_size(size: int) -> Behaviour:
-    """A long answer that says how long it is."""
+    """A long answer with its length."""
     def behave(connection: socket.socket, _) -> None:
         connection.sendall(_head(200, f"Content-Length: {size}"))
         _send_much(connection, size)
@@ -61,7 +60,7 @@ def declared_size(size: int) -> Behaviour:
 
 
 def undeclared_size(size: int) -> Behaviour:
-    """A long answer that only ends with the connection."""
+    """A long answer without its length: the end of the connection ends it."""
     def behave(connection: socket.socket, _) -> None:
         connection.sendall(_head(200))
         _send_much(connection, size)
@@ -104,7 +103,7 @@ class HttpService(LocalServer):
             return list(self._received)
 
     def wait_for(self, count: int, seconds: float = 60.0) -> List[Received]:
-        """Waits until so many requests have come in; raises when they do not."""
+        """Waits until `count` requests have arrived; raises when they do not."""
         with self._changed:
             if not self._changed.wait_for(lambda: len(self._received) >= count, seconds):
                 raise AssertionError(f"{len(self._received)} of {count} requests arrived")
@@ -126,7 +125,7 @@ class HttpService(LocalServer):
 
     @staticmethod
     def _read(connection: socket.socket) -> Optional[Received]:
-        """The request, or nothing from a client that did not like the server's certificate."""
+        """The request; None from a client that rejected the server's certificate."""
         with connection.makefile("rb") as stream:
             first_line = stream.readline().decode("ascii")
             if not first_line:
@@ -138,7 +137,7 @@ class HttpService(LocalServer):
 
 
 def header_names(request: Received) -> Dict[str, str]:
-    """The headers by lower-case name; a repeated one is an error of the sender."""
+    """The headers by lower-case name; none may be repeated."""
     names = [name.lower() for name in request.headers.keys()]
     assert len(names) == len(set(names)), names
     return {name.lower(): value for name, value in request.headers.items()}

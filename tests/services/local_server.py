@@ -5,7 +5,7 @@ import struct
 import threading
 from typing import List
 
-# A connection that is silent for so long belongs to a test that has failed.
+# Seconds. Only connections of a failed test are silent for so long.
 SILENCE_LIMIT = 60.0
 
 
@@ -16,7 +16,7 @@ def reset(connection: socket.socket) -> None:
 
 
 class LocalServer:
-    """A context manager: listens from its construction, ends with all connections at its exit."""
+    """A context manager: listens from its construction; its exit ends all connections."""
 
     def __init__(self) -> None:
         self._listener = socket.create_server(("127.0.0.1", 0))
@@ -62,10 +62,10 @@ class LocalServer:
             try:
                 self.serve(connection)
             except OSError:
-                pass  # the other side went away, as many tests make it do
+                pass  # the client has closed the connection
 
     def track(self, connection: socket.socket) -> None:
-        """Ends this connection too when the server ends."""
+        """Lets the server's exit end this connection too."""
         with self._lock:
             self._connections.append(connection)
 

@@ -7,11 +7,11 @@ namespace testing_support {
 struct EventMember
 {
     std::string_view key;
-    std::string_view parameter; // of the template; empty for the member that stays empty
+    std::string_view parameter; // of the template; empty for a member that is always empty
 };
 
-// An event's members in the order in which the service gets them. Written down here once more, so
-// that a slip in the program's template shows.
+// An event's members in the order of its body: a deliberate copy that tests compare with the
+// program's template.
 inline constexpr EventMember eventMembers[] = {
     {"guid", "GUID"},
     {"country_id", "COUNTRY_ID"},

@@ -5,10 +5,9 @@
 
 #include <windows.h>
 
-// Lets the running program's calls of one system function go to `replacement`. Only the main
-// module's import is replaced; libraries, and addresses taken by GetProcAddress, are left alone.
-// `original` receives the function that was called so far, and stays as it is when the program
-// does not import the function.
+// Redirects the running program's calls of one system function to `replacement`. Only the main
+// module's import is replaced; libraries, and addresses from GetProcAddress, are not affected.
+// `original` receives the replaced function; it is unchanged when the program does not import it.
 template <typename Function>
 void replaceImport(const char* name, Function replacement, Function& original)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-// Receives the process's log messages instead of a file while it lives.
+// While it exists, receives the process's log messages instead of the file.
 
 #include "support/keelbase/keelbase.h"
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# coverage.sh: prints how much of the code under test the checked-in inputs reach, by file.
+# coverage.sh: prints, by file, how much of the code under test the checked-in inputs reach.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 # shellcheck source=tools/fuzz/targets.sh
@@ -17,7 +17,7 @@ while read -r target; do
     program=$build/tests/fuzz/${target}_fuzz
     LLVM_PROFILE_FILE="$build/$target.profraw" "$program" -runs=0 "tests/fuzz/corpora/$target" \
         >/dev/null 2>&1
-    # llvm-cov takes the first program as it is and the others by an option.
+    # llvm-cov takes the first program as an argument and the others by -object.
     objects+=(${objects[0]:+-object} "$program")
 done < <(fuzzTargets)
 llvm-profdata merge -o "$build/all.profdata" "$build"/*.profraw

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# minimise.sh: takes from build/fuzz/corpora the few inputs that reach code which the checked-in
-# ones do not, into tests/fuzz/corpora. Inputs with names of their own stay; those that a former
-# call took over are chosen anew.
+# minimise.sh: copies from build/fuzz/corpora into tests/fuzz/corpora the few inputs that reach code
+# beyond the checked-in ones. Inputs with descriptive names stay; those that an earlier call copied
+# are chosen anew.
 #
 #   FUZZ_TARGETS   which targets (default: all)
 set -euo pipefail
@@ -17,7 +17,7 @@ for target in "${targets[@]}"; do
     kept=tests/fuzz/corpora/$target
     grown=$fuzzData/corpora/$target
     mkdir -p "$grown" "$work/$target"
-    # libFuzzer names inputs by their SHA-1, and so can never clash with a name of our own.
+    # libFuzzer names inputs by their SHA-1.
     find "$kept" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' \
         -exec mv -t "$grown" {} +
     cp "$kept"/* "$work/$target"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# run.sh: builds the fuzz targets and runs each one for a while; ends with exit code 1 when one of
-# them found anything. New inputs that reach new code stay in build/fuzz/corpora for the next run.
+# run.sh: builds and runs the fuzz targets; exits with 1 when one of them fails. Inputs that reach new
+# code stay in build/fuzz/corpora for the next run.
 #
 #   FUZZ_SECONDS   how long each target runs (default 60)
 #   FUZZ_TARGETS   which targets, as in tests/fuzz/corpora (default: all)
@@ -40,10 +40,10 @@ for target in "${targets[@]}"; do
     tail -n 40 "$log"
     for input in "${found[@]}"; do
         printf '%s\n' "" "The input is kept in $input." \
-            "  again:       $(fuzzProgram "$target") $input" \
-            "  shorter:     $(fuzzProgram "$target") -minimize_crash=1 -runs=100000 $input" \
-            "  for good:    cp $input tests/fuzz/corpora/$target/WHAT_IT_SHOWS" \
-            "After the last one \"make test\" runs it every time."
+            "  reproduce:   $(fuzzProgram "$target") $input" \
+            "  shorten:     $(fuzzProgram "$target") -minimize_crash=1 -runs=100000 $input" \
+            "  keep:        cp $input tests/fuzz/corpora/$target/WHAT_IT_SHOWS" \
+            "\"make test\" runs every input that is kept."
     done
 done
 echo

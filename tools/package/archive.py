@@ -44,7 +44,7 @@ class Archive:
         self.add_bytes(name, file.read_bytes(), executable)
 
     def add_text(self, name: str, text: str) -> None:
-        """With Windows' line ends and a mark of its encoding: old Notepads know no others."""
+        """With Windows line ends and a byte order mark, which old versions of Notepad need."""
         self.add_bytes(name, text.replace("\n", "\r\n").encode("utf-8-sig"))
 
     def write(self, output: Path) -> None:
@@ -52,7 +52,7 @@ class Archive:
                              compresslevel=9) as packed:
             for name, content in sorted(self.contents.items()):
                 entry = zipfile.ZipInfo(f"{self.folder}/{name}", time.gmtime(self.date)[:6])
-                entry.create_system = 3  # Unix, whatever packs it
+                entry.create_system = 3  # Unix, on every system
                 mode = 0o755 if name in self._executables else 0o644
                 entry.external_attr = (0o100000 | mode) << 16
                 entry.compress_type = zipfile.ZIP_DEFLATED

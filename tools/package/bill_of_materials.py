@@ -1,4 +1,4 @@
-"""The list of components as CycloneDX JSON, for those who look for known weaknesses."""
+"""The list of components as CycloneDX JSON, for scanners of known vulnerabilities."""
 
 import json
 import time
@@ -10,7 +10,7 @@ from archive import sha256_of
 from build_tree import BuildTree
 from components import Component, Components
 
-# Names this program in the world of UUIDs, so that a serial number follows from the contents.
+# The UUID namespace of this program: the same contents always get the same serial number.
 _NAMESPACE = uuid.uuid5(uuid.NAMESPACE_URL, "urn:tessera:uninstall")
 
 
@@ -19,7 +19,7 @@ def _hashes(content: bytes) -> list:
 
 
 def _headers_sum(folder: Path) -> str:
-    """One sum over all headers: that of a list of their names and sums, sorted by name."""
+    """The sum of a list of all headers' names and sums, sorted by name."""
     lines = [f"{sha256_of(file.read_bytes())}  {file.relative_to(folder).as_posix()}\n"
              for file in sorted(folder.rglob("*")) if file.is_file()]
     return sha256_of("".join(lines).encode())

@@ -1,4 +1,4 @@
-"""What a cross-build folder tells: the program, its version, and how it was linked."""
+"""Reads a cross-build folder: the program, its version, and how it was linked."""
 
 import re
 import shlex
@@ -10,7 +10,7 @@ from problem import Problem
 
 REPOSITORY = Path(__file__).resolve().parents[2]
 
-# The cross compiler's own folder of libraries; what is linked from it by path is the toolchain's.
+# The cross compiler's own libraries.
 TOOLCHAIN_LIBRARIES = Path("/usr/x86_64-w64-mingw32/lib")
 
 
@@ -31,7 +31,7 @@ class BuildTree:
     def _cached(self, name: str) -> str:
         match = re.search(rf"^{name}:[A-Z]+=(.+)$", self._cache, re.MULTILINE)
         if match is None:
-            raise Problem(f"{self.folder}/CMakeCache.txt does not tell {name}")
+            raise Problem(f"{self.folder}/CMakeCache.txt has no {name}")
         return match[1]
 
     def _prefix_of(self, name: str) -> Path:
@@ -39,13 +39,13 @@ class BuildTree:
         return Path(self._cached(name)).parents[2]
 
     def link_arguments(self) -> List[str]:
-        """The arguments that the program was linked with, without those that name what is
-        written; paths of the build folder are relative to it."""
+        """The arguments that the program was linked with, except those that name output files;
+        paths in the build folder are relative to it."""
         commands = subprocess.run(["ninja", "-C", self.folder, "-t", "commands", "Uninstall.exe"],
                                   stdout=subprocess.PIPE, text=True, check=True).stdout
         words = shlex.split(commands.strip().splitlines()[-1])
         if words[:2] != [":", "&&"] or words[-2:] != ["&&", ":"]:
-            raise Problem(f"the program's link command is not understood: {words}")
+            raise Problem(f"unexpected link command of the program: {words}")
         arguments = []
         pending = iter(words[3:-2])  # [2] is the compiler
         for word in pending:
@@ -56,7 +56,7 @@ class BuildTree:
         return arguments
 
     def linked_archives(self) -> List[Path]:
-        """The libraries of others that were linked by path, each once, in the order of linking."""
+        """The third-party libraries that were linked by path, each once, in the order of linking."""
         paths = [Path(argument) for argument in self.link_arguments()
                  if argument.startswith("/") and argument.endswith(".a")]
         return [path for path in dict.fromkeys(paths) if path.parent != TOOLCHAIN_LIBRARIES]

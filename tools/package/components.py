@@ -1,13 +1,12 @@
-"""The software of others in the program, from packaging/components.json.
+"""Third-party code in the program, from packaging/components.json.
 
-The table is kept by hand; what can be found out here is found out: versions come from the
-installed packages, and an archive on the linker's command line that belongs to no component stops
-the packaging. The keys of an entry:
+The table is maintained by hand. Versions come from the installed packages, and packaging stops at an
+archive on the linker's command line that belongs to no component. The keys of an entry:
 
 archives    patterns of archives that the linker's command line names
 toolchain   archives that the compiler adds by itself
-headers     folder of a library that is only headers
-member      of a part of Qt: an object file that is linked when the part is, for the tests
+headers     folder of a header-only library
+member      of a part of Qt: an object file of it, by which the tests see that the part is linked
 """
 
 import json
@@ -35,7 +34,7 @@ class Component:
     source: Optional[Tuple[str, str]] = None   # Debian's source package and version
     inside: Optional[str] = None          # the component that brings it along
     archives: List[Path] = field(default_factory=list)
-    headers: Optional[Path] = None        # of a library that is only headers
+    headers: Optional[Path] = None        # of a header-only library
 
 
 def _package(name: str) -> Tuple[str, str, str]:
@@ -75,13 +74,12 @@ class Components:
         bundle = table["inside Qt"]
         if self["qt"].version != bundle["release"]:
             raise Problem(f"{_TABLE} lists the parts of Qt {bundle['release']}, but "
-                          f"{self['qt'].version} is linked: look through its qt_attribution.json "
-                          "files")
+                          f"{self['qt'].version} is linked: check its qt_attribution.json files")
         for entry in bundle["parts"]:
             self._add_part(entry, unclaimed)
         if unclaimed:
-            raise Problem(f"{', '.join(sorted(unclaimed))} is linked, but {_TABLE} has no "
-                          "component with it")
+            raise Problem(f"{_TABLE} has no component for {', '.join(sorted(unclaimed))}, which the "
+                          "program links")
 
     def __getitem__(self, identifier: str) -> Component:
         return next(component for component in self.all if component.id == identifier)

@@ -1,5 +1,5 @@
-"""Why there is no package, in words for the person who asked for one."""
+"""The error that ends packaging."""
 
 
 class Problem(Exception):
-    """Something outside the scripts prevents a correct package."""
+    """Something outside the scripts prevents a correct package; the text says what."""

@@ -1,4 +1,4 @@
-"""The archive with which a user puts a changed Qt into the program (packaging/relink)."""
+"""The archive for relinking the program with a changed Qt (packaging/relink)."""
 
 from pathlib import Path
 from typing import Dict, List, Tuple
@@ -16,7 +16,7 @@ _OBJECTS = (".obj", ".o", ".res", ".a")
 
 
 def _collect(tree: BuildTree) -> Tuple[List[str], Dict[str, Path]]:
-    """The linker's arguments for any place, and the object files by their names there."""
+    """The linker's arguments with paths inside the archive, and the files by those paths."""
     arguments: List[str] = []
     objects: Dict[Path, str] = {}
     for argument in tree.link_arguments():
@@ -29,18 +29,18 @@ def _collect(tree: BuildTree) -> Tuple[List[str], Dict[str, Path]]:
             arguments.append(f"@QT@/{path.relative_to(tree.qt_prefix)}")
         elif path.parent == TOOLCHAIN_LIBRARIES:
             # Not -l, which would find the same file by another path: the linker sorts imports by
-            # path, and another order is another program.
+            # path, so the program would differ.
             arguments.append(f"@COMPILER@/{path.name}")
         elif path.is_relative_to(tree.folder) or path.is_relative_to(tree.curl_prefix):
-            # Numbered: names alone may meet.
+            # Numbered, since files in different folders may have the same name.
             name = objects.setdefault(path, f"objects/{len(objects) + 1:02}-{path.name}")
             arguments.append(name)
         else:
-            raise Problem(f"{argument} is linked from outside the build and the set-up's libraries")
-    strangers = [argument for argument in arguments if "/" in argument
-                 and not argument.startswith(("@QT@/", "@COMPILER@/", "objects/", "link/"))]
-    if strangers:
-        raise Problem(f"the linker's arguments hold paths of this machine: {strangers}")
+            raise Problem(f"{argument} belongs neither to the build nor to the set-up's libraries")
+    local_paths = [argument for argument in arguments if "/" in argument
+                   and not argument.startswith(("@QT@/", "@COMPILER@/", "objects/", "link/"))]
+    if local_paths:
+        raise Problem(f"the linker's arguments hold paths of this machine: {local_paths}")
     return arguments, {name: path for path, name in objects.items()}
 
 

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Renders the SVG sources to the PNG and ICO files of the resources. The results are committed,
-# so only whoever changes a drawing needs this (packages librsvg2-bin and imagemagick).
+# Renders the SVG sources to the PNG and ICO files of the resources, which are committed. Needed only
+# after a change of a drawing (packages librsvg2-bin and imagemagick).
 set -eu
 
 pictures="$(cd "$(dirname "$0")/../.." && pwd)/ui/uninstall/resources/pictures"
@@ -16,7 +16,7 @@ png() {
     rsvg-convert --width "$3" --height "$4" --output "$pictures/$2" "$pictures/src/$1.svg"
 }
 
-# ico NAME OUTPUT: the sizes Windows asks for at 100 to 250 percent, and the large one.
+# ico NAME OUTPUT: the sizes for 100 to 250 percent, and the large one.
 ico() {
     frames=""
     for size in 16 20 24 32 40 48 64 256; do

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Takes a picture of every window in every language and puts them together, one sheet per window:
-# build/screenshots/<window>@<dpi>.png, with the single pictures in build/screenshots/<dpi>/.
+# Pictures every window in every language, one contact sheet per window:
+# build/screenshots/<window>@<dpi>.png; the single pictures are in build/screenshots/<dpi>/.
 #
 #   tools/screenshots/contact_sheets.sh [DPI]    96 (default) for 100 %, 120 for 125 %, 144, 168, 192
 #
-# Needs a configured windows-cross build; the Makefile sees to that.
+# Needs a configured windows-cross build, as "make screenshots" provides it.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)

@@ -30,7 +30,7 @@ int main(int argc, char** argv)
         const bool shown = visitWindows(language, [&](const QString& name, QWidget& window) {
             const QString file =
                 folder.filePath(name + QLatin1Char('-') + language + QStringLiteral(".png"));
-            // From the screen: rendered once more into a picture, check boxes lose edges at 125 %.
+            // Grabbed from the screen: QWidget::grab() loses edges of check boxes at 125 %.
             if (!window.screen()->grabWindow(window.winId()).save(file)) {
                 errors << "cannot write " << file << Qt::endl;
                 complete = false;

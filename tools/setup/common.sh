@@ -8,7 +8,7 @@ setupFolder=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 setupStart=$SECONDS
 stagePid=""
 
-# Everything that takes minutes to make lives outside the tree, so that a clean clone is quick.
+# The cache lies outside the tree, so that all clones share it.
 cacheRoot() {
     printf '%s\n' "${XDG_CACHE_HOME:-$HOME/.cache}/tessera-uninstall"
 }
@@ -44,8 +44,8 @@ upstreamVersion() {
     printf '%s\n' "${version%%+*}"
 }
 
-# takeLock FILE: holds the lock until this script ends, so that two set-ups never build twice.
-# Descriptor 9 is closed for every stage: a tool that lingers must not keep the lock.
+# takeLock FILE: holds the lock until this script ends, so that parallel set-ups build only once.
+# Every stage runs without descriptor 9: a lingering tool must not keep the lock.
 takeLock() {
     mkdir -p "$(dirname "$1")"
     exec 9>"$1"
@@ -77,8 +77,8 @@ progressOf() {
     printf '%s%s' "$percent" "${last:-starting}"
 }
 
-# runStage TITLE STEPS COMMAND...: runs the command with its output in $setupLog and tells every
-# few seconds how far it is. STEPS is the expected number of compiler calls, 0 when unknown.
+# runStage TITLE STEPS COMMAND...: runs the command with its output in $setupLog and reports its
+# progress every 15 seconds. STEPS is the expected number of compiler calls, 0 when unknown.
 runStage() {
     local title=$1 steps=$2 log status=0 nextReport=15 begun=$SECONDS
     shift 2
@@ -169,8 +169,7 @@ buildLibrary() {
         "${name}Patches=$setupFolder/patches/$name" \
         "${name}Source=$work/source" "${name}Build=$work/build" "${name}Stage=$work/stage"
 
-    # A tree that was left half-built cannot be trusted to resume: it is quicker to start over than
-    # to find out why a later stage fails.
+    # A half-built tree is not resumed.
     rm -rf "$work"
     mkdir -p "$work"
     : >"$setupLog"

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # configure.sh PRESET: configures build/... by a CMake preset.
 #
-# CMake remembers where it found Qt and libcurl. When the set-up has made new ones since (another
-# version or recipe), the build folder's memory is thrown away, so that no old library is linked.
+# CMake caches where it found Qt and libcurl. When the set-up has built others since (a new version or
+# recipe), the build folder is configured afresh, so that no old library is linked.
 set -euo pipefail
 
 preset=$1

@@ -22,17 +22,17 @@ packages=(
     qttools5-dev-tools
     # running Windows programs, and looking at them
     wine wine64 xvfb openbox xdotool imagemagick
-    # Tahoma; a stand-in for Segoe UI; Chinese, Japanese and Korean letters in one face; Thai letters
+    # Tahoma; a substitute for Segoe UI; Chinese, Japanese and Korean letters in one face; Thai letters
     fonts-wine fonts-open-sans fonts-wqy-microhei fonts-tlwg-garuda-ttf
     # the sample suite's installers
     nsis
 )
 if [[ ${1:-} == lint ]]; then
-    packages+=(clang-format clang-tidy cppcheck shellcheck codespell)
+    packages+=(clang clang-format clang-tidy cppcheck shellcheck codespell pyflakes3)
 elif [[ ${1:-} == fuzz ]]; then
     packages+=(clang llvm libclang-rt-dev)
 elif [[ ${1:-} == bench ]]; then
-    # what the program's own code is measured against
+    # other libraries that the measurements compare with
     packages+=(qtbase5-dev libctemplate-dev libkainjow-mustache-dev libsimpleini-dev libinih-dev)
 fi
 
@@ -52,8 +52,7 @@ fi
 say "installing ${#missing[@]} packages: ${missing[*]}"
 setupLog=$(mktemp "${TMPDIR:-/tmp}/tessera-packages.XXXXXX.log")
 
-# sudo resets the environment, hence env; the lock is waited for because a fresh machine may be
-# busy with its own updates.
+# sudo resets the environment, hence env. A fresh machine may hold the lock for its own updates.
 aptGet() {
     "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get -q -o DPkg::Lock::Timeout=300 "$@"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Brings the translation sources in line with the texts of the program: new texts appear as
-# unfinished, texts that are gone are marked so. To be run after every change of a text, and after a
-# language was added to languages.txt: it makes the missing catalogue.
+# Updates the translation catalogues from the program's texts: new texts appear as unfinished, removed
+# ones are marked. Run it after every change of a text, and after adding a language to languages.txt:
+# it creates the missing catalogue.
 #
 #   update.sh             updates the program's catalogues
 #   update.sh FILE.ts...  updates these instead
@@ -10,7 +10,7 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 languages="$root/ui/uninstall/resources/languages"
 
-# Without locations, a catalogue changes only when a text does.
+# Without locations a catalogue changes only with its texts.
 update() {
     lupdate -silent -locations none -I "$root" \
         "$root"/ui/uninstall/src/*.cpp "$root"/ui/uninstall/src/*.h "$root"/ui/uninstall/src/*.ui \

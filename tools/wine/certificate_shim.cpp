@@ -1,9 +1,9 @@
-// Supplies to one process what Windows' Schannel does and Wine's does not: a TLS client that asked
-// for automatic validation (SCH_CRED_AUTO_CRED_VALIDATION) gets no connection to a server whose
-// certificate is untrusted, expired, or issued for another name.
+// Adds to one process what Wine's Schannel lacks: a TLS client that asks for automatic validation
+// (SCH_CRED_AUTO_CRED_VALIDATION) gets no connection to a server whose certificate is untrusted,
+// expired, or issued for another name.
 //
-// The functions are replaced in the table that InitSecurityInterfaceW hands out, which is how
-// libcurl reaches them. Loaded by launcher.exe before the program's first instruction.
+// The functions are replaced in the table of InitSecurityInterfaceW, through which libcurl calls
+// them. Loaded by launcher.exe before the program's first instruction.
 #include <map>
 #include <mutex>
 #include <utility>
@@ -21,7 +21,7 @@ namespace {
 ACQUIRE_CREDENTIALS_HANDLE_FN_W originalAcquire = nullptr;
 INITIALIZE_SECURITY_CONTEXT_FN_W originalInitialize = nullptr;
 
-// What each credential was acquired with. Handles are reused, and the last word counts.
+// The flags of each credential. Handles are reused: the latest flags count.
 std::mutex mutex;
 std::map<std::pair<ULONG_PTR, ULONG_PTR>, DWORD> credentialFlags;
 
@@ -49,7 +49,7 @@ SECURITY_STATUS statusOf(DWORD chainError)
     }
 }
 
-// Best effort on revocation is no effort here: Wine's policy check does not know the flags for it.
+// A best-effort check of revocation is skipped: Wine's policy check does not know its flags.
 DWORD revocationCheck(DWORD flags)
 {
     constexpr DWORD bestEffort =
@@ -58,7 +58,7 @@ DWORD revocationCheck(DWORD flags)
     return wanted && (flags & bestEffort) != bestEffort ? CERT_CHAIN_REVOCATION_CHECK_CHAIN : 0;
 }
 
-// Windows asks for revocation lists also where it does without them, and the handshake waits.
+// Windows fetches revocation lists even for a best-effort check, and the handshake waits for them.
 void awaitRevocationLists(PCCERT_CONTEXT certificate)
 {
     constexpr DWORD windowsPatienceMs = 15000;
@@ -92,7 +92,7 @@ SECURITY_STATUS checkChain(PCCERT_CONTEXT certificate, wchar_t* host, DWORD flag
     result.cbSize = sizeof result;
     const BOOL checked =
         CertVerifyCertificateChainPolicy(CERT_CHAIN_POLICY_SSL, chain, &policy, &result);
-    // Wine's policy check does not mind a chain that ends before any root.
+    // Wine's policy check accepts a chain that ends before any root.
     const bool isPartial = (chain->TrustStatus.dwErrorStatus & CERT_TRUST_IS_PARTIAL_CHAIN) != 0;
     CertFreeCertificateChain(chain);
     if (!checked) {
@@ -123,7 +123,7 @@ SECURITY_STATUS SEC_ENTRY acquire(wchar_t* principal, wchar_t* package, unsigned
     const SECURITY_STATUS status = originalAcquire(principal, package, use, logon, data, getKey,
                                                    getKeyData, credential, expiry);
     const auto* const settings = static_cast<const SCHANNEL_CRED*>(data);
-    // Newer structures, for TLS 1.3, have the flags elsewhere; nobody here asks for them.
+    // SCH_CREDENTIALS, for TLS 1.3, has the flags elsewhere; the program does not use it.
     if (status == SEC_E_OK && settings != nullptr && settings->dwVersion == SCHANNEL_CRED_VERSION) {
         const std::lock_guard<std::mutex> lock(mutex);
         credentialFlags[{credential->dwLower, credential->dwUpper}] = settings->dwFlags;

@@ -1,6 +1,5 @@
 # shellcheck shell=bash
-# Where Wine is and how its processes are to behave, for every script here that starts one.
-# Sourced, never run.
+# Where Wine is, and the environment of its processes. Sourced, never run.
 
 # Debian's /usr/bin/wine prints a hint about 32-bit support at every start; the 64-bit loader
 # behind it does not.
@@ -18,7 +17,7 @@ fi
 export WINELOADER="$wineLoader"
 export WINEARCH=win64
 export WINEDEBUG=${WINEDEBUG:--all}
-# No offers to download .NET or a browser engine, and no menu entries on the person's own desktop.
+# No offers to download .NET or a browser engine, and no menu entries on the developer's desktop.
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=;winemenubuilder.exe=d}
 # The locale decides Windows' ANSI code page; C.UTF-8 gives US English and 1252 on every machine.
 export LC_ALL=${WINE_RUN_LOCALE:-C.UTF-8}
@@ -26,8 +25,8 @@ export LC_ALL=${WINE_RUN_LOCALE:-C.UTF-8}
 # Without a console Qt sends its messages, and Qt Test its results, to the debugger only.
 export QT_FORCE_STDERR_LOGGING=${QT_FORCE_STDERR_LOGGING-1}
 
-# windowsPath FILE: the name under which Windows programs see a Unix path. What lies in the
-# prefix's own drive is C:, as it would be on Windows; the rest is reached through Z:.
+# windowsPath FILE: a Unix path as Windows programs see it. The prefix's drive is C:, everything else
+# is below Z:.
 windowsPath() {
     local path drive
     path=$(realpath -m -s -- "$1")

@@ -1,6 +1,5 @@
-// Starts a Windows program under Wine with pipe_shim.dll, certificate_shim.dll and
-// process_shim.dll loaded into it, and ends with its exit code. What Wine lacks is thus supplied
-// by the test environment, and the program stays as it is.
+// Starts a Windows program under Wine with the shims loaded into it, which supply what Wine lacks,
+// and ends with the program's exit code.
 //
 //   launcher.exe PROGRAM ARGS...
 //
@@ -10,6 +9,7 @@
 // Exit codes of its own: 126 the program could not be prepared, 127 it could not be started. A
 // program's code above 255 becomes 255, because the Unix side sees 8 bits and would take 256 for
 // success.
+#include <algorithm>
 #include <cstdio>
 #include <cwchar>
 #include <iterator>
@@ -25,6 +25,7 @@ constexpr UINT cannotPrepare = 126;
 constexpr UINT cannotStart = 127;
 constexpr DWORD largestUnixCode = 255;
 constexpr DWORD loadTimeoutMs = 60'000;
+constexpr const wchar_t* shims[] = {L"pipe_shim.dll", L"certificate_shim.dll", L"process_shim.dll"};
 
 struct HandleCloser
 {
@@ -62,8 +63,8 @@ std::wstring besideLauncher(const wchar_t* name)
     return path + name;
 }
 
-// A thread in the program whose start routine is LoadLibraryW itself: kernel32 has one address in
-// every process of a session.
+// Starts a thread in the program whose start routine is LoadLibraryW itself: kernel32 has the same
+// address in every process of a session.
 bool loadInto(HANDLE process, const std::wstring& library)
 {
     const SIZE_T size = (library.size() + 1) * sizeof(wchar_t);
@@ -91,7 +92,7 @@ bool loadInto(HANDLE process, const std::wstring& library)
     return true;
 }
 
-// tools/wine-run hands Qt's variables over as HOST_QT_NAME, since Wine drops QT_NAME.
+// tools/wine-run passes Qt's variables as HOST_QT_NAME, since Wine drops QT_NAME.
 void restoreQtVariables()
 {
     constexpr wchar_t handedOver[] = L"HOST_QT_";
@@ -111,7 +112,7 @@ void restoreQtVariables()
     FreeEnvironmentStringsW(block);
 }
 
-// The program must not outlive a launcher that is killed; what the program itself starts may.
+// The program must not outlive a killed launcher; the program's own children may.
 Handle jobThatEndsWithUs()
 {
     Handle job(CreateJobObjectW(nullptr, nullptr));
@@ -148,9 +149,9 @@ int main()
     const Handle mainThread(started.hThread);
     const Handle job = jobThatEndsWithUs();
     if (!job || !AssignProcessToJobObject(job.get(), process.get()) ||
-        !loadInto(process.get(), besideLauncher(L"pipe_shim.dll")) ||
-        !loadInto(process.get(), besideLauncher(L"certificate_shim.dll")) ||
-        !loadInto(process.get(), besideLauncher(L"process_shim.dll"))) {
+        !std::all_of(std::begin(shims), std::end(shims), [&](const wchar_t* shim) {
+            return loadInto(process.get(), besideLauncher(shim));
+        })) {
         TerminateProcess(process.get(), cannotPrepare);
         return static_cast<int>(cannotPrepare);
     }

@@ -1,5 +1,5 @@
-// Supplies to one process what Windows' network redirector does and Wine has none of: opening
-// \\<computer>\pipe\NAME by the machine's own name, with the opened end in message-read mode.
+// Adds to one process what Wine lacks, a network redirector: \\<computer>\pipe\NAME opens by the
+// machine's own name, with the opened end in message-read mode.
 //
 // Loaded by launcher.exe before the program's first instruction.
 #include "tests/support/import_slot.h"
@@ -11,8 +11,7 @@ namespace {
 
 decltype(&CreateFileW) originalCreateFile = nullptr;
 
-// "\\.\pipe\NAME" for "\\<this computer>\pipe\NAME", else empty. Names of other computers stay as
-// they are: no Windows machine would answer for them here either.
+// "\\.\pipe\NAME" for "\\<this computer>\pipe\NAME", else empty.
 std::wstring localPipeName(const wchar_t* name)
 {
     if (name == nullptr || std::wcsncmp(name, L"\\\\", 2) != 0) {

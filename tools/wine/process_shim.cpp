@@ -1,6 +1,6 @@
-// Supplies to one process what Windows' CreateProcessW does and Wine's does not: for a user without
-// administrator rights it refuses a program whose manifest asks for them. Wine gives it the rights
-// and starts it.
+// Adds to one process what Wine's CreateProcessW lacks: it refuses to start a program whose
+// manifest requires administrator rights when the user has none. Wine grants the rights and starts
+// it.
 //
 // Loaded by launcher.exe before the program's first instruction.
 #include "tests/support/import_slot.h"

@@ -1,4 +1,4 @@
-"""Lists that are longer, and names that are stranger, than any installer of the suite makes."""
+"""Lists and names beyond what the suite's installers register."""
 
 import unittest
 
@@ -6,26 +6,26 @@ from tests.harness import probes
 from tests.harness.case import SuiteTestCase
 from tests.harness.main_window import VISIBLE_ROWS
 from tests.harness.registry import Value
-from tests.harness.suite import LIST_KEY, SELECTIVE, Suite
+from tests.harness.suite import DETAILED_LOG, LIST_KEY, SELECTIVE, Suite
 from tests.harness.waiting import wait_until
 
 MANY = 500
 
-# In the order of the list: by the values of their UTF-16 units.
+# In the order of the list, by UTF-16 code units.
 NAMES = [
-    "Cafe\u0301 Player",         # the accent is a letter of its own
-    "Caf\u00e9 Player",          # looks the same
+    "Cafe\u0301 Player",         # with a combining accent
+    "Caf\u00e9 Player",          # looks the same, precomposed
     "N" * 255,
     "\u05de\u05e1\u05d9\u05e8 Media 2026",                   # right to left, with digits and Latin
     "\u0645\u0634\u063a\u0651\u0644 \u0627\u0644\u0635\u0648\u062a",
-    "\u202ereyalP oediV",       # an override
-    "\U0001f3b5 Music",          # two units
+    "\u202ereyalP oediV",       # right-to-left override
+    "\U0001f3b5 Music",          # two code units
 ]
 PRECOMPOSED = 1
 
 
 class ListFaults(SuiteTestCase):
-    """Each row's command has a log switch of its own, by which the runs are told apart."""
+    """Each row's command has its own log switch, which identifies its run."""
 
     def setUp(self):
         super().setUp()
@@ -44,15 +44,14 @@ class ListFaults(SuiteTestCase):
         return probes.log_switch(f"row{number}")
 
     def assert_ran(self, *numbers):
-        """The rows' uninstallers, in this order, and no other."""
+        """The uninstallers of exactly these rows ran, in this order."""
         runs = self.suite.records.runs
         wait_until(lambda: len(runs("works")) >= len(numbers), "an uninstaller did not begin")
         self.assertEqual([run.arguments for run in runs("works")],
                          [[self.log_switch(number), *SELECTIVE] for number in numbers])
 
     def start(self, shown):
-        return self.start_program(self.suite, rows=shown,
-                                  environment={"KEELBASE_LOG_LEVEL": "7"})
+        return self.start_program(self.suite, rows=shown, environment=DETAILED_LOG)
 
     def end_run(self, program):
         program.main_window.press_uninstall()
@@ -66,7 +65,7 @@ class ListFaults(SuiteTestCase):
         top = window.settled_picture()
         window.press_in_list("End")
         self.assertNotEqual(window.settled_picture(), top)
-        window.wait_for_checked_rows([True] * VISIBLE_ROWS)  # those that were out of sight too
+        window.wait_for_checked_rows([True] * VISIBLE_ROWS)  # also those that were out of sight
         window.press_select_button()
         window.wait_for_checked_rows([False] * VISIBLE_ROWS)
         window.toggle_row(VISIBLE_ROWS - 1)

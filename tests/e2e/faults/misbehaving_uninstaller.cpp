@@ -1,9 +1,9 @@
-// An uninstaller that goes wrong. It records its command line as every sample uninstaller does, and
+// An uninstaller that misbehaves. It records its command line like every sample uninstaller and
 // then does what its file name says:
 //   hangs.exe       never ends by itself
 //   crashes.exe     ends with an access violation
-//   hands_over.exe  starts a copy of itself and ends; the copy ends when the file
-//                   C:\records\hands_over.release is there
+//   hands_over.exe  starts a copy of itself and ends; the copy ends once the file
+//                   C:\records\hands_over.release exists
 //   drops_key.exe   deletes everything that the suite has in the registry
 // elevated_uninstaller.exe is the same program with a manifest that asks for administrator rights.
 #include "tests/sample_suite/record_file.h"
@@ -13,9 +13,9 @@
 
 namespace {
 
-// What a test forgot leaves by itself.
+// A copy that no test ends must end by itself.
 constexpr DWORD longestLifeMs = 30 * 60 * 1000;
-constexpr DWORD lookAgainMs = 20;
+constexpr DWORD checkIntervalMs = 20;
 
 constexpr const wchar_t* copyMark = L"copy of hands_over";
 
@@ -43,10 +43,10 @@ int workAsCopy()
 {
     const std::wstring release =
         std::wstring(sample_suite::recordsFolder) + L"\\hands_over.release";
-    for (DWORD waited = 0; waited < longestLifeMs; waited += lookAgainMs) {
+    for (DWORD waited = 0; waited < longestLifeMs; waited += checkIntervalMs) {
         if (GetFileAttributesW(release.c_str()) != INVALID_FILE_ATTRIBUTES)
             return sample_suite::recordEnd() ? 0 : 1;
-        Sleep(lookAgainMs);
+        Sleep(checkIntervalMs);
     }
     return 1;
 }

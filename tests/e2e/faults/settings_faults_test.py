@@ -1,6 +1,6 @@
-"""Settings that cannot be written. The program writes common.cfg in one situation only: the first
-survey of a run stores the country and then the identity. The country service is the place where
-these tests get hold of the program just before it saves."""
+"""Settings that cannot be written. The program writes common.cfg only when the first survey of a run
+stores the country and then the identity. The tests cause each fault in the answer of the country
+service, just before the program saves."""
 
 import ctypes
 import os
@@ -9,16 +9,14 @@ import subprocess
 import sys
 import unittest
 
-from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_values,
+from tests.e2e.stat.statistics_world import (GUID, SuiteWithServices, event_of, proxy_values,
                                              store_settings)
 from tests.harness import processes, screen
-from tests.harness.suite import SURVEY_TITLE
+from tests.harness.suite import DETAILED_LOG, SURVEY_TITLE
 from tests.sample_suite.applications import CLIP_SAVER, PARTNER
 from tests.services.http_service import answer
 
-DETAILED = {"KEELBASE_LOG_LEVEL": "7"}
 WITHOUT_LOG = {"KEELBASE_LOG_LEVEL": "0"}
-GUID = "^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$"
 SAVES = 2  # the country, the identity
 
 READ_ONLY_FOLDER, READ_ONLY_FILE = 0o555, 0o444
@@ -29,12 +27,12 @@ CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH = 1, 2
 
 
 def setUpModule():
-    """From here on what root starts is bound by the modes of files, as every other user is."""
+    """Drops capabilities, so that file modes also bind processes that root starts from here on."""
     if os.geteuid() == 0:
         libc = ctypes.CDLL(None, use_errno=True)
         for capability in (CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH):
             if libc.prctl(PR_CAPBSET_DROP, capability, 0, 0, 0) != 0:
-                raise OSError(ctypes.get_errno(), "a capability could not be given up")
+                raise OSError(ctypes.get_errno(), "a capability cannot be dropped")
 
 
 class SettingsFaults(SuiteWithServices):
@@ -44,7 +42,8 @@ class SettingsFaults(SuiteWithServices):
         self.settings = self.prefix.unix_path(self.prefix.settings)
 
     def install_with_services(self, country=answer(200, b"NL"), **settings):
-        """Clip Saver, which has a survey, and another; `country` answers the one request."""
+        """Installs Clip Saver, which has a survey, and another application. `country` answers the
+        request for the country."""
         self.geo = self.service(country)
         self.statistics = self.service(answer(200))
         self.suite = self.install([CLIP_SAVER, PARTNER])
@@ -58,9 +57,9 @@ class SettingsFaults(SuiteWithServices):
         return program
 
     def remove_clip_saver(self, events=1):
-        """Returns the last of so many events that the service then has. The survey stays until
-        they are there: an event that waits when the program ends is dropped."""
-        program = self.start(DETAILED)
+        """Returns the last of `events` events. The survey stays until the service has them: the
+        program drops queued events when it ends."""
+        program = self.start(DETAILED_LOG)
 
         def decline(survey):
             self.statistics.wait_for(events)
@@ -71,23 +70,22 @@ class SettingsFaults(SuiteWithServices):
         return event_of(self.statistics.received[-1]) if events else None
 
     def remove_partner(self):
-        self.assertEqual(self.start(DETAILED, row=1).exit_code(), 0)
+        self.assertEqual(self.start(DETAILED_LOG, row=1).exit_code(), 0)
         self.assert_ran(PARTNER)
 
     def assert_ran(self, application):
-        """It and no other was removed."""
-        self.assert_arguments(self.suite, {application: [
-            self.suite.log_switch(application), "/SILENT", "/SUPPRESSMSGBOXES"]})
+        """Only this application was removed."""
+        self.assert_ran_selectively(self.suite, application)
         for other in {CLIP_SAVER, PARTNER} - {application}:
             self.assert_untouched(self.suite, other)
 
     def assert_sent_identity(self, event):
-        """What could not be stored still serves this run."""
+        """The run used the identity and the country that could not be stored."""
         self.assertRegex(event["guid"], GUID)
         self.assertEqual(event["country_id"], "NL")
 
     def failures(self):
-        """What the log tells about files."""
+        """The log's messages about files."""
         return [message.text for message in self.suite.log()
                 if message.source == "ui/common/sys/file_io"]
 
@@ -110,7 +108,7 @@ class SettingsFaults(SuiteWithServices):
         self.assertEqual(self.common_file.read_bytes(), before)
         self.assertEqual(self.failures(), ["CreateFileW failed: 5 (Access denied.)"] * SAVES)
 
-    def test_with_a_read_only_log_folder_too_the_run_is_whole(self):
+    def test_and_log_folder_that_are_read_only_do_not_affect_the_run(self):
         self.install_with_services()
         logs = self.settings / "logs"
         before = self.common_file.read_bytes()
@@ -126,7 +124,7 @@ class SettingsFaults(SuiteWithServices):
             self.write_protect(self.settings)
             answer(200, b"NL")(connection, stopping)
         self.install_with_services(remove)
-        # With the file every setting that is not saved has gone, "statistics on" among them.
+        # The merge with the missing file drops all unsaved settings, including "statistics on".
         self.remove_clip_saver(events=0)
         self.assert_ran(CLIP_SAVER)
         self.assertFalse(self.common_file.exists())
@@ -134,25 +132,25 @@ class SettingsFaults(SuiteWithServices):
 
     def test_on_a_full_disk_cost_the_run_nothing(self):
         def fill_disk(connection, stopping):
-            # The device takes every opening, is empty, and has no room for a byte.
+            # The device can be opened, reads as empty, and refuses every write.
             self.common_file.unlink()
             self.common_file.symlink_to("/dev/full")
             answer(200, b"NL")(connection, stopping)
         self.install_with_services(fill_disk)
-        # Settings that read as empty from now on do not switch the statistics on either.
+        # The settings now read as empty, which switches the statistics off.
         self.remove_clip_saver(events=0)
         self.assert_ran(CLIP_SAVER)
         self.assertEqual(self.failures(), ["WriteFile failed: 112 (Disk full.)"] * SAVES)
 
-    def test_with_a_full_disk_for_the_log_the_run_is_whole(self):
+    def test_do_not_suffer_from_a_full_disk_of_the_log(self):
         self.install_with_services()
         (self.settings / "logs" / "Uninstall.log").symlink_to("/dev/full")
         self.assert_sent_identity(self.remove_clip_saver())
         self.assert_ran(CLIP_SAVER)
 
     def install_for_an_end_in_the_save(self, **settings):
-        """The system is to end the program in its first save, at the byte `file_limit`. The limit
-        holds for every file; the program runs without a log, or that would end it."""
+        """Prepares the system to end the program in its first save, at byte `file_limit`. The limit
+        applies to every file, so the program must run without a log."""
         def limit_files(connection, stopping):
             program = self.suite.program_folder / "Uninstall.exe"
             for process in processes.find(self.prefix, program):
@@ -165,7 +163,7 @@ class SettingsFaults(SuiteWithServices):
         self.file_limit = file_limit
         program = self.start(WITHOUT_LOG)
         self.geo.wait_for(1)
-        program.exit_code()  # Wine knows none of a process that the system ended
+        program.exit_code()  # its value means nothing: the system ended the process
         self.assertEqual(screen.find_windows(SURVEY_TITLE), [])
         self.assertEqual(self.suite.records.recorded(), [])
 
@@ -173,7 +171,7 @@ class SettingsFaults(SuiteWithServices):
         self.install_for_an_end_in_the_save()
         self.end_in_the_save(0)
         self.assertEqual(self.common_file.read_bytes(), b"")
-        # The next start does without them.
+        # The next start works without them.
         self.remove_partner()
         self.assertEqual(self.common_file.read_bytes(), b"")
 
@@ -188,7 +186,7 @@ class SettingsFaults(SuiteWithServices):
         self.assert_sent_identity(event)
         self.assert_ran(CLIP_SAVER)
         self.assertEqual(len(self.geo.received), 1)
-        # The line that was cut off has become a line like any other.
+        # The incomplete line is kept as an ordinary one.
         guid = f"ClientGuid={event['guid']}\n".encode()
         self.assertEqual(self.common_file.read_bytes(), guid + torn + b"\n")
 

@@ -1,4 +1,4 @@
-"""Runs over uninstallers that go wrong. Whatever one does, the others get their turn."""
+"""Runs over uninstallers that misbehave: the others run nevertheless."""
 
 import subprocess
 import unittest
@@ -6,16 +6,12 @@ import unittest
 from tests.harness import probes, processes
 from tests.harness.case import SuiteTestCase
 from tests.harness.registry import Value
-from tests.harness.suite import LIST_KEY, SELECTIVE, Suite
+from tests.harness.suite import (DETAILED_LOG, EARLY, LATE, LIST_KEY, SELECTIVE, UNINSTALLER_WAIT,
+                                 Suite)
 from tests.sample_suite.applications import SUITE
 
 FULL = [*SELECTIVE, "/DISABLEREDIRECT"]
-WAIT = 2.0
-# How far the log's two times of one wait may be from its length on a busy machine.
-EARLY, LATE = 0.05, 8.0
-
 NOT_STARTED = "DoUninsstall: not started: Process failed to start: "
-DETAILED = {"KEELBASE_LOG_LEVEL": "7"}
 
 
 class UninstallerFaults(SuiteTestCase):
@@ -25,7 +21,7 @@ class UninstallerFaults(SuiteTestCase):
         self.suite = Suite(self.prefix)
 
     def install_rows(self, names, applications=()):
-        """A row for each probe, named "<number> <probe>", before those of the applications."""
+        """Registers a row "<number> <probe>" for each probe; they precede those of applications."""
         self.suite.install(applications)
         self.suite.place_program()
         self.prefix.write_registry([
@@ -33,18 +29,18 @@ class UninstallerFaults(SuiteTestCase):
             for number, name in enumerate(names)])
 
     def remove_all_but_the_last(self, rows):
-        self.remove_rows(self.suite, range(rows - 1), rows, DETAILED)
+        self.remove_rows(self.suite, range(rows - 1), rows, DETAILED_LOG)
 
     def texts(self):
         return [message.text for message in self.suite.log() if message.category == "MainForm"]
 
     def removals(self):
-        """The log from the press of "Uninstall" on."""
+        """The log after the press of "Uninstall"."""
         texts = self.texts()
         return texts[texts.index("--> uninstallButtonClicked") + 1:]
 
     def seconds_of_wait(self, name):
-        """Between the line that names the uninstaller and the next one."""
+        """From the line that names the uninstaller to the next one."""
         messages = [message for message in self.suite.log() if message.category == "MainForm"]
         texts = [message.text for message in messages]
         position = texts.index(f"DoUninsstall: {probes.path(name)}")
@@ -52,12 +48,12 @@ class UninstallerFaults(SuiteTestCase):
 
     @staticmethod
     def selective(*names):
-        """What is logged for them."""
+        """The log's lines for these probes in a selective run."""
         return [line for name in names
                 for line in ("--> DoUninsstall: selective", f"DoUninsstall: {probes.path(name)}")]
 
     def check_selective(self, place, name, started=True):
-        """The probe, one that works and one that is not checked."""
+        """Removes the probe and one that works, and leaves a third one unchecked."""
         place(self.prefix, name)
         probes.place_working(self.prefix, "works")
         self.install_rows([name, "works", "stays"])
@@ -66,14 +62,14 @@ class UninstallerFaults(SuiteTestCase):
         if started:
             runs[name] = [probes.log_switch(name), *SELECTIVE]
         self.assert_recorded(self.suite, runs)
-        # What was not removed is still registered, to be tried again.
+        # Probes do not remove their registration.
         self.assertEqual(self.suite.registered(), [f"0 {name}", "1 works", "2 stays"])
 
     def test_one_that_hangs_is_left_behind_after_two_seconds(self):
         self.check_selective(probes.place_misbehaving, "hangs")
         self.assertEqual(self.removals(), [*self.selective("hangs", "works"), "~Widget()"])
-        self.assertGreater(self.seconds_of_wait("hangs"), WAIT - EARLY)
-        self.assertLess(self.seconds_of_wait("hangs"), WAIT + LATE)
+        self.assertGreater(self.seconds_of_wait("hangs"), UNINSTALLER_WAIT - EARLY)
+        self.assertLess(self.seconds_of_wait("hangs"), UNINSTALLER_WAIT + LATE)
         self.assertTrue(processes.running(self.prefix, probes.path("hangs")))
         self.assertIsNone(self.suite.records.runs("hangs")[0].exit_code)
 
@@ -82,15 +78,15 @@ class UninstallerFaults(SuiteTestCase):
         self.assertEqual(self.removals(), [*self.selective("crashes", "works"), "~Widget()"])
         self.assertIsNone(self.suite.records.runs("crashes")[0].exit_code)
         self.assertFalse(processes.running(self.prefix, probes.path("crashes")))
-        self.assertLess(self.seconds_of_wait("crashes"), WAIT - EARLY)
-        with self.assertRaises(subprocess.CalledProcessError):  # it does crash
+        self.assertLess(self.seconds_of_wait("crashes"), UNINSTALLER_WAIT - EARLY)
+        with self.assertRaises(subprocess.CalledProcessError):  # the probe really crashes
             self.prefix.run(probes.path("crashes"))
 
     def test_the_child_of_one_that_ended_is_not_waited_for(self):
         self.check_selective(probes.place_misbehaving, "hands_over")
         self.assertEqual(self.removals(), [*self.selective("hands_over", "works"), "~Widget()"])
-        self.assertLess(self.seconds_of_wait("hands_over"), WAIT - EARLY)
-        # The program has ended; the child has not, and completes its work.
+        self.assertLess(self.seconds_of_wait("hands_over"), UNINSTALLER_WAIT - EARLY)
+        # The program has ended; the child still runs and completes its work.
         self.assertIsNone(self.suite.records.runs("hands_over")[0].exit_code)
         self.suite.records.release("hands_over")
         self.assertEqual(self.suite.records.wait_for_end("hands_over").exit_code, 0)
@@ -99,17 +95,17 @@ class UninstallerFaults(SuiteTestCase):
         self.check_selective(place, "broken", started=False)
         self.assertEqual(self.removals(), [
             *self.selective("broken"), NOT_STARTED + reason, *self.selective("works"), "~Widget()"])
-        self.assertLess(self.seconds_of_wait("broken"), WAIT - EARLY)
+        self.assertLess(self.seconds_of_wait("broken"), UNINSTALLER_WAIT - EARLY)
 
-    def test_one_that_is_missing_is_told_in_the_detailed_log(self):
+    def test_one_that_is_missing_is_reported_in_the_detailed_log(self):
         self.check_not_started(lambda prefix, name: None, "File not found.")
 
-    def test_one_that_is_no_program_is_told_in_the_detailed_log(self):
-        # Wine has no words for Windows' error 193.
+    def test_one_that_is_no_program_is_reported_in_the_detailed_log(self):
+        # Wine has no text for error 193.
         self.check_not_started(probes.place_text, "Unknown error 0x000000c1.")
 
-    def test_one_that_needs_elevation_is_told_in_the_detailed_log(self):
-        # The launcher's DLL refuses as Windows does; Wine itself would start it.
+    def test_one_that_needs_elevation_is_reported_in_the_detailed_log(self):
+        # process_shim.dll refuses as Windows does; Wine itself would start it.
         self.check_not_started(probes.place_elevated, "Unknown error 0x000002e4.")
 
     def test_a_full_run_over_all_of_them_reaches_the_suite(self):
@@ -120,7 +116,7 @@ class UninstallerFaults(SuiteTestCase):
         probes.place_text(self.prefix, "text")
         probes.place_working(self.prefix, "works")
         self.install_rows(names, [SUITE])
-        program = self.start_program(self.suite, rows=8, environment=DETAILED)
+        program = self.start_program(self.suite, rows=8, environment=DETAILED_LOG)
         program.main_window.select_all()
         program.main_window.toggle_delete_settings()
         program.main_window.press_uninstall()
@@ -159,14 +155,14 @@ class UninstallerFaults(SuiteTestCase):
         probes.place_misbehaving(self.prefix, "drops_key")
         probes.place_working(self.prefix, "works")
         self.install_rows(["drops_key", "works"], [SUITE])
-        program = self.start_program(self.suite, rows=3, environment=DETAILED)
+        program = self.start_program(self.suite, rows=3, environment=DETAILED_LOG)
         program.main_window.select_all()
         program.main_window.press_uninstall()
         self.assertEqual(program.exit_code(), 0)
 
         self.assert_recorded(self.suite, {
             "drops_key": ["/SILENT", "/FULL", "/SUPPRESSMSGBOXES", "/DISABLEREDIRECT"]})
-        # Without its command the suite's row is one like any other; the last step finds no suite.
+        # Without its command the suite's row counts as an ordinary one; the last step finds no suite.
         self.assertEqual(self.removals(), [
             "--> DoUninsstall: full", f"DoUninsstall: {probes.path('drops_key')}",
             *["--> DoUninsstall: full"] * 3, "~Widget()"])

@@ -1,5 +1,4 @@
-// An uninstaller that takes longer than the program waits for it, and records its begin and its
-// end.
+// An uninstaller that runs longer than the program waits, and records its start and its end.
 #include "tests/sample_suite/record_file.h"
 
 namespace {

@@ -1,11 +1,11 @@
-// Asks a window again and again whether it still answers, as the system does before it calls a
-// program "not responding", until the window's process has ended.
+// Checks repeatedly that a window answers, as the system does before it calls a program "not
+// responding", until the window's process has ended.
 //
 //   window_watch TITLE
 //
-// Writes "ready" after the first answer; at the end a line of numbers: how often it asked, how
-// often there was no answer in time, how often the system held the window for hung, and the longest
-// time of an answer in milliseconds.
+// Prints "ready" after the first answer; at the end a line of numbers: checks, checks without an
+// answer in time, checks at which the system called the window hung, and the longest time of an
+// answer in milliseconds.
 #include "support/win32/unique_handle.h"
 
 #include <algorithm>
@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr DWORD askAgainAfterMs = 50;
-// From here on Windows calls a window hung.
+constexpr DWORD checkIntervalMs = 50;
+// After this time Windows calls a window hung.
 constexpr UINT longestAnswerMs = 5000;
 
 } // namespace
@@ -44,7 +44,7 @@ int main(int argc, char** argv)
         } else if (IsWindow(window)) {
             ++unanswered;
         } else {
-            // It ends, and its window is gone already.
+            // The program is ending; its window is gone already.
             continue;
         }
         hung += IsHungAppWindow(window) ? 1 : 0;
@@ -52,7 +52,7 @@ int main(int argc, char** argv)
             std::printf("ready\n");
             std::fflush(stdout);
         }
-    } while (WaitForSingleObject(process.get(), askAgainAfterMs) == WAIT_TIMEOUT);
+    } while (WaitForSingleObject(process.get(), checkIntervalMs) == WAIT_TIMEOUT);
     std::printf("%d %d %d %llu\n", asked, unanswered, hung, longest);
     return 0;
 }

@@ -1,5 +1,5 @@
-// A library, or a program, that somebody has put where Uninstall.exe might find it. Loading or
-// running it leaves a file beside it, with ".touched" behind its name.
+// A library, or a program, planted where Uninstall.exe might find it. When loaded or run it creates
+// a file with its own name and ".touched".
 #include <iterator>
 #include <string>
 

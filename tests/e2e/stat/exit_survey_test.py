@@ -1,5 +1,5 @@
-"""Exit survey and store offer in the unmodified program: what the person does about them, what the
-statistics service receives, and which store page opens."""
+"""Exit survey and store offer of the program: the events that the statistics service receives for
+each reaction, and the store page that opens."""
 
 import shutil
 import unittest
@@ -9,6 +9,7 @@ from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_
                                              store_settings)
 from tests.harness import layout, screen
 from tests.harness.registry import Value
+from tests.harness.screen import pressing
 from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
 from tests.harness.waiting import wait_until
 from tests.sample_suite.applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
@@ -27,48 +28,39 @@ STORE_HANDLER = "StoreHandler"
 LAST_NUMBER = 7
 
 
-def answering(name, about_offer):
-    """Clicks an answer of the survey, then deals with the offer that covers it."""
+# Reactions to the survey and to the offer that follows it.
+
+def answering(name, react_to_offer):
+    """Clicks an answer of the survey, then reacts to the offer that covers it."""
     def answer_survey(survey):
         survey.click(*ANSWERS[name])
-        about_offer(screen.wait_for_window(OFFER_TITLE))
+        react_to_offer(screen.wait_for_window(OFFER_TITLE))
     return answer_survey
 
 
-def skipping(about_offer):
-    """Closes the survey by its title bar's key."""
+def skipping(react_to_offer):
+    """Closes the survey by the title bar's key."""
     def skip_survey(survey):
         survey.press("alt+F4")
-        about_offer(screen.wait_for_window(OFFER_TITLE))
+        react_to_offer(screen.wait_for_window(OFFER_TITLE))
     return skip_survey
-
-
-def escaping(survey):
-    survey.press("Escape")
-
-
-def pressing_enter_then_escaping(survey):
-    survey.press("Return")
-    escaping(survey)
 
 
 def opening_the_store(offer):
     offer.click(*STORE_BUTTON)
 
 
-def escaping_the_offer(offer):
-    offer.press("Escape")
+escaping = pressing("Escape")
+closing = pressing("alt+F4")
 
 
-def closing_the_offer(offer):
-    offer.press("alt+F4")
-
+# Events, as (type, source).
 
 SHOW = [("show", "uninstall_quiz")]
 
 
 def surveyed(name, *offer_events):
-    """An answer is told twice, before and after the offer."""
+    """An answer is reported twice, before and after the offer."""
     return [*SHOW, ("click", name), *offer_events, ("click", name)]
 
 
@@ -85,9 +77,9 @@ def closed(offer):
 
 
 class ExitSurvey(SuiteWithServices):
-    """Each test removes both surveyed applications in one run, and then one that is running: its
-    warning keeps the program until the service has what was queued, for the program drops what
-    still waits when it ends."""
+    """Each test removes both surveyed applications in one run, and then a running one. The warning
+    about the latter stays open until the service has all events: the program drops queued events
+    when it ends."""
 
     def setUp(self):
         super().setUp()
@@ -95,20 +87,20 @@ class ExitSurvey(SuiteWithServices):
         target = self.prefix.unix_path(handler)
         target.parent.mkdir()
         shutil.copy(layout.ARGUMENT_RECORDER, target)
-        # Wine looks for the handlers of addresses under the machine's classes only.
+        # Wine looks for protocol handlers only in the machine's classes.
         classes = "HKEY_LOCAL_MACHINE\\Software\\Classes\\ms-windows-store"
         self.prefix.write_registry([
             Value(classes, "URL Protocol", ""),
             Value(f"{classes}\\shell\\open\\command", "", f'"{handler}" "%1"')])
 
-    def check(self, about_surveys, expected, addresses=(), **settings):
-        """Runs with one gesture for each survey; the service must receive exactly `expected`."""
+    def check(self, reactions, expected, addresses=(), **settings):
+        """Runs with one reaction for each survey; the service must receive exactly `expected`."""
         statistics = self.service(answer(200))
         suite = self.install([CLIP_SAVER, TRACK_SAVER, PARTNER, SECOND_RUNNING])
         self.start_application(suite, SECOND_RUNNING)
-        common = self.prefix.unix_path(self.prefix.settings / "common.cfg")
-        store_settings(common, {"EventStatEnabled": 1, "Language": "en", "Location": "NL",
-                                **proxy_values(self.proxy(statistics)), **settings})
+        store_settings(self.common_file,
+                       {"EventStatEnabled": 1, "Language": "en", "Location": "NL",
+                        **proxy_values(self.proxy(statistics)), **settings})
         store_settings(suite.settings_folder(CLIP_SAVER) / "ClipSaver.cfg",
                        {"EventNumber": LAST_NUMBER})
 
@@ -116,12 +108,12 @@ class ExitSurvey(SuiteWithServices):
         for row in (0, 1, 3):
             program.main_window.toggle_row(row)
         program.main_window.press_uninstall()
-        gestures = iter(about_surveys)
+        next_reaction = iter(reactions)
 
         def accept_warning(warning):
             statistics.wait_for(len(expected))
             warning.press("Return")
-        titles = program.attend({SURVEY_TITLE: lambda survey: next(gestures)(survey),
+        titles = program.attend({SURVEY_TITLE: lambda survey: next(next_reaction)(survey),
                                  WARNING_TITLE: accept_warning})
         self.assertEqual(program.exit_code(), 0)
         self.assertEqual(titles, ["Uninstall Tessera Clip Saver", "Uninstall Tessera Track Saver",
@@ -143,17 +135,17 @@ class ExitSurvey(SuiteWithServices):
 
     def test_answers_with_the_store_opened_and_the_offer_escaped(self):
         self.check([answering("license", opening_the_store),
-                    answering("quality", escaping_the_offer)],
+                    answering("quality", escaping)],
                    surveyed("uninstall_quiz_license", *opened(VIDEO_OFFER))
                    + surveyed("uninstall_quiz_quality", *closed(VIDEO_OFFER)),
                    [VIDEO_ADDRESS])
 
-    def test_the_third_answer_with_the_offer_closed_and_a_silent_escape(self):
-        self.check([answering("features", closing_the_offer), pressing_enter_then_escaping],
+    def test_the_third_answer_with_the_offer_closed_and_an_escape_without_events(self):
+        self.check([answering("features", closing), pressing("Return", "Escape")],
                    surveyed("uninstall_quiz_features", *closed(VIDEO_OFFER)) + SHOW)
 
-    def test_skips_lead_to_the_offer_without_a_close_of_the_survey(self):
-        self.check([skipping(opening_the_store), skipping(escaping_the_offer)],
+    def test_a_skip_leads_to_the_offer_without_a_close_event_of_the_survey(self):
+        self.check([skipping(opening_the_store), skipping(escaping)],
                    skipped(*opened(VIDEO_OFFER)) + skipped(*closed(VIDEO_OFFER)),
                    [VIDEO_ADDRESS])
 
@@ -166,7 +158,7 @@ class ExitSurvey(SuiteWithServices):
                    clsv_uninst_ms_msldl_enabled=1, trksv_uninst_ms_msldl_enabled=0)
 
     def test_the_other_application_has_a_flag_of_its_own(self):
-        self.check([escaping, skipping(closing_the_offer)],
+        self.check([escaping, skipping(closing)],
                    SHOW + skipped(*closed(MUSIC_OFFER)),
                    clsv_uninst_ms_msldl_enabled="true", trksv_uninst_ms_msldl_enabled=1)
 

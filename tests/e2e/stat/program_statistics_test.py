@@ -1,9 +1,9 @@
-"""The unmodified program's own statistics: a person removes a surveyed application."""
+"""The statistics of the program while a surveyed application is removed."""
 
 import threading
 import unittest
 
-from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_values,
+from tests.e2e.stat.statistics_world import (GUID, SuiteWithServices, event_of, proxy_values,
                                              store_settings, stored_settings)
 from tests.harness import screen
 from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
@@ -14,7 +14,7 @@ SECOND_START_LIMIT = 10.0
 
 
 def skip_and_decline(survey):
-    """Closing the survey leads to the offer, and only then does the survey go."""
+    """Closing the survey shows the offer; the survey closes after it."""
     survey.press("alt+F4")
     screen.wait_for_window(OFFER_TITLE).press("Escape")
 
@@ -30,8 +30,8 @@ class ProgramStatistics(SuiteWithServices):
         statistics = self.service(answer(200))
         proxy = self.proxy(statistics, geo, ("ann", "secret"))
         suite = self.install([CLIP_SAVER, TRACK_SAVER, PARTNER, SECOND_RUNNING])
-        # Its warning keeps the program until every event has gone out: those that still wait when
-        # the program ends are dropped.
+        # Its warning stays open until every event has been sent: the program drops queued events
+        # when it ends.
         self.start_application(suite, SECOND_RUNNING)
         store_settings(self.common_file, {"EventStatEnabled": 1, "Language": "en",
                                           **proxy_values(proxy, "ann", "secret")})
@@ -39,7 +39,7 @@ class ProgramStatistics(SuiteWithServices):
                      "InstChannel": "web", "InstRef": "http://x/?a=b", "InstType": "full",
                      "TCBuildNum": "77", "Version": "4.2.0.17"}
         store_settings(self.application_file(CLIP_SAVER), installed)
-        # The second surveyed application does not start the statistics anew.
+        # The second surveyed application does not restart the statistics.
         store_settings(self.application_file(TRACK_SAVER), {"EventNumber": 500, "Version": "9"})
 
         program = self.start_program(suite, rows=4)
@@ -56,7 +56,7 @@ class ProgramStatistics(SuiteWithServices):
                                    "Uninstall Tessera Track Saver", "Uninstallation"])
 
         common = stored_settings(self.common_file)
-        self.assertRegex(common["ClientGuid"], "^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")
+        self.assertRegex(common["ClientGuid"], GUID)
         self.assertEqual(common["Location"], "NL")
         self.assertEqual([c.target for c in proxy.connects if not c.accepted], [])
         self.assertEqual(len(geo.received), 1)
@@ -80,7 +80,7 @@ class ProgramStatistics(SuiteWithServices):
                     "tc_build_num": installed["TCBuildNum"], "product_name": "",
                     "id_lmc_keys": ""})
 
-    def test_the_window_lives_while_the_country_is_awaited(self):
+    def test_the_window_stays_responsive_while_the_country_is_awaited(self):
         answered = threading.Event()
 
         def hold(connection, stopping):
@@ -94,11 +94,11 @@ class ProgramStatistics(SuiteWithServices):
         program.main_window.press_uninstall()
         geo.wait_for(1)
 
-        # A second start is answered by the first one's window, or it would wait for the country.
+        # The first copy's window answers a second start, which would otherwise wait for the country.
         second = self.prefix.start(
             self.prefix.unix_path(suite.program_folder) / "Uninstall.exe")
         self.assertEqual(second.wait(SECOND_START_LIMIT), 0)
-        # Clicks lead nowhere, and the window shows what it showed.
+        # Clicks have no effect.
         program.main_window.press_select_button()
         program.main_window.settled_picture()
         self.assertEqual(program.main_window.checked_rows(), [True, False])

@@ -1,11 +1,11 @@
-// The statistics of the program without its windows, steered by lines on standard input and
-// reporting on standard output. Each command is answered by one line.
+// The program's statistics without its windows, controlled by lines on standard input. Each command
+// is answered by one line on standard output.
 //
-//   start ID           the start-up sequence for the application; answer: milliseconds
-//   send NAME          one "click" event, posted in the background; answer: number microseconds
+//   start ID           runs the start-up for the application; answer: milliseconds
+//   send NAME          queues one "click" event; answer: number microseconds
 //   post NAME          the same, posted before the answer
 //   country            answer: the country for the statistics
-//   reread             reads common.cfg again; answer: ClientGuid Location
+//   reread             rereads common.cfg; answer: ClientGuid Location
 //
 // At the end of the input the process ends as the program does, with static destruction.
 
@@ -54,7 +54,7 @@ void reread()
     std::cout << common.getValue("ClientGuid", "-") << ' ' << common.getValue("Location", "-");
 }
 
-bool obey(const std::string& command, const std::string& argument)
+bool execute(const std::string& command, const std::string& argument)
 {
     if (command == "start")
         start(std::stoi(argument));
@@ -80,7 +80,7 @@ int main()
         std::string command;
         std::string argument;
         words >> command >> argument;
-        if (!obey(command, argument))
+        if (!execute(command, argument))
             return 2;
     }
     return 0;

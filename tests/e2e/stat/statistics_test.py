@@ -1,25 +1,23 @@
 """The program's statistics against a real HTTPS service behind a real proxy, under Wine."""
 
-import re
 import tempfile
 import time
 import unittest
 from pathlib import Path
 
-from tests.e2e.stat.statistics_world import (GEO_HOST, STATISTICS_HOST, LogLine, StatisticsCase,
-                                             event_of, proxy_values)
+from tests.e2e.stat.statistics_world import (GEO_HOST, GUID, STATISTICS_HOST, LogLine,
+                                             StatisticsCase, event_of, proxy_values)
 from tests.services.certificates import Authority
 from tests.services.http_service import (HttpService, answer, declared_size, header_names,
                                          reset_after_headers, reset_before_headers, slow_drip,
                                          stall, truncated)
 
-GUID = re.compile(r"[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")
 DELIVERED = LogLine(7, "AppEventStat", "ui/common/stat/app_event_stat:71", "stats::sendEvent: ok")
 LOOKUP_FAILED = LogLine(3, "MainForm", "ui/uninstall/src/widget:160",
                         "getOrCreateUserLocation | dlutil_getUserLocation returned error")
 POST_TIMEOUT = 10
 LOOKUP_TIMEOUT = 15
-# What a machine under load adds to a time-out, and what it may cost to queue an event.
+# Seconds that a busy machine may add to a time-out, and that queueing an event may take.
 TIMEOUT_SLACK = 4.0
 QUEUEING_LIMIT = 0.2
 BIG = 50 * 1024 * 1024
@@ -41,7 +39,7 @@ def looked_up(country):
 
 
 class Wire(StatisticsCase):
-    """What is sent, and what is stored."""
+    """The requests that are sent, and the settings that are stored."""
 
     def test_every_field_arrives_as_it_is_stored(self):
         geo = self.service(answer(200, b"never asked"))
@@ -164,7 +162,7 @@ class Wire(StatisticsCase):
 
 
 class Failures(StatisticsCase):
-    """What the services and the network can do to an event, and what the log tells of it."""
+    """Failures of services and network, and their messages in the log."""
 
     statistics = None
 
@@ -228,7 +226,7 @@ class Failures(StatisticsCase):
     def test_an_expired_certificate(self):
         expired = self.authority.server_context([STATISTICS_HOST],
                                                 ("20200101000000Z", "20200201000000Z"))
-        # libcurl has no code of its own for what Schannel says of an expired certificate.
+        # libcurl has no specific code for Schannel's error of an expired certificate.
         self.check(self.prepare(answer(200), tls=expired), 0, transport_error(35))
 
     def test_a_certificate_for_another_host(self):
@@ -283,7 +281,7 @@ class Failures(StatisticsCase):
 
 
 class Patience(StatisticsCase):
-    """Servers that keep the program waiting."""
+    """Servers that do not answer in time."""
 
     def start(self, behaviour):
         self.statistics = self.service(behaviour)
@@ -314,7 +312,7 @@ class Patience(StatisticsCase):
         self.check_bound(driver.post("x")[1], POST_TIMEOUT)
         self.assertEqual(self.log(), [transport_error(28)])
 
-    def test_the_exit_waits_for_the_post_under_way_only(self):
+    def test_the_exit_waits_only_for_the_post_in_flight(self):
         driver = self.start(stall)
         for _ in range(101):
             driver.send("x")

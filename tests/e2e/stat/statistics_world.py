@@ -1,4 +1,4 @@
-"""One Windows user's settings, the suite's two services and a proxy between them."""
+"""The surroundings of the statistics: a user's settings, the suite's two services, and a proxy."""
 
 import json
 import os
@@ -23,6 +23,7 @@ from tests.services.http_service import HttpService, Received
 STATISTICS_HOST = os.environ.get("TESSERA_STATS_HOST", "stats.tessera.example")
 GEO_HOST = os.environ.get("TESSERA_GEO_HOST", "geo.tessera.example")
 ANSWER_DEADLINE = 60.0
+GUID = "^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$"
 
 DRIVER = layout.WINE_TOOLS / "stat_driver.exe"
 TRUST_ROOT = layout.WINE_TOOLS / "trust_root.exe"
@@ -37,7 +38,7 @@ class LogLine:
 
 
 def event_of(request: Received) -> Dict[str, str]:
-    """The event in a request, through the standard library's form and JSON parsers."""
+    """The event in a request."""
     fields = urllib.parse.parse_qs(request.body.decode("utf-8"), strict_parsing=True,
                                    keep_blank_values=True)
     assert list(fields) == ["data"] and len(fields["data"]) == 1, fields
@@ -45,7 +46,7 @@ def event_of(request: Received) -> Dict[str, str]:
 
 
 class Driver:
-    """A running stat_driver. As a context manager it ends the process as a user would."""
+    """A running stat_driver. As a context manager it lets the process end normally."""
 
     def __init__(self, prefix: Prefix, environment: Optional[Dict[str, str]] = None):
         settings = {"KEELBASE_LOG_LEVEL": "7", **(environment or {})}
@@ -80,15 +81,15 @@ class Driver:
         return self.hear()
 
     def start(self, application: int = 60) -> int:
-        """Milliseconds of the start-up sequence."""
+        """Runs the start-up; returns its milliseconds."""
         return int(self.ask(f"start {application}"))
 
     def post(self, name: str) -> Tuple[int, float]:
-        """One event, posted before this returns: its number and its seconds."""
+        """Sends one event before it returns: the event's number, and seconds."""
         return self._event("post", name)
 
     def send(self, name: str) -> Tuple[int, float]:
-        """One event, posted in the background: its number and the seconds of the call."""
+        """Queues one event: its number, and the seconds of the call."""
         return self._event("send", name)
 
     def _event(self, command: str, name: str) -> Tuple[int, float]:
@@ -96,7 +97,7 @@ class Driver:
         return int(number), int(microseconds) / 1e6
 
     def end(self) -> None:
-        """Lets the process end, with everything that it still has to do."""
+        """Ends the process normally and waits for it."""
         self._process.stdin.close()
         code = self._process.wait(ANSWER_DEADLINE)
         if code != 0:
@@ -104,12 +105,12 @@ class Driver:
 
 
 class ServicesMixin:
-    """For a unittest.TestCase: services and proxies that end with the test, under certificates of
-    an authority of the class's own."""
+    """For a unittest.TestCase: services and proxies that end with the test. Each class has its own
+    certificate authority."""
 
     @classmethod
     def make_authority(cls) -> Path:
-        """To be called by setUpClass. Yields a folder that ends with the class."""
+        """To be called by setUpClass. Returns a folder that is removed after the class's tests."""
         folder = tempfile.TemporaryDirectory()
         cls.addClassCleanup(folder.cleanup)
         cls.authority = Authority(Path(folder.name) / "authority", "Throw-away test authority")
@@ -134,7 +135,7 @@ class ServicesMixin:
 
 
 def proxy_values(proxy: ConnectProxy, user: str = "", password: str = "") -> Dict[str, object]:
-    """What common.cfg says about the proxy."""
+    """The proxy's settings in common.cfg."""
     return {"ProxyType": 1, "ProxyAddress": "127.0.0.1", "ProxyPort": proxy.port,
             "ProxyUser": user, "ProxyPw": password}
 
@@ -145,7 +146,7 @@ def store_settings(file: Path, values: Dict[str, object]) -> None:
 
 
 def stored_settings(file: Path) -> Dict[str, str]:
-    """The file's pairs; a file that is not whole is an error."""
+    """The file's pairs. An incomplete last line and repeated keys are errors."""
     text = file.read_bytes().decode()
     assert text.endswith("\n"), text
     pairs = [line.split("=", 1) for line in text[:-1].split("\n")]
@@ -167,7 +168,7 @@ class SuiteWithServices(ServicesMixin, SuiteTestCase):
 
 
 class StatisticsCase(ServicesMixin, unittest.TestCase):
-    """One prefix for the class, trusting the authority; fresh settings for each test."""
+    """One prefix for the class, which trusts the authority."""
 
     @classmethod
     def setUpClass(cls):

@@ -1,5 +1,5 @@
-// trust_root FILE: lets the user of this Windows trust the certificate authority in the DER file.
-// For test prefixes; real Windows asks the user.
+// trust_root FILE: adds the certificate authority in the DER file to those that the user trusts.
+// For test prefixes: a real Windows asks the user first.
 
 #include <fstream>
 #include <iostream>

@@ -28,12 +28,12 @@ std::string numberedKey(int number)
     return "key" + std::string(9 - digits.size(), '0') + digits;
 }
 
-// A deadline that a working reader meets many times over, even under a sanitizer.
+// Far more than the parser needs, even under a sanitizer.
 constexpr std::chrono::seconds generous{60};
 
 } // namespace
 
-TEST(ConfigText, ReadsTheseTexts)
+TEST(ConfigText, FollowsTheReadingRules)
 {
     struct Case
     {
@@ -76,7 +76,7 @@ TEST(ConfigText, ReadsTheseTexts)
     }
 }
 
-TEST(ConfigText, AddsToWhatIsThereAndKeepsIt)
+TEST(ConfigText, AddsToExistingValuesAndKeepsThem)
 {
     ConfigValues values{{"b", "old"}, {"empty", ""}};
     parseConfigText("a=1\nb=2\nc=3\nempty=4\n", values);
@@ -162,7 +162,7 @@ TEST(ConfigText, ReadsBackWhatItWrote)
     EXPECT_EQ(parsed(serialiseConfig(values)), values);
 }
 
-TEST(ConfigChanges, CollectsCurrentValuesAndKeysThatAreGone)
+TEST(ConfigChanges, CollectsCurrentValuesAndMissingKeys)
 {
     const ConfigValues values{{"a", "1"}, {"b", ""}, {"c", "3"}};
     const ConfigChanges changes = collectChanges(values, {"a", "b", "missing"});

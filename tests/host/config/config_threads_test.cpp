@@ -10,7 +10,7 @@
 
 namespace fs {
 
-// Every thread saves after each of its own keys; the merge under the lock loses none.
+// Every thread saves after each of its own keys.
 TEST(ConfigThreads, ConcurrentSavesLoseNoKey)
 {
     constexpr int threadCount = 4;
@@ -42,7 +42,7 @@ TEST(ConfigThreads, ConcurrentSavesLoseNoKey)
     }
 }
 
-TEST(ConfigThreads, EveryOperationMayMeetEveryOther)
+TEST(ConfigThreads, AllOperationsMayRunConcurrently)
 {
     constexpr int rounds = 200;
     const host::TempFolder folder;
@@ -82,8 +82,7 @@ TEST(ConfigThreads, EveryOperationMayMeetEveryOther)
     EXPECT_EQ(config.reload(), sys::success);
 }
 
-// A load that is under way when the object gets another file must not bring in the old one's
-// values.
+// A load during a change of the file name must not add the old file's values.
 TEST(ConfigThreads, LoadNeverMixesTwoFiles)
 {
     const host::TempFolder folder;

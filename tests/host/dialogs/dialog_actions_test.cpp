@@ -15,7 +15,7 @@ TEST(DialogActions, ADialogThatAppearsIsSentAsShow)
     EXPECT_THAT(dialogActions(10, "offer_install_ms_store"), ElementsAre(DialogAction::sendShow));
 }
 
-TEST(DialogActions, EveryAnswerIsClickedBeforeAndAfterTheOffer)
+TEST(DialogActions, EveryAnswerIsSentAsClickBeforeAndAfterTheOffer)
 {
     for (const int code : {1, 2, 3}) {
         EXPECT_THAT(
@@ -25,7 +25,7 @@ TEST(DialogActions, EveryAnswerIsClickedBeforeAndAfterTheOffer)
     }
 }
 
-TEST(DialogActions, ASkippedSurveyIsOfferedWithoutAClose)
+TEST(DialogActions, ASkippedSurveyLeadsToTheOfferWithoutAClose)
 {
     EXPECT_THAT(dialogActions(6, "skip"),
                 ElementsAre(DialogAction::showOffer, DialogAction::sendClick));
@@ -49,7 +49,7 @@ TEST(DialogActions, OtherCodesAreIgnored)
         EXPECT_THAT(dialogActions(code, "skip"), IsEmpty()) << code;
 }
 
-TEST(DialogActions, OnlyClosingLooksAtTheName)
+TEST(DialogActions, OnlyClosingDependsOnTheName)
 {
     EXPECT_THAT(dialogActions(10, "skip"), ElementsAre(DialogAction::sendShow));
     EXPECT_THAT(dialogActions(4, "skip"),

@@ -49,7 +49,7 @@ TEST(StoreOffer, OtherApplicationsAreOfferedTheVideoPartnerWhateverTheFlag)
     }
 }
 
-TEST(StoreOffer, PartnersBringTheirProductAndText)
+TEST(StoreOffer, EachPartnerHasItsProductAndText)
 {
     const auto& video = choosePartner(60, false);
     EXPECT_STREQ(video.productId, "XP9EXAMPLE0064");

@@ -1,12 +1,11 @@
-"""Includes go down: a folder uses only the folders that its entry here allows."""
+"""A folder includes only from the folders that its entry here allows."""
 
 import re
 import unittest
-from pathlib import Path
 
-REPOSITORY = Path(__file__).resolve().parents[3]
+from tests.harness.layout import REPOSITORY
 
-# Each folder with those it may include from, besides itself.
+# Each folder with those that it may include from, besides itself.
 SYSTEM = ["support/win32", "support/keelbase", "ui/common/sys"]
 CONFIG = [*SYSTEM, "ui/common/config"]
 STATISTICS = [*CONFIG, "support/netpull", "ui/common/stat"]
@@ -47,7 +46,7 @@ def sources() -> list:
 
 class IncludeDirections(unittest.TestCase):
 
-    def test_every_include_goes_down(self):
+    def test_every_include_is_allowed(self):
         files = sources()
         self.assertGreater(len(files), 100)
         wrong = []
@@ -56,7 +55,7 @@ class IncludeDirections(unittest.TestCase):
             wrong += wrong_includes(path, file.read_text(encoding="utf-8"))
         self.assertEqual(wrong, [])
 
-    def test_includes_that_go_up_are_found(self):
+    def test_forbidden_includes_are_found(self):
         planted = {
             "support/keelbase/log.cpp": "ui/common/sys/folders.h",
             "ui/common/sys/folders.cpp": "ui/uninstall/src/app_catalogue.h",

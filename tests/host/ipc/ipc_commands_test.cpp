@@ -39,19 +39,19 @@ constexpr AnswerSource handle = AnswerSource::windowHandle;
 
 INSTANTIATE_TEST_SUITE_P(
     Words, MessagePlan,
-    testing::Values(
-        PlanCase{u"/show", restore, hook, u""}, PlanCase{u"a/showb", restore, hook, u"ab"},
-        PlanCase{u"/show/minimized", minimize, none, u""},
-        PlanCase{u"/minimized/show", minimize, none, u""},
-        PlanCase{u"/minimized and then /show", minimize, none, u""},
-        // The minimising message is answered by nothing, not even by the handle asked for.
-        PlanCase{u"/show /minimized /gethwnd", minimize, none, u""},
-        PlanCase{u"/gethwnd", nothing, handle, u""},
-        PlanCase{u"/show /gethwnd", restore, handle, u""},
-        PlanCase{u"/gethwnd/show", restore, handle, u""},
-        PlanCase{u"/minimized /gethwnd", nothing, handle, u""},
-        PlanCase{u"/minimized", nothing, hook, u""},
-        PlanCase{u"x /minimized y", nothing, hook, u"x  y"}));
+    testing::Values(PlanCase{u"/show", restore, hook, u""},
+                    PlanCase{u"a/showb", restore, hook, u"ab"},
+                    PlanCase{u"/show/minimized", minimize, none, u""},
+                    PlanCase{u"/minimized/show", minimize, none, u""},
+                    PlanCase{u"/minimized and then /show", minimize, none, u""},
+                    // A minimising message has no answer, not even the requested handle.
+                    PlanCase{u"/show /minimized /gethwnd", minimize, none, u""},
+                    PlanCase{u"/gethwnd", nothing, handle, u""},
+                    PlanCase{u"/show /gethwnd", restore, handle, u""},
+                    PlanCase{u"/gethwnd/show", restore, handle, u""},
+                    PlanCase{u"/minimized /gethwnd", nothing, handle, u""},
+                    PlanCase{u"/minimized", nothing, hook, u""},
+                    PlanCase{u"x /minimized y", nothing, hook, u"x  y"}));
 
 INSTANTIATE_TEST_SUITE_P(NoWords, MessagePlan,
                          testing::Values(PlanCase{u"", nothing, hook, u""},
@@ -65,9 +65,9 @@ INSTANTIATE_TEST_SUITE_P(NoWords, MessagePlan,
 INSTANTIATE_TEST_SUITE_P(
     Removal, MessagePlan,
     testing::Values(PlanCase{u"1/show2/show3", restore, hook, u"123"},
-                    // What grows together by a removal stays.
+                    // A word that a removal joins together stays.
                     PlanCase{u"/sh/showow", restore, hook, u"/show"},
-                    // "/show" goes first, so that a word grown by it is still found.
+                    // "/show" is removed first, so that a word joined by that is still found.
                     PlanCase{u"/mini/showmized", restore, hook, u""},
                     PlanCase{u"/get/showhwnd", restore, hook, u""},
                     PlanCase{u"/s/minimizedhow", nothing, hook, u"/show"}));
@@ -93,7 +93,7 @@ TEST(BringsWindowUp, OnlyByShowWithoutMinimized)
         EXPECT_EQ(sys::bringsWindowUp(c.message), c.expected) << c.message;
 }
 
-TEST(AnswerRevives, WhereverTheWordStandsInItsOwnCase)
+TEST(AnswerRevives, IfItContainsTheWordInLowerCase)
 {
     EXPECT_TRUE(sys::answerRevives("revive"));
     EXPECT_TRUE(sys::answerRevives("please revive now"));
@@ -107,7 +107,7 @@ TEST(ShowMessage, IsTheShowWord)
     EXPECT_EQ(sys::showMessage(), "/show");
 }
 
-TEST(JoinArguments, PutsOneSpaceBetweenNeighboursAndNoneOutside)
+TEST(JoinArguments, PutsOneSpaceBetweenArguments)
 {
     struct Case
     {

@@ -75,7 +75,7 @@ TEST_F(LogFile, HoldsMessagesUpToTheLevel)
     EXPECT_EQ(texts(), (std::vector<std::string>{"error", "information"}));
 }
 
-TEST_F(LogFile, BracesInATextAreNoFormat)
+TEST_F(LogFile, TextsAreNotFormatStrings)
 {
     write(*logger(), "{} {0} %v %% {");
     EXPECT_EQ(texts(), std::vector<std::string>{"{} {0} %v %% {"});
@@ -95,7 +95,7 @@ TEST_F(LogFile, RotatesBySizeAndKeepsThreeOlderFiles)
         all.insert(all.end(), part.begin(), part.end());
     }
     EXPECT_FALSE(folder.holds("logs/Program.4.log"));
-    // The newest are there, in order and without a gap.
+    // The newest messages remain, in order and without a gap.
     ASSERT_LT(all.size(), 50U);
     const int first = 50 - static_cast<int>(all.size());
     for (std::size_t index = 0; index < all.size(); ++index)
@@ -117,13 +117,13 @@ TEST_F(LogFile, FolderThatIsRemovedWhileTheProgramRunsStaysRemoved)
     for (int number = 0; number < 10; ++number)
         write(*open, "dropped");
     EXPECT_FALSE(folder.holds("logs"));
-    // Somebody else brings it back: the log goes on.
+    // Once something else recreates it, logging continues.
     std::filesystem::create_directories(folder.narrowPath("logs"));
     write(*open, "second");
     EXPECT_EQ(texts(), std::vector<std::string>{"second"});
 }
 
-TEST_F(LogFile, FileThatIsRemovedWhileTheProgramRunsIsMadeAgain)
+TEST_F(LogFile, FileThatIsRemovedWhileTheProgramRunsIsRecreated)
 {
     const auto open = logger();
     write(*open, "first");
@@ -132,7 +132,7 @@ TEST_F(LogFile, FileThatIsRemovedWhileTheProgramRunsIsMadeAgain)
     EXPECT_EQ(texts(), std::vector<std::string>{"second"});
 }
 
-TEST_F(LogFile, EachProgramsFirstMessageMakesTheFolders)
+TEST_F(LogFile, FirstMessageOfALoggerCreatesTheFolders)
 {
     write(*logger(), "first");
     std::filesystem::remove_all(folder.narrowPath("logs"));
@@ -140,7 +140,7 @@ TEST_F(LogFile, EachProgramsFirstMessageMakesTheFolders)
     EXPECT_EQ(texts(), std::vector<std::string>{"second"});
 }
 
-TEST_F(LogFile, FolderInPlaceOfTheFileIsBorne)
+TEST_F(LogFile, FolderInPlaceOfTheFileIsTolerated)
 {
     std::filesystem::create_directories(folder.narrowPath("logs/Program.log"));
     const auto open = logger();
@@ -149,7 +149,7 @@ TEST_F(LogFile, FolderInPlaceOfTheFileIsBorne)
     EXPECT_TRUE(std::filesystem::is_empty(folder.narrowPath("logs/Program.log")));
 }
 
-TEST_F(LogFile, FileInPlaceOfTheFolderIsBorne)
+TEST_F(LogFile, FileInPlaceOfTheFolderIsTolerated)
 {
     folder.write("logs", "somebody's file");
     const auto open = logger();
@@ -193,7 +193,7 @@ TEST_F(LogFile, GivesUpSoonWhenTheFileNeverOpens)
 
 TEST_F(LogFile, RotationThatFailsKeepsTheNewestMessages)
 {
-    // A folder with something in it where an older file should go: it cannot be replaced.
+    // A folder that is not empty, in the place of an older file, cannot be replaced.
     std::filesystem::create_directories(folder.narrowPath("logs/Program.1.log/occupied"));
     const auto open = logger({500, 1});
     for (int number = 0; number < 20; ++number)
@@ -204,7 +204,7 @@ TEST_F(LogFile, RotationThatFailsKeepsTheNewestMessages)
     EXPECT_EQ(std::stoi(kept.back()), 19);
 }
 
-TEST_F(LogFile, FullDiskIsBorne)
+TEST_F(LogFile, FullDiskIsTolerated)
 {
     if (!std::filesystem::exists("/dev/full"))
         GTEST_SKIP() << "this machine has no /dev/full";
@@ -213,13 +213,13 @@ TEST_F(LogFile, FullDiskIsBorne)
     const auto open = logger();
     for (int number = 0; number < 10; ++number)
         write(*open, "lost");
-    // Room again: the log goes on, however many messages were lost.
+    // With free space logging continues, however many messages were lost.
     std::filesystem::remove(folder.narrowPath("logs/Program.log"));
     write(*open, "written");
     EXPECT_EQ(texts(), std::vector<std::string>{"written"});
 }
 
-TEST_F(LogFile, ThreadsWriteWholeLinesEachInItsOrder)
+TEST_F(LogFile, ThreadsWriteWholeLinesInTheirOwnOrder)
 {
     const auto open = logger();
     constexpr int threadCount = 4;

@@ -33,7 +33,7 @@ TEST(LogLine, ControlBytesAreShownAsNumbers)
               "6 c s:1 | a\\x00b\\x1B[31m\\x7F\\t\\x1F");
 }
 
-TEST(LogLine, NonAsciiTextAndBackslashesStayAsTheyAre)
+TEST(LogLine, NonAsciiTextAndBackslashesAreKept)
 {
     const std::string text = "C:\\new\\Gr\xC3\xBC\xC3\x9F"
                              "e \xE8\xA9\xA6";
@@ -46,7 +46,7 @@ TEST(LogLine, TextOfTheMaximumSizeIsWhole)
     EXPECT_EQ(composeLine({6, "c", "s", 1, text}), "6 c s:1 | " + text);
 }
 
-TEST(LogLine, LongerTextIsCutAndSaysSo)
+TEST(LogLine, LongerTextIsCutWithANotice)
 {
     EXPECT_EQ(composeLine({6, "c", "s", 1, std::string(maximumTextSize + 1, 'x')}),
               "6 c s:1 | " + std::string(maximumTextSize, 'x') + "... (1 bytes more)");
@@ -59,7 +59,7 @@ TEST(LogLine, CutFallsBetweenCharacters)
               "6 c s:1 | " + std::string(maximumTextSize - 1, 'x') + "... (3 bytes more)");
 }
 
-TEST(LogLine, CutOfATextThatIsNotUtf8KeepsNothingRatherThanReadingOutside)
+TEST(LogLine, CutOfContinuationBytesKeepsNothing)
 {
     EXPECT_EQ(composeLine({6, "c", "s", 1, std::string(maximumTextSize + 5, '\x80')}),
               "6 c s:1 | ... (" + std::to_string(maximumTextSize + 5) + " bytes more)");

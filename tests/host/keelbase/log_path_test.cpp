@@ -10,12 +10,12 @@ TEST(LogPath, IsTheProgramsNameInTheLogFolderOfTheSettings)
               std::filesystem::path("/roaming/Suite/logs/Some Program.log"));
 }
 
-TEST(LogPath, WithoutAKnownFolderThereIsNone)
+TEST(LogPath, IsEmptyWithoutAKnownFolder)
 {
     EXPECT_EQ(logFileBelow("", "Suite", "/programs/Program.exe"), std::filesystem::path());
 }
 
-TEST(LogPath, WithoutAProgramThereIsNone)
+TEST(LogPath, IsEmptyWithoutAProgram)
 {
     EXPECT_EQ(logFileBelow("/roaming", "Suite", ""), std::filesystem::path());
 }

@@ -18,7 +18,7 @@ constexpr Keelbase::LogSource source{"c", "s"};
 
 } // namespace
 
-TEST(Logger, CreateLoggerSucceedsWithoutAPlaceForALog)
+TEST(Logger, CreateLoggerSucceedsWithoutALogFolder)
 {
     Keelbase::setLogger(nullptr);
     Keelbase::LoggerHandle logger;
@@ -28,7 +28,7 @@ TEST(Logger, CreateLoggerSucceedsWithoutAPlaceForALog)
     logger->write({6, "category", "source", 1, "goes nowhere"});
 }
 
-TEST(Logger, CreateLoggerYieldsTheProcesssLogger)
+TEST(Logger, CreateLoggerReturnsTheLoggerOfTheProcess)
 {
     const RecordedLog log;
     Keelbase::LoggerHandle first;
@@ -39,7 +39,7 @@ TEST(Logger, CreateLoggerYieldsTheProcesssLogger)
     EXPECT_EQ(second, log.handle());
 }
 
-TEST(Logger, MessageIsHandedOverWhenItsStreamEnds)
+TEST(Logger, MessageIsWrittenWhenItsStreamEnds)
 {
     const RecordedLog log;
     {
@@ -65,13 +65,13 @@ TEST(Logger, MessageIsAnOutputStringStream)
     EXPECT_EQ(message.str(), "text");
 }
 
-TEST(Logger, MessageWithoutALoggerGoesNowhere)
+TEST(Logger, MessageWithoutALoggerIsDropped)
 {
     CLogMsgMultibyte message(nullptr, 6, "c", "s", 1);
     message << "text";
 }
 
-TEST(Logger, LogComposesOnlyWhatTheLevelAsksFor)
+TEST(Logger, LogComposesOnlyMessagesUpToTheLevel)
 {
     for (const int level : {0, 3, 6, 7}) {
         const RecordedLog log(level);

@@ -1,4 +1,4 @@
-"""The translation sources hold every text of the program, finished, and nothing else."""
+"""The translation sources hold exactly the program's texts, all translated."""
 
 import pathlib
 import re
@@ -8,13 +8,18 @@ import tempfile
 import unittest
 import xml.etree.ElementTree as ET
 
-ROOT = pathlib.Path(__file__).resolve().parents[3]
-LANGUAGES = ROOT / "ui/uninstall/resources/languages"
+from tests.harness.layout import REPOSITORY
+
+LANGUAGES = REPOSITORY / "ui/uninstall/resources/languages"
 SUFFIXES = [line.split()[0]
             for line in (LANGUAGES / "languages.txt").read_text(encoding="ascii").splitlines()
             if not line.startswith("#")]
-# A place marker has one or two digits; Turkish writes "%100".
-MARKUP = re.compile(r"%\d{1,2}(?!\d)|</?\w+\s*/?>|\n")
+
+# A translation must keep the source's place markers (%1), tags (<br>) and line breaks. A marker has at
+# most two digits: in Turkish "%100" is a percentage.
+PLACE_MARKER = r"%\d{1,2}(?!\d)"
+TAG = r"</?\w+\s*/?>"
+KEPT = re.compile(f"{PLACE_MARKER}|{TAG}|\n")
 
 
 def messages(catalogue):
@@ -35,7 +40,7 @@ class TranslationSources(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             copies = [shutil.copy(LANGUAGES / f"uninstall_{suffix}.ts", folder)
                       for suffix in SUFFIXES]
-            subprocess.run([ROOT / "tools/translations/update.sh", *copies], check=True)
+            subprocess.run([REPOSITORY / "tools/translations/update.sh", *copies], check=True)
             for copy in map(pathlib.Path, copies):
                 with self.subTest(copy.name):
                     original = (LANGUAGES / copy.name).read_text(encoding="utf-8")
@@ -63,14 +68,14 @@ class TranslationSources(unittest.TestCase):
             for _, message in messages(LANGUAGES / f"uninstall_{suffix}.ts"):
                 source, translation = message.findtext("source"), message.findtext("translation")
                 with self.subTest(suffix, text=source):
-                    self.assertEqual(sorted(MARKUP.findall(translation)),
-                                     sorted(MARKUP.findall(source)))
+                    self.assertEqual(sorted(KEPT.findall(translation)),
+                                     sorted(KEPT.findall(source)))
                     self.assertEqual(translation.startswith(" "), source.startswith(" "))
                     self.assertEqual(translation.endswith(" "), source.endswith(" "))
-                    # None of our texts has a mnemonic; a lone "&" would vanish from a button.
+                    # A button hides a single "&", and no text has a mnemonic.
                     self.assertNotIn("&", translation)
-                    # Where a name is put in, "%100" would be taken for the marker "%10".
-                    if "%1" in MARKUP.findall(source):
+                    # When a name is inserted, "%100" would be read as the marker "%10".
+                    if "%1" in KEPT.findall(source):
                         self.assertEqual(re.findall(r"%\d+", translation), ["%1"])
 
     def test_the_description_of_the_music_downloader_is_translated(self):
@@ -79,8 +84,8 @@ class TranslationSources(unittest.TestCase):
                 with self.subTest(suffix, text=message.findtext("source")):
                     self.assertNotIn("Music Downloader", message.findtext("translation"))
 
-    def test_the_warning_says_what_cancel_ends(self):
-        """It ends the removal: the text has a word of that language for it, as the title has."""
+    def test_the_warning_says_that_cancel_ends_the_removal(self):
+        """The text contains the beginning of the title, which is that language's word for it."""
         for suffix in SUFFIXES:
             texts = {message.findtext("source"): message.findtext("translation")
                      for _, message in messages(LANGUAGES / f"uninstall_{suffix}.ts")}

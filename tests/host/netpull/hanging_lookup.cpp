@@ -1,5 +1,4 @@
-// A name service that never answers: takes the place of the system's in the program that this is
-// linked into.
+// Replaces the name service of the program that it is linked into by one that never answers.
 
 #include <netdb.h>
 #include <unistd.h>

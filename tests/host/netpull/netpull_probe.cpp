@@ -1,10 +1,9 @@
-// One request by command line, for the tests that talk to local servers:
+// Sends one request, for the tests with local servers:
 //
 //   netpull_probe METHOD URL [name=value ...]
 //
-// Names are data, dataSize (so many "x"), header, proxy, proxyPort, proxyUser, proxyPassword,
-// timeout, connect, longest, httpVersion and largestBlock (more bytes than that cannot be had from
-// operator new at once).
+// Names are data, dataSize (a text of "x"), header, proxy, proxyPort, proxyUser, proxyPassword,
+// timeout, connect, longest, httpVersion and largestBlock (operator new fails for larger blocks).
 // Prints transport code, HTTP status, milliseconds and size of the body, then the body itself.
 
 #include "support/netpull/netpull.h"

@@ -1,4 +1,4 @@
-"""netpull against local servers: what goes over the wire, and what comes of every failure."""
+"""netpull against local servers: its requests, and the outcome of every failure."""
 
 import base64
 import os
@@ -59,7 +59,7 @@ def get(port: int, **options) -> Outcome:
 
 
 class Requests(unittest.TestCase):
-    def test_get_sends_nothing_beyond_what_http_asks_for(self):
+    def test_get_sends_only_required_headers(self):
         with HttpService(answer(200, b"text")) as service:
             outcome = get(service.port)
         self.assertEqual((outcome.code, outcome.status, outcome.body), (0, 200, b"text"))
@@ -68,7 +68,7 @@ class Requests(unittest.TestCase):
                          ("GET", "/where?a=b", b""))
         self.assertEqual(set(header_names(request)), {"host", "accept"})
 
-    def test_post_sends_the_form_and_its_one_header(self):
+    def test_post_sends_the_form_and_its_header(self):
         with HttpService(answer(200)) as service:
             outcome = fetch("POST", f"http://127.0.0.1:{service.port}/form", data='data="x"&%7B',
                             header="Content-Type: text/special")
@@ -79,8 +79,8 @@ class Requests(unittest.TestCase):
         self.assertEqual(set(headers), {"host", "accept", "content-type", "content-length"})
         self.assertEqual(headers["content-type"], "text/special")
 
-    def test_a_long_post_goes_out_at_once(self):
-        # libcurl asks for "100 Continue" from 1 MiB on, and waits a second for it.
+    def test_a_long_post_is_sent_without_waiting(self):
+        # By default libcurl asks for "100 Continue" from 1 MiB on, and waits a second for it.
         with HttpService(answer(200)) as service:
             url = f"http://127.0.0.1:{service.port}/form"
             outcome = fetch("POST", url, dataSize=2_000_000)
@@ -96,7 +96,7 @@ class Requests(unittest.TestCase):
         self.assertEqual(service.received[0].method, "POST")
         self.assertEqual(header_names(service.received[0])["content-length"], "0")
 
-    def test_the_environments_proxies_do_not_count(self):
+    def test_proxies_of_the_environment_are_ignored(self):
         with HttpService(answer(200)) as service:
             dead = "http://127.0.0.1:1"
             outcome = get(service.port, environment={"http_proxy": dead, "all_proxy": dead})
@@ -111,7 +111,7 @@ class Answers(unittest.TestCase):
         self.assertEqual(len(service.received), 1)
         return outcome
 
-    def test_every_status_is_handed_over_with_its_body(self):
+    def test_every_status_is_returned_with_its_body(self):
         for status in (200, 301, 400, 404, 500, 503):
             with self.subTest(status):
                 self.check(answer(status, b"body"), 0, status, b"body")
@@ -121,11 +121,11 @@ class Answers(unittest.TestCase):
             with self.subTest(status):
                 self.check(answer(status, b"", "Location: /elsewhere"), 0, status)
 
-    def test_the_body_keeps_all_its_bytes(self):
+    def test_the_body_may_hold_any_bytes(self):
         body = bytes(range(256)) * 10
         self.check(answer(200, body), 0, 200, body)
 
-    def test_the_longest_body_is_taken(self):
+    def test_the_longest_allowed_body_is_accepted(self):
         self.check(answer(200, b"y" * ANSWER_LIMIT), 0, 200, b"y" * ANSWER_LIMIT)
 
     def test_a_declared_long_body_is_refused(self):
@@ -142,7 +142,7 @@ class Answers(unittest.TestCase):
         self.assertLessEqual(len(outcome.body), ANSWER_LIMIT)
         self.assertLess(outcome.seconds, 5)
 
-    def test_an_answer_that_memory_cannot_hold_is_an_error(self):
+    def test_an_answer_too_large_for_memory_is_an_error(self):
         with HttpService(answer(200, b"y" * ANSWER_LIMIT)) as service:
             outcome = get(service.port, largestBlock=ANSWER_LIMIT // 4)
         self.assertEqual((outcome.code, outcome.status), (WRITE_ERROR, 200))
@@ -179,7 +179,7 @@ class Limits(unittest.TestCase):
         with HttpService(slow_drip) as service:
             self.check_time(get(service.port, timeout=1), 1)
 
-    def test_the_longest_duration_counts_when_it_is_shorter(self):
+    def test_the_longest_duration_applies_when_it_is_shorter(self):
         with HttpService(stall) as service:
             self.check_time(get(service.port, timeout=9, longest=1), 1)
 
@@ -270,7 +270,7 @@ class Proxies(unittest.TestCase):
     URL = "https://service.example/path"
 
     def through(self, credentials=None, tls=None, **options):
-        """One HTTPS request through a proxy to a server that nobody here trusts."""
+        """Sends one HTTPS request through a proxy to an untrusted server."""
         with tempfile.TemporaryDirectory() as folder, \
                 HttpService(answer(200), tls=self.context(Path(folder))) as service, \
                 ConnectProxy({"service.example:443": service.port}, credentials) as proxy:
@@ -311,14 +311,14 @@ class Proxies(unittest.TestCase):
             outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=proxy.port)
         self.assertEqual((outcome.code, outcome.status), (RECEIVE_ERROR, 0))
 
-    def test_the_environments_exceptions_do_not_count(self):
+    def test_proxy_exceptions_of_the_environment_are_ignored(self):
         with ConnectProxy({}) as proxy:
             outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=proxy.port,
                             environment={"no_proxy": "*"})
             self.assertEqual(len(proxy.connects), 1)
         self.assertEqual(outcome.code, RECEIVE_ERROR)
 
-    def test_ports_that_cannot_be_are_refused(self):
+    def test_impossible_ports_are_refused(self):
         for port in (0, -1, 65536):
             with self.subTest(port):
                 outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=port)

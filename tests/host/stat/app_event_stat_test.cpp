@@ -16,11 +16,11 @@ namespace {
 
 constexpr auto deadline = 60s;
 
-// The helper with a life of its own, beside the process-wide one.
+// A helper of the test's own, independent of the process-wide one.
 class Helper : public stats::AppStatHelper
 {};
 
-// Counts the requests that have been answered, and lets a test wait for them.
+// Counts answered requests and waits for them.
 class AnswerCounter
 {
 public:
@@ -42,7 +42,7 @@ private:
     int answers = 0;
 };
 
-// The event's body as it was before the form encoding.
+// The event's body, decoded.
 std::string bodyOf(const netpull::Request& request)
 {
     std::string body;
@@ -114,7 +114,7 @@ TEST_F(AppEventStat, SendsNothingWithoutParameters)
     EXPECT_TRUE(scripted::requests().empty());
 }
 
-TEST_F(AppEventStat, NumbersFromTheStoredNumberAndKeepsGivenNumbers)
+TEST_F(AppEventStat, CountsFromTheStoredNumberAndKeepsGivenNumbers)
 {
     scripted::answerInOrder(std::vector<netpull::Response>(5, status(200)));
     helper.init(params, true, 7);
@@ -129,7 +129,7 @@ TEST_F(AppEventStat, NumbersFromTheStoredNumberAndKeepsGivenNumbers)
     EXPECT_EQ(sent, (std::vector<std::string>{"8", "9", "10", "42", "11"}));
 }
 
-TEST_F(AppEventStat, WritesNumberAndTestMarkIntoTheSharedSet)
+TEST_F(AppEventStat, WritesNumberAndTestMarkToTheSharedParameters)
 {
     scripted::answerInOrder({status(200)});
     helper.init(params, true, 0);
@@ -139,7 +139,7 @@ TEST_F(AppEventStat, WritesNumberAndTestMarkIntoTheSharedSet)
     EXPECT_EQ(params->get("SRC"), "");
 }
 
-TEST_F(AppEventStat, TakesTheValuesCurrentAtTheCall)
+TEST_F(AppEventStat, UsesTheValuesAtTheTimeOfTheCall)
 {
     scripted::answerInOrder({status(200), status(200)});
     helper.init(params, true, 0);
@@ -151,7 +151,7 @@ TEST_F(AppEventStat, TakesTheValuesCurrentAtTheCall)
     EXPECT_EQ(memberOf(scripted::requests()[1], "ver"), "2");
 }
 
-TEST_F(AppEventStat, GoesOnFromTheLargestStoredNumber)
+TEST_F(AppEventStat, CountsOnFromTheLargestNumberToTheSmallest)
 {
     scripted::answerInOrder({status(200)});
     helper.init(params, true, std::numeric_limits<int>::max());
@@ -253,7 +253,7 @@ TEST_F(AppEventStat, LogsATransportErrorAndDoesNotRepeat)
                   "7 AppEventStat ui/common/stat/app_event_stat:68 stats::sendEvent: curl 28"});
 }
 
-TEST_F(AppEventStat, RepeatsARejectedPostOnceAndLogsNothingWhenThatIsTaken)
+TEST_F(AppEventStat, RepeatsARejectedPostOnceAndLogsNothingWhenThatIsAccepted)
 {
     scripted::answerInOrder({status(500, "first"), status(200)});
     helper.init(params, true, 0);
@@ -321,7 +321,7 @@ TEST_F(AppEventStat, ReturnsBeforeTheServiceAnswers)
     EXPECT_TRUE(counter.waitFor(3));
 }
 
-TEST_F(AppEventStat, SendsAThousandEventsOfEightThreadsOneByOneAndInOrder)
+TEST_F(AppEventStat, SendsEventsOfManyThreadsOneByOneAndInOrder)
 {
     constexpr int threadCount = 8;
     constexpr int eventsEach = 125;
@@ -354,7 +354,7 @@ TEST_F(AppEventStat, SendsAThousandEventsOfEightThreadsOneByOneAndInOrder)
         const std::string body = bodyOf(request);
         const int number = std::stoi(memberOf(body, "event_number"));
         int& last = lastOfThread[memberOf(body, "src")];
-        EXPECT_GT(number, last) << "the events of one thread arrive in its order";
+        EXPECT_GT(number, last) << "the events of one thread arrive in order";
         last = number;
         numbers.insert(number);
     }
@@ -373,7 +373,8 @@ TEST_F(AppEventStat, CompletesThePostUnderWayAtTheEndAndDropsTheRest)
             firstStarted.set_value();
         while (!ending)
             std::this_thread::yield();
-        std::this_thread::sleep_for(10ms); // what a quick service needs
+        // All 101 posts take longer than the helper's end needs to stop the queue.
+        std::this_thread::sleep_for(10ms);
         ++completed;
         return status(200);
     });

@@ -40,7 +40,7 @@ TEST(EventBody, HoldsTheNineteenMembersInOrder)
               R"("id_lmc_keys":""})");
 }
 
-TEST(EventBody, OfAnEmptySetHasEveryMemberEmptyButTheTexts)
+TEST(EventBody, OfNoParametersHasOnlyItsTexts)
 {
     EXPECT_EQ(buildEventBody({}, {"t", "s", "it", "i"}),
               R"({"guid":"","country_id":"","pid":"","adv_type":"","camp_type":"","appid":"",)"
@@ -60,13 +60,13 @@ TEST(EventBody, IsCutAtAnAmpersandBeforeAnUnknownMember)
     TemplateParams params = everything();
     params.set("INSTREF", "site&more", true);
     const std::string body = buildEventBody(params, {"show", "offer", "", ""});
-    // Both members without a value follow: the first takes the text back to the "&", the second
-    // finds no other.
+    // Two members without a value follow: the first cuts the text at the "&", the second finds no
+    // other "&".
     EXPECT_NE(body.find(R"("inst_ref":"site","id_lmc_keys":""})"), std::string::npos) << body;
     EXPECT_EQ(body.find("tc_build_num"), std::string::npos);
 }
 
-TEST(EventBody, PrefersTheSharedSetsOwnTexts)
+TEST(EventBody, PrefersTextsAmongTheParameters)
 {
     TemplateParams params = everything();
     params.set({{"SRC", "shared src"}, {"INFO", "shared info"}}, true);
@@ -76,7 +76,7 @@ TEST(EventBody, PrefersTheSharedSetsOwnTexts)
               std::string::npos);
 }
 
-TEST(EventBody, LeavesTheSharedSetAsItIs)
+TEST(EventBody, LeavesTheParametersUnchanged)
 {
     const TemplateParams params = everything();
     buildEventBody(params, {"type", "src", "kind", "info"});

@@ -20,7 +20,7 @@ class ReadProxySettings : public StatTest
 
 } // namespace
 
-TEST_F(HttpPostForm, TakesTheDefaultTimeoutBelowOneSecond)
+TEST_F(HttpPostForm, UsesTheDefaultTimeoutBelowOneSecond)
 {
     EXPECT_EQ(requestWithTimeout(0).timeoutSeconds, 10);
     EXPECT_EQ(requestWithTimeout(-5).timeoutSeconds, 10);
@@ -36,7 +36,7 @@ TEST_F(HttpPostForm, RaisesTheLongestDurationWithALongTimeout)
     EXPECT_EQ(requestWithTimeout(40).longestSeconds, 40);
 }
 
-TEST_F(HttpPostForm, HandsTheAnswerOver)
+TEST_F(HttpPostForm, ReturnsTheAnswer)
 {
     scripted::answerInOrder({{7, 418, "text"}});
     const stats::StatsPostResult result = stats::httpPostForm("https://h/p", "b", 0);
@@ -70,7 +70,7 @@ TEST_F(ReadProxySettings, AreOnForEveryOtherType)
     }
 }
 
-TEST_F(ReadProxySettings, TakePort80WhenNoneIsStored)
+TEST_F(ReadProxySettings, UsePort80WhenNoneIsStored)
 {
     storeCommon("ProxyAddress=gate\nProxyType=1\n");
     EXPECT_EQ(stats::readProxySettings().port, 80);
@@ -78,7 +78,7 @@ TEST_F(ReadProxySettings, TakePort80WhenNoneIsStored)
     EXPECT_EQ(stats::readProxySettings().port, 80);
 }
 
-TEST_F(ReadProxySettings, TakeTheStoredValuesAsTheyAre)
+TEST_F(ReadProxySettings, KeepTheStoredValuesUnchanged)
 {
     storeCommon(
         "ProxyAddress= gate \nProxyPort=8080x\nProxyPw= p=w \nProxyType=1\nProxyUser=\xC3\xA4\n");
@@ -89,7 +89,7 @@ TEST_F(ReadProxySettings, TakeTheStoredValuesAsTheyAre)
     EXPECT_EQ(proxy.password, " p=w ");
 }
 
-TEST_F(ReadProxySettings, TakeAPortThatIsNoNumberAsZero)
+TEST_F(ReadProxySettings, ReadAPortThatIsNoNumberAsZero)
 {
     storeCommon("ProxyAddress=gate\nProxyPort=web\nProxyType=1\n");
     EXPECT_EQ(stats::readProxySettings().port, 0);

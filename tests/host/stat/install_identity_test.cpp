@@ -35,7 +35,7 @@ TEST_F(ClientGuid, IsTheStoredOne)
     EXPECT_EQ(createdGuids(), 0);
 }
 
-TEST_F(ClientGuid, IsTheStoredEmptyOne)
+TEST_F(ClientGuid, IsTheStoredOneEvenWhenEmpty)
 {
     storeCommon("ClientGuid=\nLanguage=de\n");
     EXPECT_EQ(getOrCreateClientGuid(common()), "");
@@ -43,7 +43,7 @@ TEST_F(ClientGuid, IsTheStoredEmptyOne)
     EXPECT_EQ(contentOf(commonFile()), "ClientGuid=\nLanguage=de\n") << "nothing is saved";
 }
 
-TEST_F(ClientGuid, IsCreatedOnceAndSavedAtOnce)
+TEST_F(ClientGuid, IsCreatedOnceAndSavedImmediately)
 {
     storeCommon("Language=de\n");
     const std::string guid = getOrCreateClientGuid(common());
@@ -62,7 +62,7 @@ TEST_F(ClientGuid, IsCreatedWhenThereIsNoFile)
     EXPECT_EQ(contentOf(commonFile()), "ClientGuid=" + guid + "\n");
 }
 
-TEST_F(ClientGuid, ThatCannotBeMadeIsEmptyAndNotTriedAgain)
+TEST_F(ClientGuid, IsEmptyAndNotRetriedWhenCreationFails)
 {
     setNextGuid("");
     EXPECT_EQ(getOrCreateClientGuid(common()), "");

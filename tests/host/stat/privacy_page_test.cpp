@@ -1,4 +1,4 @@
-// The privacy page promises what an event holds; the promise must not drift from the template.
+// The privacy page lists the contents of an event; the list must match the template.
 
 #include "ui/common/stat/event_body.h"
 #include "ui/common/stat/service_endpoints.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-// (member, parameter), the parameter empty for a member that never has a value.
+// (member, parameter); the parameter is empty for a member that is always empty.
 using Members = std::vector<std::pair<std::string, std::string>>;
 
 std::string privacyPage()
@@ -37,7 +37,7 @@ Members membersOfPage()
     return membersOf(privacyPage(), std::regex(R"(\n\| `([a-z_]+)` \| `?([A-Z_]*)`? ?\|)"));
 }
 
-// With every parameter's name as its value, the body shows which member takes which.
+// With every parameter's name as its value, the body shows which member has which parameter.
 Members membersOfBody()
 {
     stats::TemplateParams params;

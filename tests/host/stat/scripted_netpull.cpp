@@ -51,7 +51,7 @@ void answerInOrder(std::vector<netpull::Response> answers)
         const std::size_t index = (*next)++;
         if (index < answers.size())
             return answers[index];
-        ADD_FAILURE() << "a request too many: " << request.url;
+        ADD_FAILURE() << "an unexpected request: " << request.url;
         return netpull::Response{7, 0, {}};
     });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Stands in for the HTTP library: tests decide what each request is answered with.
+// A fake of the HTTP library: tests choose the answer to each request.
 
 #include "support/netpull/netpull.h"
 
@@ -11,8 +11,7 @@ namespace scripted {
 
 using Server = std::function<netpull::Response(const netpull::Request&)>;
 
-// Installs the server for all following requests, on whatever thread they run, and forgets the
-// requests of before.
+// Installs the server for all following requests, on any thread, and forgets earlier requests.
 void setServer(Server server);
 
 // Answers the requests in order; a request beyond the last answer fails the test.

@@ -1,6 +1,6 @@
 #pragma once
 
-// A statistics test's surroundings: an empty common.cfg in a folder of its own, no environment
+// The environment of statistics tests: an empty common.cfg in a temporary folder, no environment
 // switches, recorded log messages and recorded requests.
 
 #include "tests/host/stat/scripted_netpull.h"
@@ -21,8 +21,8 @@ protected:
     StatTest();
     ~StatTest() override;
 
-    // "level category source:line text" for each message so far. Level 7 is on unless setLogLevel
-    // said otherwise.
+    // "level category source:line text" for each message so far, at level 7 unless setLogLevel
+    // changed it.
     std::vector<std::string> log() const;
     void setLogLevel(int level);
 
@@ -43,7 +43,7 @@ private:
     std::vector<std::string> environment;
 };
 
-// What createGuid() yields for the rest of the test; without a call always the same GUID.
+// Sets what createGuid() returns for the rest of the test; by default it is a fixed GUID.
 void setNextGuid(const std::string& guid);
-// How often it was called in this test.
+// The number of calls of createGuid() in this test.
 int createdGuids();

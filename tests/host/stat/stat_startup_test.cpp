@@ -15,11 +15,11 @@ void runHere(const std::function<void()>& call)
     call();
 }
 
-// The sequence works on the process-wide sender.
+// The start-up works on the process-wide sender.
 class StatStartup : public StatTest
 {
 protected:
-    // The body of the next event, as the service receives it.
+    // The form data of the next event.
     std::string nextBody()
     {
         scripted::answerInOrder({{0, 200, {}}});
@@ -59,7 +59,7 @@ TEST_F(StatStartup, FillsTheParametersFromBothFiles)
               "\"product_name\"%3A\"\"%2C\"id_lmc_keys\"%3A\"\"%7D");
 }
 
-TEST_F(StatStartup, TakesDefaultsWithoutAnApplicationFile)
+TEST_F(StatStartup, UsesDefaultsWithoutAnApplicationFile)
 {
     storeCommon("ClientGuid=g\nEventStatEnabled=1\nLocation=DE\n");
     startStatistics(61, false, runHere);
@@ -68,7 +68,7 @@ TEST_F(StatStartup, TakesDefaultsWithoutAnApplicationFile)
     EXPECT_NE(body.find("\"event_number\"%3A\"1\""), std::string::npos);
 }
 
-TEST_F(StatStartup, CountsFromZeroForANumberThatIsNone)
+TEST_F(StatStartup, CountsFromZeroWhenTheStoredNumberIsInvalid)
 {
     storeCommon("ClientGuid=g\nEventStatEnabled=1\nLocation=DE\n");
     storeApplication(60, "EventNumber=many\n");
@@ -119,7 +119,7 @@ TEST_F(StatStartup, AsksForTheCountryBeforeItCreatesTheGuid)
     EXPECT_EQ(createdGuids(), 1);
 }
 
-TEST_F(StatStartup, GoesOnWithoutACountry)
+TEST_F(StatStartup, ContinuesWithoutACountry)
 {
     storeCommon("EventStatEnabled=1\n");
     scripted::answerInOrder({{6, 0, ""}});
@@ -129,7 +129,7 @@ TEST_F(StatStartup, GoesOnWithoutACountry)
     EXPECT_NE(body.find("\"guid\"%3A\"01234567"), std::string::npos);
 }
 
-TEST_F(StatStartup, LeavesWhatMayBlockToTheRunner)
+TEST_F(StatStartup, BlocksOnlyInTheRunner)
 {
     storeCommon("EventStatEnabled=1\n");
     scripted::answerInOrder({{0, 200, "DE"}});
@@ -141,7 +141,7 @@ TEST_F(StatStartup, LeavesWhatMayBlockToTheRunner)
         EXPECT_EQ(scripted::requests().size(), 1U);
         EXPECT_EQ(contentOf(commonFile()),
                   std::string("ClientGuid=") + guid + "\nEventStatEnabled=1\nLocation=DE\n");
-        // What is read or saved behind the runner's back would miss the files.
+        // Reading or saving outside the runner would show from here on.
         std::filesystem::remove(commonFile());
         storeApplication(60, "Version=2\n");
     });

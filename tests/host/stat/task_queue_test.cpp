@@ -69,14 +69,14 @@ TEST(TaskQueue, NeverRunsTwoTasksAtOnce)
     EXPECT_EQ(most, 1);
 }
 
-TEST(TaskQueue, StartsANewWorkerWheneverThereIsWorkAgain)
+TEST(TaskQueue, StartsANewWorkerForLaterTasks)
 {
     TaskQueue queue;
     for (int round = 0; round < 500; ++round)
         ASSERT_TRUE(runsToItsEnd(queue)) << "round " << round;
 }
 
-TEST(TaskQueue, LeavesNoThreadWhileThereIsNothingToDo)
+TEST(TaskQueue, HasNoThreadWhileItIsEmpty)
 {
     struct ThreadEnd
     {
@@ -89,7 +89,7 @@ TEST(TaskQueue, LeavesNoThreadWhileThereIsNothingToDo)
     EXPECT_EQ(ended.get_future().wait_for(deadline), std::future_status::ready);
 }
 
-TEST(TaskQueue, TakesATaskFromARunningTask)
+TEST(TaskQueue, AcceptsATaskFromARunningTask)
 {
     std::promise<void> inner;
     TaskQueue queue;
@@ -108,7 +108,7 @@ TEST(TaskQueue, CompletesTheRunningTaskAndDropsTheWaitingOnesAtItsEnd)
         firstStarted.set_value();
         while (!ending)
             std::this_thread::yield();
-        // The queue's end sets its flag within this time, as it would during a network call.
+        // The destructor must set its flag within this time: nothing announces that it has.
         std::this_thread::sleep_for(100ms);
         firstCompleted = true;
     });

@@ -53,7 +53,7 @@ TEST(TemplateParamsSet, KeepsAPresentEmptyValueWithoutOverwrite)
     EXPECT_EQ(params.get("NAME"), "");
 }
 
-TEST(TemplateParamsSet, TakesTheFirstOfARepeatedNameInAListWithoutOverwrite)
+TEST(TemplateParamsSet, KeepsTheFirstOfARepeatedNameInAListWithoutOverwrite)
 {
     TemplateParams params;
     params.set({{"NAME", "1"}, {"OTHER", "2"}, {"NAME", "3"}}, false);
@@ -61,14 +61,14 @@ TEST(TemplateParamsSet, TakesTheFirstOfARepeatedNameInAListWithoutOverwrite)
     EXPECT_EQ(params.get("OTHER"), "2");
 }
 
-TEST(TemplateParamsSet, TakesTheLastOfARepeatedNameInAListWithOverwrite)
+TEST(TemplateParamsSet, KeepsTheLastOfARepeatedNameInAListWithOverwrite)
 {
     TemplateParams params;
     params.set({{"NAME", "1"}, {"NAME", "3"}}, true);
     EXPECT_EQ(params.get("NAME"), "3");
 }
 
-TEST(TemplateParamsGet, YieldsNothingForAnAbsentNameAndComparesCase)
+TEST(TemplateParamsGet, IsEmptyForAnAbsentNameAndCaseSensitive)
 {
     EXPECT_EQ(abc().get("a"), "");
     EXPECT_EQ(abc().get("A"), "1");
@@ -82,7 +82,7 @@ TEST(TemplateParamsCopy, IsIndependent)
     EXPECT_EQ(original.get("A"), "1");
 }
 
-TEST_P(TemplateExpansion, YieldsTextAndCount)
+TEST_P(TemplateExpansion, ReturnsTextAndCount)
 {
     const ExpansionCase& expected = GetParam();
     const TemplateParams::Expansion actual =
@@ -108,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ExpansionCase{"/?x=1&b={NONE}&a={A}", false, "/?x=1&a=1", 1},
                     ExpansionCase{"{NONE}", false, "", 1}, ExpansionCase{"{NONE}", true, "", 0},
                     ExpansionCase{"p&q={NONE}{NONE}r", false, "pr", 2},
-                    // Each unknown name takes one more pair, whatever it belongs to.
+                    // Each unknown name removes one more pair, whichever pair that is.
                     ExpansionCase{"a&b&c={NONE}{NONE}", false, "a", 2},
                     ExpansionCase{"v={AMP}w={NONE}z", false, "v=xz", 1},
                     ExpansionCase{"{a}", false, "", 1}));
@@ -124,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(
         ExpansionCase{"{\xC3\x84}", false, "{\xC3\x84}", 0},
         ExpansionCase{"{\"k\":\"{A}\"}", false, "{\"k\":\"1\"}", 0}));
 
-TEST(TemplateExpansionText, IsNotExpandedAgain)
+TEST(TemplateExpansionText, IsNotExpandedRecursively)
 {
     TemplateParams params;
     params.set("A", "{B}", true);

@@ -18,7 +18,7 @@ const std::map<char, std::string> encodedBytes = {
 
 } // namespace
 
-TEST(UrlEncode, EncodesExactlyTheTwentyFiveBytes)
+TEST(UrlEncode, EncodesExactlyTheListedBytes)
 {
     ASSERT_EQ(encodedBytes.size(), 25U);
     for (int value = 0; value < 256; ++value) {
@@ -35,7 +35,7 @@ TEST(UrlEncode, LeavesTheEmptyTextEmpty)
     EXPECT_EQ(urlEncode(""), "");
 }
 
-TEST(UrlEncode, EncodesEachByteOfALongTextOnItsOwn)
+TEST(UrlEncode, EncodesEachByteOfALongText)
 {
     std::string text;
     std::string expected;
@@ -51,7 +51,7 @@ TEST(UrlEncode, KeepsTheQuotesOfAJsonBody)
     EXPECT_EQ(urlEncode(R"({"info":"a, b"})"), "%7B\"info\"%3A\"a%2C%20b\"%7D");
 }
 
-TEST(UrlEncode, TakesAllBytesEncodedAndNulBytesInside)
+TEST(UrlEncode, AcceptsNulBytesAndTextsOfEncodedBytesOnly)
 {
     EXPECT_EQ(urlEncode(std::string("{\0}", 3)), std::string("%7B\0%7D", 7));
     EXPECT_EQ(urlEncode("{{{{"), "%7B%7B%7B%7B");

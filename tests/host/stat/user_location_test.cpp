@@ -28,7 +28,7 @@ protected:
 
 } // namespace
 
-TEST_F(UserLocation, IsAskedWithAPlainGetThroughTheProxy)
+TEST_F(UserLocation, IsRequestedByAPlainGetThroughTheProxy)
 {
     scripted::answerInOrder({{0, 200, "DE"}});
     sys::DataBuff answer;
@@ -48,7 +48,7 @@ TEST_F(UserLocation, IsAskedWithAPlainGetThroughTheProxy)
     EXPECT_EQ(request.proxy.password, "secret");
 }
 
-TEST_F(UserLocation, PassesTheTransportCodeOn)
+TEST_F(UserLocation, ReturnsTheTransportCode)
 {
     scripted::answerInOrder({{6, 0, "partial"}});
     sys::DataBuff answer;
@@ -56,7 +56,7 @@ TEST_F(UserLocation, PassesTheTransportCodeOn)
     EXPECT_TRUE(answer.empty());
 }
 
-TEST_F(UserLocation, TakesAnEmptyAnswerForAnError)
+TEST_F(UserLocation, TreatsAnEmptyAnswerAsAnError)
 {
     scripted::answerInOrder({{0, 200, ""}});
     sys::DataBuff answer;
@@ -70,7 +70,7 @@ TEST_F(UserLocation, TakesAnyStatusWithABodyForAnAnswer)
     EXPECT_EQ(contentOf(commonFile()), "Location=not here\n");
 }
 
-TEST_F(UserLocation, IsStoredAsItCameAndLogged)
+TEST_F(UserLocation, IsStoredUnchangedAndLogged)
 {
     storeCommon("Language=de\n");
     scripted::answerInOrder({{0, 200, " dE "}});
@@ -91,7 +91,7 @@ TEST_F(UserLocation, OfSeveralLinesBecomesSeveralLinesOfTheFile)
     EXPECT_EQ(next.getValue("Language", ""), "fr");
 }
 
-TEST_F(UserLocation, EndsAtANulByteSoThatTheKeysAfterItSurvive)
+TEST_F(UserLocation, EndsAtANulByteSoThatLaterKeysSurvive)
 {
     storeCommon("Version=1\n");
     scripted::answerInOrder({{0, 200, std::string("DE\0junk", 7)}});
@@ -99,7 +99,7 @@ TEST_F(UserLocation, EndsAtANulByteSoThatTheKeysAfterItSurvive)
     EXPECT_EQ(contentOf(commonFile()), "Location=DE\nVersion=1\n");
 }
 
-TEST_F(UserLocation, ThatCannotBeHadLeavesTheStoredOne)
+TEST_F(UserLocation, KeepsTheStoredOneWhenTheLookupFails)
 {
     storeCommon("Location=FR\n");
     scripted::answerInOrder({{28, 0, ""}});
@@ -126,7 +126,7 @@ TEST_F(UserLocation, StaysWithTheDebugSwitch)
     EXPECT_EQ(log(), Lines{skipped});
 }
 
-TEST_F(UserLocation, IsAskedInSpiteOfTheDebugSwitchWhenNoneIsStored)
+TEST_F(UserLocation, IsRequestedDespiteTheDebugSwitchWhenNoneIsStored)
 {
     setEnvironment("CV_DEBUG_WITHOUT_UPDATE_LOCATION", "1");
     for (const std::string content : {"", "Location=\n"}) {
@@ -138,7 +138,7 @@ TEST_F(UserLocation, IsAskedInSpiteOfTheDebugSwitchWhenNoneIsStored)
     }
 }
 
-TEST_F(UserLocation, IsAskedWithAnyOtherValueOfTheDebugSwitch)
+TEST_F(UserLocation, IsRequestedWithAnyOtherValueOfTheDebugSwitch)
 {
     for (const std::string value : {"11", "", "0", "true"}) {
         storeCommon("Location=FR\n");
@@ -177,7 +177,7 @@ TEST_F(UserLocation, CountryIsTheStoredOneWithoutARequest)
     EXPECT_TRUE(log().empty());
 }
 
-TEST_F(UserLocation, CountryIsAskedOnceWhenNoneIsStored)
+TEST_F(UserLocation, CountryIsRequestedOnceWhenNoneIsStored)
 {
     scripted::answerInOrder({{0, 200, "DE"}});
     EXPECT_EQ(getUserCountry(proxy), "DE");

@@ -5,8 +5,8 @@
 
 namespace host {
 
-// A folder of its own under the system's temporary folder, removed with all it holds at the end
-// of the scope. Everybody on the machine may create files in it.
+// A new folder in the system's temporary folder, removed with its contents at the end of the scope.
+// Every user may create files in it.
 class TempFolder
 {
 public:
@@ -15,11 +15,11 @@ public:
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
 
-    // The same file for the program, whose paths are wide, and for this machine (UTF-8).
+    // The same path for the program (wide) and for this machine (UTF-8).
     std::wstring path(const std::wstring& name) const;
     std::string narrowPath(const std::string& name) const;
 
-    // The file's bytes exactly as given, and as they are; reading a missing file throws.
+    // The file's exact bytes; reading a missing file throws.
     void write(const std::string& name, std::string_view content) const;
     std::string read(const std::string& name) const;
     bool holds(const std::string& name) const;

@@ -5,9 +5,9 @@
 
 namespace host {
 
-// The place of a virtual function in its class's virtual table, counted from 0. The C++ ABI of
-// this machine (Itanium) keeps it in the member pointer, as 1 + the byte offset. A virtual
-// destructor takes two places in this ABI, and one with other compilers.
+// The index of a virtual function in its class's virtual table. The C++ ABI of this machine
+// (Itanium) stores it in the member pointer as 1 + the byte offset. A virtual destructor occupies
+// two slots in this ABI, and one with other compilers.
 template <typename MemberFunction>
 std::size_t vtableIndex(MemberFunction function)
 {

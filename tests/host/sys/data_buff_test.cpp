@@ -8,8 +8,8 @@
 #include <limits>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-// The sanitizers' own allocators end the process on a request that is too large; here they must
-// answer as the system's allocator does.
+// By default the sanitizers' allocators end the process on a request that is too large; here they
+// must return null as the system's allocator does.
 extern "C" const char* __asan_default_options();
 extern "C" const char* __tsan_default_options();
 extern "C" const char* __asan_default_options()
@@ -30,7 +30,7 @@ using namespace std::string_literals;
 
 constexpr std::uint64_t impossibleSize = std::numeric_limits<std::uint64_t>::max() / 2;
 
-// A block as a caller of attach() brings it.
+// A block for attach().
 void* newBlock(const std::string& bytes)
 {
     void* const block = std::malloc(bytes.size());
@@ -42,7 +42,7 @@ void* newBlock(const std::string& bytes)
 
 TEST(DataBuff, KeepsItsSlotsInOrder)
 {
-    // Places 0 and 1 are the destructor.
+    // Slots 0 and 1 are the destructor.
     EXPECT_EQ(host::vtableIndex(&IDataBuff::resize), 2U);
     EXPECT_EQ(host::vtableIndex(&IDataBuff::clear), 3U);
     EXPECT_EQ(host::vtableIndex(&IDataBuff::assignString), 4U);
@@ -95,7 +95,7 @@ TEST(DataBuff, ResizeToTheSameSizeKeepsTheBlock)
     EXPECT_EQ(buffer.data(), block);
     EXPECT_EQ(buffer.toString(), "abc");
 
-    // That holds for a block attached without a size, too.
+    // The same for a block attached without a size.
     void* const unsized = newBlock("abc");
     buffer.attach(unsized, 0);
     EXPECT_TRUE(buffer.resize(0));
@@ -193,7 +193,7 @@ TEST(DataBuff, AttachFromAnotherBufferTakesItsBlock)
     EXPECT_EQ(target.data(), nullptr);
 }
 
-TEST(DataBuff, DetachHandsTheBlockOver)
+TEST(DataBuff, DetachReturnsTheBlock)
 {
     DataBuff buffer;
     ASSERT_TRUE(buffer.assignString("abc"));

@@ -27,7 +27,7 @@ std::vector<int> rowIds()
 
 constexpr int irregularId = 53;
 
-// Row 53 answers with its spaced name, but is registered under a name like the others'.
+// idToString() gives row 53's name with spaces, but the application is registered without them.
 std::string registeredIdString(int id)
 {
     return id == irregularId ? "PhotoStoryAndSlideshow" : idToString(id);
@@ -42,7 +42,7 @@ bool isSurveyId(int id)
 
 } // namespace
 
-TEST(AppCatalogue, HasTheseThirtyRows)
+TEST(AppCatalogue, HasThirtyRows)
 {
     EXPECT_THAT(rowIds(), ElementsAre(0, 2, 3, 5, 9, 10, 14, 15, 25, 27, 33, 39, 40, 42, 43, 52, 53,
                                       54, 55, 58, 59, 60, 61, 62, 63, 64, 65, 66, 67, 68));
@@ -118,7 +118,7 @@ TEST(AppCatalogue, OtherRowsHaveOneNameThatIsNotEmpty)
     }
 }
 
-TEST(AppCatalogue, IdStringsHaveNoSpacesButForRowFiftyThree)
+TEST(AppCatalogue, OnlyTheIdStringOfRowFiftyThreeHasSpaces)
 {
     for (const int id : rowIds()) {
         SCOPED_TRACE(id);

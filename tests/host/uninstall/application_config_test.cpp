@@ -26,7 +26,7 @@ TEST(SettingsFolder, OfAnApplicationIsNamedByItsIdString)
     EXPECT_EQ(settingsFolder(0), inSuiteSettings(L"Tessera"));
 }
 
-TEST(ApplicationConfig, LiesInTheApplicationsFolderUnderItsIdString)
+TEST(ApplicationConfig, IsInTheApplicationsFolderNamedByItsIdString)
 {
     EXPECT_EQ(applicationConfigPath(60),
               sys::joinedPath(inSuiteSettings(L"ClipSaver"), L"ClipSaver.cfg"));

@@ -22,7 +22,7 @@ TEST(CommandLine, AppArgumentIsTheOneAfterTheLastSwitch)
         {"among others", {"x", "/app", "ClipTrimmer", "/silent"}, "ClipTrimmer"},
         {"the last of two wins", {"/app", "A", "/app", "B"}, "B"},
         {"the last argument", {"/app"}, ""},
-        {"the last argument again", {"/app", "A", "/app"}, ""},
+        {"the last argument after a value", {"/app", "A", "/app"}, ""},
         {"the switch as a value", {"/app", "/app"}, ""},
         {"the switch as a value arms the next", {"/app", "/app", "B"}, "B"},
         {"an empty value", {"/app", ""}, ""},

@@ -66,7 +66,7 @@ TEST(PreSelection, FindsEveryRowWithTheApplicationsName)
     EXPECT_THAT(rowsOfApplication({{suiteName, false}}, idToString(suiteId)), ElementsAre(0U));
 }
 
-TEST(PreSelection, UsesTheListsWordingOfASurveyApplication)
+TEST(PreSelection, UsesTheListNameOfASurveyedApplication)
 {
     constexpr int id = 60;
     EXPECT_THAT(rowsOfApplication({{displayName(id, true), false}, {displayName(id, false), false}},
@@ -84,7 +84,7 @@ TEST(PreSelection, ComparesTheWholeName)
     EXPECT_THAT(rowsOfApplication({{name, false}}, name), IsEmpty());
 }
 
-// Row 53 has no display name; neither it nor an unknown id may check a row without a text.
+// Neither row 53, which has no display name, nor an unknown id may check a row without a text.
 TEST(PreSelection, FindsNothingWithoutADisplayName)
 {
     const std::vector<ListRow> rows{{"", false}, {idToString(53), false}, {suiteName, false}};

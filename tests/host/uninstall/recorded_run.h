@@ -15,8 +15,7 @@ struct RecordedRow
     bool checked = true;
 };
 
-// A window that writes down what the run does to it, one line per step, and behaves as the test
-// tells it.
+// A fake window that records the run's steps, one line each.
 class RecordedRun : public IUninstallSteps
 {
 public:

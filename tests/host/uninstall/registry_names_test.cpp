@@ -38,7 +38,7 @@ TEST(ShownName, IsTheFolderBehindTheBrand)
     }
 }
 
-TEST(ListName, IsTheLongOneForTheCompanyWordOnly)
+TEST(ListName, IsUninstallPathsOnlyForTheCompanyBrand)
 {
     EXPECT_EQ(listName("Corvane"), "UninstallPaths");
     for (const char* brand : {"Lumacraft", "corvane", "CORVANE", "Corvane ", "Other", ""}) {

@@ -6,7 +6,7 @@
 
 namespace uninstall {
 
-TEST(RunState, IdleLeavesTheChoiceToAnybody)
+TEST(RunState, ChoiceIsOpenBeforeTheRun)
 {
     const RunState state;
     EXPECT_FALSE(state.begun());
@@ -23,7 +23,7 @@ TEST(RunState, BeginsOnce)
     EXPECT_TRUE(state.begun());
 }
 
-TEST(RunState, DoesNotBeginAgainAfterACancel)
+TEST(RunState, DoesNotBeginTwiceEvenAfterACancel)
 {
     RunState state;
     state.begin();
@@ -32,7 +32,7 @@ TEST(RunState, DoesNotBeginAgainAfterACancel)
     EXPECT_TRUE(state.cancelled());
 }
 
-TEST(RunState, OnlyABegunRunIsCancelled)
+TEST(RunState, OnlyABegunRunCanBeCancelled)
 {
     RunState state;
     state.cancel();
@@ -44,7 +44,7 @@ TEST(RunState, OnlyABegunRunIsCancelled)
     EXPECT_TRUE(state.begun());
 }
 
-TEST(RunState, RunKeepsTheChoiceToItself)
+TEST(RunState, ChoiceIsOpenDuringTheRunOnlyForItsOwnChanges)
 {
     RunState state;
     state.begin();
@@ -61,7 +61,7 @@ TEST(RunState, RunKeepsTheChoiceToItself)
     EXPECT_FALSE(state.choiceIsOpen());
 }
 
-TEST(RunState, CancelledRunStillKeepsTheChoiceToItself)
+TEST(RunState, ChoiceIsOpenAfterACancelOnlyForTheRunsOwnChanges)
 {
     RunState state;
     state.begin();
@@ -71,7 +71,7 @@ TEST(RunState, CancelledRunStillKeepsTheChoiceToItself)
     EXPECT_TRUE(state.choiceIsOpen());
 }
 
-TEST(RunState, OwnChangeThatOutlivesTheStartLosesNothing)
+TEST(RunState, OwnChangeMaySpanTheStartOfTheRun)
 {
     RunState state;
     std::optional<RunState::OwnChange> own(std::in_place, state);

@@ -17,7 +17,7 @@ const std::string usualLogSwitch = R"(/log="C:\logs\A_uninstall.log")";
 
 } // namespace
 
-TEST(UninstallCommand, IdStringStandsBetweenLogsAndUninstall)
+TEST(UninstallCommand, IdStringIsBetweenLogsAndUninstall)
 {
     struct Case
     {
@@ -83,7 +83,7 @@ TEST(UninstallCommand, SplitsAtTheLogSwitch)
     }
 }
 
-TEST(UninstallCommand, TakesThirtyThousandCharacters)
+TEST(UninstallCommand, MayHaveThirtyThousandCharacters)
 {
     const std::string longName(30000, 'n');
     EXPECT_EQ(idStringFromCommand("x /log=C:\\logs\\" + longName + "_uninstall"), longName);
@@ -97,7 +97,7 @@ TEST(UninstallCommand, TakesThirtyThousandCharacters)
     EXPECT_EQ(splitCommand(manySwitches).size(), 6001U);
 }
 
-TEST(UninstallCommand, ProgramIsTheFirstPartAsItStands)
+TEST(UninstallCommand, ProgramIsTheUnchangedFirstPart)
 {
     EXPECT_EQ(programOf({}), "");
     EXPECT_EQ(programOf({""}), "");
@@ -106,7 +106,7 @@ TEST(UninstallCommand, ProgramIsTheFirstPartAsItStands)
     EXPECT_EQ(programOf({" \"C:\\a b\\c.exe\" ", "=b"}), " \"C:\\a b\\c.exe\" ");
 }
 
-TEST(UninstallSwitches, FollowTheseRules)
+TEST(UninstallSwitches, DependOnTheOptions)
 {
     struct Case
     {

@@ -25,7 +25,7 @@ TEST(CancelledRun, CancelOnTheFirstApplicationUninstallsNothing)
                 ElementsAre("id 2", "probe [ClipTrimmer]", "warning [ClipTrimmer]", "id 5"));
 }
 
-TEST(CancelledRun, CancelInTheMiddleKeepsWhatWasDone)
+TEST(CancelledRun, CancelInTheMiddleKeepsEarlierRemovals)
 {
     RecordedRun run({{commandOf("ClipTrimmer")},
                      {commandOf("TrackRipper")},
@@ -40,8 +40,8 @@ TEST(CancelledRun, CancelInTheMiddleKeepsWhatWasDone)
     EXPECT_EQ(run.only({"probe"}).size(), 2U);
 }
 
-// In a selective run the warning's Cancel checks every row: those come up, but are not probed.
-TEST(CancelledRun, RowsCheckedByTheCancelAreSeenButLeftAlone)
+// In a selective run Cancel checks every row: the run still visits them, but does not probe them.
+TEST(CancelledRun, RowsCheckedByTheCancelAreVisitedButNotUninstalled)
 {
     RecordedRun run({{commandOf("ClipTrimmer"), true},
                      {commandOf("ClipSaver"), false},
@@ -56,7 +56,7 @@ TEST(CancelledRun, RowsCheckedByTheCancelAreSeenButLeftAlone)
                                        "id 60", "survey 60", "id 0", "id -1"));
 }
 
-// In a full run the warning's Cancel unchecks every row: nothing else comes up.
+// In a full run Cancel unchecks every row, so the run visits no more of them.
 TEST(CancelledRun, RowsUncheckedByTheCancelAreSkipped)
 {
     RecordedRun run({{commandOf("ClipTrimmer")},
@@ -91,8 +91,8 @@ TEST(CancelledRun, CancelAtTheVeryEndStillKeepsTheSuite)
     EXPECT_THAT(run.only({"warning", "uninstall", "remove"}), ElementsAre("warning [LightTable]"));
 }
 
-// The survey of a later row is opened all the same; only checks and removals stop.
-TEST(CancelledRun, SurveyIsStillOpened)
+// Cancel stops only probes and removals.
+TEST(CancelledRun, SurveyOfALaterRowIsStillOpened)
 {
     RecordedRun run({{commandOf("ClipTrimmer")}, {commandOf("TrackSaver")}, {"x", false}});
     run.running = {"ClipTrimmer"};

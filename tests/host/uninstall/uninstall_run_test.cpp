@@ -71,7 +71,7 @@ TEST(UninstallRun, SuiteStaysWhenAnotherRowIsUnchecked)
                 ElementsAre(uninstallStep(3, selective, "ClipTrimmer"), "remove 1"));
 }
 
-// All ids of the range in rising order; those without an application give the empty id string.
+// All ids in ascending order; ids without an application give the empty id string.
 TEST(UninstallRun, SuiteRowProbesEveryId)
 {
     RecordedRun run({{commandOf("Tessera")}});
@@ -87,7 +87,7 @@ TEST(UninstallRun, SuiteRowProbesEveryId)
     EXPECT_THAT(run.steps, Not(Contains("probe [Tessera]")));
 }
 
-TEST(UninstallRun, SuiteRowWarnsOfEveryRunningApplication)
+TEST(UninstallRun, SuiteRowWarnsAboutEveryRunningApplication)
 {
     RecordedRun run({{commandOf("Tessera")}});
     run.running = {"LightTable", "ClipTrimmer"};
@@ -97,7 +97,7 @@ TEST(UninstallRun, SuiteRowWarnsOfEveryRunningApplication)
                             uninstallStep(1, full, "Tessera")));
 }
 
-TEST(UninstallRun, WarnsBeforeEachRunningApplicationGoes)
+TEST(UninstallRun, WarnsBeforeItRemovesARunningApplication)
 {
     RecordedRun run({{commandOf("ClipTrimmer")}, {commandOf("DiscComposer")}, {"x", false}});
     run.running = {"ClipTrimmer", "DiscComposer"};
@@ -141,7 +141,7 @@ TEST(UninstallRun, SurveyIsOpenedOncePerRow)
     EXPECT_THAT(run.only({"survey"}), ElementsAre("survey 60", "survey 60"));
 }
 
-// Its mutex carries the spaced name, its command the registered one.
+// The probe uses its name with spaces, the command the registered one.
 TEST(UninstallRun, RowFiftyThreeIsProbedUnderItsSpacedName)
 {
     RecordedRun run({{commandOf("PhotoStoryAndSlideshow")}, {"x", false}});
@@ -168,7 +168,7 @@ TEST(UninstallRun, EmptyCommandIsAnUnknownApplication)
                                        "remove 0"));
 }
 
-TEST(UninstallRun, FullRunWithoutASuiteRowStillEndsWithTheSuitesTurn)
+TEST(UninstallRun, FullRunWithoutASuiteRowStillEndsWithTheSuitesStep)
 {
     RecordedRun run({{commandOf("ClipTrimmer")}, {""}});
     EXPECT_THAT(run.run(),
@@ -190,7 +190,7 @@ TEST(UninstallRun, LastOfSeveralSuiteRowsIsTheOneUninstalled)
     EXPECT_EQ(run.only({"probe"}).size(), 2 * 68U + 1);
 }
 
-TEST(UninstallRun, TakesHugeCommands)
+TEST(UninstallRun, AcceptsHugeCommands)
 {
     const std::string huge(30000, 'h');
     RecordedRun run({{huge}, {huge + " /log" + huge}, {"x", false}});

@@ -8,13 +8,13 @@
 
 namespace {
 
-// The prefix's own settings folder, without files before and after each test.
+// The user's settings folder, empty before and removed after each test.
 class CommonConfig : public testing::Test
 {
 protected:
     CommonConfig()
     {
-        // A folder with somebody's settings in it is none of ours.
+        // Existing settings must not be lost.
         if (std::filesystem::exists(folder))
             throw std::runtime_error("the suite has settings here: " + folder.u8string());
         std::filesystem::create_directories(folder);

@@ -89,8 +89,8 @@ TEST_F(ConfigFiles, UnreadableFile)
     EXPECT_EQ(readBytes(file), "a=changed\nb=2\n");
 }
 
-// A save that took a file in use for an unreadable one would write its own key and nothing else.
-TEST_F(ConfigFiles, SaveKeepsWhatIsInAFileThatSomebodyHasOpenForAMoment)
+// A save that treated a file in use as unreadable would write only its own key.
+TEST_F(ConfigFiles, SaveKeepsTheContentOfAFileThatIsBrieflyInUse)
 {
     struct Hold
     {
@@ -99,7 +99,7 @@ TEST_F(ConfigFiles, SaveKeepsWhatIsInAFileThatSomebodyHasOpenForAMoment)
         DWORD sharing;
     };
     for (const Hold& hold :
-         {Hold{"for itself alone", GENERIC_READ, 0},
+         {Hold{"without sharing", GENERIC_READ, 0},
           Hold{"for writing", GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE}}) {
         SCOPED_TRACE(hold.how);
         writeBytes(file, "a=1\nb=2\n");
@@ -114,7 +114,7 @@ TEST_F(ConfigFiles, SaveKeepsWhatIsInAFileThatSomebodyHasOpenForAMoment)
         });
         begun.get_future().wait();
         if (hold.sharing == 0) {
-            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it is still trying";
+            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it keeps trying";
         }
         other.reset();
         EXPECT_EQ(result.get(), 0);
@@ -138,7 +138,7 @@ TEST_F(ConfigFiles, WriteProtectedFileKeepsItsContent)
     EXPECT_EQ(readBytes(file), "a=2\n");
 }
 
-TEST_F(ConfigFiles, FileFullOfNulsReadsAsEmptyAndIsRepaired)
+TEST_F(ConfigFiles, FileOfNulsReadsAsEmptyAndIsRepaired)
 {
     writeBytes(file, std::string(1 << 20, '\0'));
     EXPECT_EQ(config.load(), 0);
@@ -162,7 +162,7 @@ TEST_F(ConfigFiles, LastLineNeedsNoLineFeed)
     EXPECT_EQ(config.getValue("b", ""), "x=y");
 }
 
-TEST_F(ConfigFiles, CarriageReturnsDoNotCount)
+TEST_F(ConfigFiles, CarriageReturnsAreIgnored)
 {
     writeBytes(file, "a=1\r\nb=x=y\r\n");
     EXPECT_EQ(config.load(), 0);
@@ -173,7 +173,7 @@ TEST_F(ConfigFiles, CarriageReturnsDoNotCount)
     EXPECT_EQ(readBytes(file), "a=1\nb=x=y\nc=3\n");
 }
 
-TEST_F(ConfigFiles, FiftyMegabytesAreReadWholeAndWrittenBack)
+TEST_F(ConfigFiles, FiftyMegabytesAreReadAndWrittenBack)
 {
     constexpr std::size_t size = 50U << 20;
     std::string text;

@@ -1,10 +1,9 @@
-// What several processes may do to one settings file at once.
-//
-// The file is not locked between processes. Two promises hold and are checked here:
-// - saves that do not overlap lose nothing, however old the memory of each process is;
-// - saves that do overlap may lose pairs (the last one wins with what it read), and Windows may
-//   refuse one of them the file while the other reads it; but a save that was refused succeeds
-//   later, every line that the file holds was written by somebody, and the next save is sound.
+// Several processes with one settings file, which is not locked between them:
+// - saves that do not overlap lose nothing, even if a process read the file long ago;
+// - overlapping saves may lose pairs (the last one wins), and Windows may refuse one of them the
+// file
+//   while another reads it. But a refused save succeeds later, every line in the file was written
+//   by one of them, and the next save works.
 
 #include "tests/support/lines.h"
 #include "tests/windows/config/turns.h"
@@ -45,7 +44,7 @@ TEST(ConfigProcesses, SavesInTurnLoseNoKey)
     const windows_tests::Turns turns(name, true);
     const ChildProcess writer(siblingProgram(L"config_writer"),
                               {file, L"b", std::to_wstring(rounds), name, L"-"});
-    // Neither process reads the file again on its own: only save() brings the other's keys in.
+    // Neither process rereads the file: only save() merges the other's keys.
     fs::CConfig config;
     config.setFileName(file);
     ASSERT_EQ(config.load(), 0);
@@ -53,7 +52,7 @@ TEST(ConfigProcesses, SavesInTurnLoseNoKey)
         ASSERT_TRUE(turns.wait()) << round;
         config.setValue(keyOf('a', round), keyOf('a', round));
         ASSERT_EQ(config.save(), 0) << round;
-        turns.handOver();
+        turns.endTurn();
     }
     ASSERT_EQ(writer.waitForExit(), 0U);
 
@@ -80,10 +79,10 @@ TEST(ConfigProcesses, LastToSaveWinsForTheSameKey)
     EXPECT_EQ(windows_tests::readBytes(file), "b0000=parent\n");
 }
 
-TEST(ConfigProcesses, OverlappingSavesSucceedInTheEndAndWriteOnlyWholeLines)
+TEST(ConfigProcesses, OverlappingSavesSucceedEventuallyAndWriteOnlyWholeLines)
 {
-    // All lines have the same size and the file stays below a page, so that whatever mixture of
-    // two writes the system leaves, a line in it that nobody wrote would be a fault of ours.
+    // All lines have the same size and the file stays below a page, so that even a mixture of two
+    // writes consists of complete lines.
     constexpr int rounds = 120;
     const ScratchFolder scratch;
     const std::wstring file = scratch / L"file.cfg";

@@ -1,9 +1,9 @@
 // config_writer FILE LETTER COUNT TURNS START: sets COUNT keys LETTER0000, LETTER0001, ... in FILE
-// and saves after each. Without turns a save that fails is repeated: another process may have the
-// file open at that moment.
-//   TURNS  the name of the turns to take with another process, or "-" to write freely
+// and saves after each. Without turns a failed save is repeated, since another process may have the
+// file open.
+//   TURNS  the name of the turns to take with another process, or "-" to write at any time
 //   START  the name of an event to wait for before the first save, or "-"
-// Ends with the number of the first step that failed, 0 when none did.
+// Exit code: the number of the first step that failed, else 0.
 
 #include "tests/windows/config/turns.h"
 #include "ui/common/config/config.h"
@@ -70,7 +70,7 @@ int main()
         if (!saved)
             return 4;
         if (turns)
-            turns->handOver();
+            turns->endTurn();
     }
     return 0;
 }

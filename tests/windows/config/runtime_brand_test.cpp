@@ -40,7 +40,7 @@ TEST_F(RuntimeBrand, FolderAboveTheProgramsDecidesByItsName)
     EXPECT_EQ(runtimeBrandFor(programBelow(L"Lumacraft")), "Lumacraft");
 }
 
-TEST_F(RuntimeBrand, FolderNameGoesBeforeTheFile)
+TEST_F(RuntimeBrand, FolderNameTakesPrecedenceOverTheFile)
 {
     const std::wstring folder = programBelow(L"Lumacraft");
     writeBytes(scratch / L"Lumacraft" / L"global.cfg", "CompanyBrandMode=1\n");
@@ -53,13 +53,13 @@ TEST_F(RuntimeBrand, FolderNamesAreComparedExactly)
         EXPECT_EQ(runtimeBrandFor(programBelow(name)), "Lumacraft");
 }
 
-TEST_F(RuntimeBrand, ProgramsOwnFolderNameDoesNotCount)
+TEST_F(RuntimeBrand, NameOfTheProgramsOwnFolderIsIgnored)
 {
     std::filesystem::create_directories(scratch / L"Suite" / L"Corvane");
     EXPECT_EQ(runtimeBrandFor(scratch / L"Suite" / L"Corvane"), "Lumacraft");
 }
 
-TEST_F(RuntimeBrand, TrailingSeparatorsDoNotCount)
+TEST_F(RuntimeBrand, TrailingSeparatorsAreIgnored)
 {
     const std::wstring folder = programBelow(L"Corvane");
     for (const wchar_t* const end : {L"\\", L"/", L"\\\\", L"\\/\\"})
@@ -68,7 +68,7 @@ TEST_F(RuntimeBrand, TrailingSeparatorsDoNotCount)
     EXPECT_EQ(runtimeBrandFor((scratch / L"Corvane").native() + L"/bin"), "Corvane");
 }
 
-TEST_F(RuntimeBrand, WithoutTheFileTheDefaultHolds)
+TEST_F(RuntimeBrand, IsTheDefaultWithoutTheFile)
 {
     EXPECT_EQ(runtimeBrandFor(programBelow(L"Suite \u8A66\u9A13")), "Lumacraft");
 }
@@ -118,7 +118,7 @@ TEST_F(RuntimeBrand, FolderWithoutAParentLeavesTheDefault)
         EXPECT_EQ(runtimeBrandFor(folder), "Lumacraft");
 }
 
-TEST_F(RuntimeBrand, ProcessHasTheBrandOfItsOwnPlaceAndKeepsIt)
+TEST_F(RuntimeBrand, IsThatOfTheProgramsFolderAndConstant)
 {
     EXPECT_EQ(fs::runtimeBrandName(), runtimeBrandFor(sys::moduleFolder()));
     EXPECT_EQ(&fs::runtimeBrandName(), &fs::runtimeBrandName());

@@ -1,6 +1,6 @@
 #pragma once
 
-// Two processes taking turns, by two named events with the same start of their names.
+// Lets two processes take turns, by two named events.
 
 #include "support/win32/unique_handle.h"
 
@@ -11,15 +11,15 @@ namespace windows_tests {
 class Turns
 {
 public:
-    // One process is the first, which has the first turn; the other is not.
+    // Exactly one of the two processes is the first, which has the first turn.
     Turns(const std::wstring& name, bool isFirst)
         : own(CreateEventW(nullptr, FALSE, isFirst, (name + (isFirst ? L"_1" : L"_2")).c_str())),
           others(CreateEventW(nullptr, FALSE, !isFirst, (name + (isFirst ? L"_2" : L"_1")).c_str()))
     {}
 
-    // False when the other process does not hand over in time.
+    // False when the other process does not end its turn in time.
     bool wait() const { return WaitForSingleObject(own.get(), 60000) == WAIT_OBJECT_0; }
-    void handOver() const { SetEvent(others.get()); }
+    void endTurn() const { SetEvent(others.get()); }
 
 private:
     win32::KernelHandle own;

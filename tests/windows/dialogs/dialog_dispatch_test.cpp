@@ -1,5 +1,5 @@
-// The whole path from the "Uninstall" button through survey and offer to the statistics service
-// and the store, in one real main window. The service is replaced at the HTTP library.
+// From the "Uninstall" button through survey and offer to the statistics service and the store, in
+// a real main window with a fake HTTP library.
 
 #include "support/netpull/netpull.h"
 #include "tests/windows/dialogs/dialog_driver.h"
@@ -53,7 +53,7 @@ int postedCount()
     return posted.size();
 }
 
-// The services: statistics are recorded, and the country is the Netherlands.
+// The fake services: events are recorded, and the country is the Netherlands.
 netpull::Response answer(const netpull::Request& request)
 {
     netpull::Response response;
@@ -135,8 +135,8 @@ void DialogDispatchTest::addApplication(const char* displayName, const char* idS
             .arg(QLatin1String(idString)));
 }
 
-// Checks every row but leaves the list incomplete, so that the run is a selective one, and runs
-// the program to its end.
+// Checks every row except "Wave Tuner", so that the run is selective, and runs the program to its
+// end.
 bool DialogDispatchTest::run()
 {
     addApplication("Wave Tuner", "WaveTuner");
@@ -153,7 +153,7 @@ bool DialogDispatchTest::run()
     return QApplication::exec() == 0;
 }
 
-// Waits for that many events, checks that their numbers go up by one across all runs of this
+// Waits for `count` events, checks that their numbers increase by one across all runs of this
 // process, and returns them without the numbers.
 QList<QByteArray> DialogDispatchTest::eventsWithoutNumbers(int count)
 {
@@ -303,7 +303,7 @@ void DialogDispatchTest::storeThatDoesNotOpenIsLoggedAsAnError()
     DialogDriver driver;
     driver.expect("QuestionDlg", clickButton("btnTwo"));
     driver.expect("FvdOpenMsDlg", clickButton("mainBtn"));
-    // Nothing opens such addresses then; the tests' computer has no store.
+    // Without the handler nothing opens such addresses.
     QDesktopServices::unsetUrlHandler(storeScheme);
     const bool ended = run();
     QDesktopServices::setUrlHandler(storeScheme, this, "openedInStore");
@@ -384,8 +384,7 @@ void DialogDispatchTest::statisticsStayWithTheFirstSurveyedApplication()
     driver.expect("QuestionDlg", pressKey(Qt::Key_Escape));
     QVERIFY(run());
     QCOMPARE(driver.problem(), QString());
-    // The numbers would begin again, and the application would be another, if the statistics had
-    // been started once more.
+    // A second start of the statistics would restart the numbers and change the application.
     const QByteArrayList events{"show uninstall_quiz clsv"};
     QCOMPARE(eventsWithoutNumbers(1), events);
 }

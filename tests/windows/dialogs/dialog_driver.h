@@ -1,6 +1,6 @@
 #pragma once
 
-// Works through modal dialogs while the program waits inside their exec().
+// Operates modal dialogs while the program waits inside their exec().
 
 #include <QApplication>
 #include <QDialog>
@@ -21,10 +21,10 @@ public:
 
     DialogDriver() { arm(); }
 
-    // The next modal dialog must be of this class; `step` is made on it once it is on the screen.
+    // The next modal dialog must be of this class; `step` is called once it is active.
     void expect(const char* className, Step step) { steps.push_back({className, std::move(step)}); }
 
-    // Empty when every expected dialog came, in order, and no other.
+    // Empty when exactly the expected dialogs appeared, in order.
     QString problem() const
     {
         if (!failure.isEmpty() || steps.empty())
@@ -42,8 +42,8 @@ private:
     static constexpr int intervalMs = 10;
     static constexpr int deadlineMs = 30'000;
 
-    // A new timer for each look: one that is still in its own handler, below a dialog that the
-    // handler opened, would not fire.
+    // Each look has a new timer: a timer does not fire inside its own handler, where a dialog may
+    // be open.
     void arm()
     {
         QTimer::singleShot(intervalMs, this, [this] { look(); });
@@ -55,7 +55,7 @@ private:
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr)
             return;
-        // One that had its step may still be open: below the next one, or about to close.
+        // A dialog whose step was called may still be open: below the next one, or about to close.
         if (seen.contains(dialog)) {
             if (sinceStep.hasExpired(deadlineMs))
                 giveUp(*dialog, QStringLiteral("does not close"));
@@ -105,13 +105,13 @@ inline DialogDriver::Step pressKey(Qt::Key key)
     return [key](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), key); };
 }
 
-// As the program itself would.
+// By QWidget::close().
 inline DialogDriver::Step closeByTitleBar()
 {
     return [](QDialog& dialog) { dialog.close(); };
 }
 
-// What Windows sends for Alt+F4 and for the title bar's button.
+// By the message that Windows sends for Alt+F4 and for the title bar's button.
 DialogDriver::Step sendSystemClose();
 
 // Through the system's keyboard, to the window that has it.

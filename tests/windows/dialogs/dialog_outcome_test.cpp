@@ -1,5 +1,5 @@
-// Survey and offer report one outcome. The report runs further dialogs, and behind those a button
-// can still be pressed by others than mouse and keyboard: assistive programs and timers.
+// Survey and offer report one outcome. The report opens further dialogs, and behind those assistive
+// programs and timers can still press a button.
 
 #include "tests/windows/dialogs/recorded_events.h"
 #include "tests/windows/qt_tests/qt_test.h"

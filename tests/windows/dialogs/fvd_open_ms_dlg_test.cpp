@@ -19,7 +19,7 @@ const char* const clipSaverFlag = "clsv_uninst_ms_msldl_enabled";
 const char* const trackSaverFlag = "trksv_uninst_ms_msldl_enabled";
 const char* const clipSaverExitFlag = "clsv_t149_exit_ms_msldl_enabled";
 
-// The offer with everything that it reports.
+// The offer and its reports.
 class Offer
 {
 public:
@@ -100,7 +100,7 @@ private slots:
 
 void FvdOpenMsDlgTest::cleanup()
 {
-    // A key that is set to nothing is not the same as one that is absent.
+    // Removes all keys: one with an empty value would not count as absent.
     fs::commonConfig().setFileName(L"");
 }
 
@@ -215,7 +215,7 @@ void FvdOpenMsDlgTest::fontsHaveTheirLetterSpacing()
 void FvdOpenMsDlgTest::titleIconAndFlags()
 {
     const Offer offer(61);
-    // The second of the two names that applications with a survey have.
+    // The second name of an application with a survey.
     QCOMPARE(offer.dialog.windowTitle(), QStringLiteral("Tessera Track Saver"));
     const QImage expected =
         QIcon(QStringLiteral(":/common/common/common.ico")).pixmap(32).toImage();

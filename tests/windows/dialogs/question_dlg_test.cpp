@@ -22,7 +22,7 @@ const char* const dialogStyle =
 
 const char* const buttonNames[] = {"btnOne", "btnTwo", "btnThree"};
 
-// The survey with everything that it reports.
+// The survey and its reports.
 class Survey
 {
 public:
@@ -161,7 +161,7 @@ void QuestionDlgTest::fontsHaveTheirLetterSpacing()
 {
     Survey survey;
     QVERIFY(survey.show());
-    // On the screen the style sheets have spoken too, and the spacing must have survived them.
+    // Once shown, the style sheets are applied; they must keep the spacing.
     const QFont title = survey.dialog.findChild<QLabel*>("labelTitle")->font();
     QCOMPARE(title.letterSpacingType(), QFont::PercentageSpacing);
     QCOMPARE(title.letterSpacing(), 93.0);
@@ -260,7 +260,6 @@ void QuestionDlgTest::systemCloseCommandIsASkip()
 {
     Survey survey;
     DialogDriver driver;
-    // What Windows makes of Alt+F4 and of the button in the title bar.
     driver.expect("QuestionDlg", sendSystemClose());
     survey.dialog.exec();
     QCOMPARE(driver.problem(), QString());

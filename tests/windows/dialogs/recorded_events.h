@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 
-// One report of a dialog, as a test sees it.
+// One report of a dialog.
 struct RecordedEvent
 {
     int code;

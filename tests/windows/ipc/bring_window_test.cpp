@@ -37,8 +37,8 @@ void handleWaitingMessages()
         DispatchMessageW(&message);
 }
 
-// Handles messages until none has come for a moment. The screen's window manager gives every new
-// window the focus in turn, and does so late.
+// Handles messages until none has come for `quiet`. The window manager gives every new window the
+// focus in turn, with a delay that nothing announces.
 void settle()
 {
     constexpr DWORD quiet = 200;         // ms
@@ -50,7 +50,7 @@ void settle()
              MsgWaitForMultipleObjects(0, nullptr, FALSE, quiet, QS_ALLINPUT) != WAIT_TIMEOUT);
 }
 
-// The foreground window once the system has come to rest.
+// The foreground window after settle().
 HWND settledForeground()
 {
     settle();
@@ -80,7 +80,7 @@ TEST(EnumerateWindows, VisitsTopLevelWindowsUntilToldToStop)
     EXPECT_EQ(visited, 2);
 }
 
-TEST(EnumerateWindows, EmptyFunctionRaises)
+TEST(EnumerateWindows, EmptyFunctionThrows)
 {
     const TitledWindow window(L"any");
     EXPECT_THROW(sys::enumerateWindows({}), std::bad_function_call);
@@ -108,7 +108,7 @@ struct TitleCase
 class BringWindowToTop : public testing::TestWithParam<TitleCase>
 {};
 
-TEST_P(BringWindowToTop, TakesAWindowWhoseTitleContainsTheOwn)
+TEST_P(BringWindowToTop, SelectsAWindowWhoseTitleContainsTheOwnTitle)
 {
     const TitledWindow other(GetParam().other);
     const TitledWindow own(GetParam().own);
@@ -128,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(Titles, BringWindowToTop,
                                          TitleCase{L"Tessera bench", L"tessera bench", false},
                                          TitleCase{L"Tessera bench", L"Tessera  bench", false}));
 
-TEST(BringWindowToTopOrder, FirstMatchInTheSystemsOrderWins)
+TEST(BringWindowToTopOrder, SelectsTheFirstMatchInTheSystemsOrder)
 {
     const TitledWindow own(L"Tessera bench");
     const TitledWindow one(L"Tessera bench 1");
@@ -145,7 +145,7 @@ TEST(BringWindowToTopOrder, FirstMatchInTheSystemsOrderWins)
     EXPECT_EQ(settledForeground(), *first);
 }
 
-TEST(BringWindowToTopOrder, EmptyOwnTitleTakesTheFirstOtherWindowOfAll)
+TEST(BringWindowToTopOrder, EmptyOwnTitleSelectsTheFirstOtherWindow)
 {
     const TitledWindow own(L"");
     const TitledWindow front(L"~");

@@ -12,7 +12,7 @@
 
 namespace ipctest {
 
-// A channel that has found another copy, as every later copy has.
+// The channel of a later copy.
 struct Client
 {
     Client()
@@ -26,7 +26,7 @@ struct Client
             stopper.join();
     }
 
-    // Like connectToServer, but waits while the server is busy with the exchange before.
+    // Like connectToServer, but waits while the server is busy with the previous exchange.
     int connect(milliseconds deadline = patience)
     {
         const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(deadline.count());
@@ -36,7 +36,7 @@ struct Client
         return result;
     }
 
-    // Asks the channel to stop from another thread, as soon as `event` is signalled.
+    // Requests a stop of the channel from another thread once `event` is signalled.
     void stopOn(HANDLE event)
     {
         stopper = std::thread([this, event] {

@@ -1,4 +1,4 @@
-// The channel's client end against servers that do not behave like the program.
+// The channel's client end against servers that behave unlike the program.
 
 #include "support/keelbase/keelbase.h"
 #include "tests/windows/ipc/channel_client.h"
@@ -20,7 +20,7 @@ using namespace ipctest;
 
 namespace {
 
-// A stranger's server on a thread of its own; `talk` runs once a client is there.
+// A foreign server on its own thread; `talk` runs once a client has connected.
 class ServerThread
 {
 public:
@@ -37,7 +37,7 @@ public:
     }
     void join()
     {
-        // Frees a thread whose client never came.
+        // Releases the thread if no client has come.
         Stranger unblocking(milliseconds(0));
         thread.join();
         joined = true;
@@ -50,23 +50,23 @@ private:
     bool joined = false;
 };
 
-TEST(ChannelClient, WithoutAServerTheOpenFailsAndSendingGives10)
+TEST(ChannelClient, WithoutAServerConnectingFailsAndSendingReturns10)
 {
     Client client;
     EXPECT_EQ(client.channel.connectToServer(), ERROR_FILE_NOT_FOUND);
     EXPECT_FALSE(client.channel.isPipeOpen());
     EXPECT_EQ(client.channel.sendMessage("text"), 10);
-    // Of two reasons not to send, the missing pipe comes first.
+    // A missing pipe takes precedence over a text that is too long.
     EXPECT_EQ(client.channel.sendMessage(std::string(70000, 'x')), 10);
 }
 
-TEST(ChannelClient, BeforeAnyConnectSendingGives10)
+TEST(ChannelClient, SendingBeforeConnectingReturns10)
 {
     Client client;
     EXPECT_EQ(client.channel.sendMessage("text"), 10);
 }
 
-TEST(ChannelClient, FirstInstanceSendsNothingAndGives0)
+TEST(ChannelClient, FirstInstanceSendsNothingAndReturns0)
 {
     Bytes received = {1};
     ServerThread server([&received](StrangeServer& pipe) { received = pipe.read(); });
@@ -79,7 +79,7 @@ TEST(ChannelClient, FirstInstanceSendsNothingAndGives0)
         EXPECT_EQ(client.channel.sendMessage(std::string(70000, 'x')), 0);
     }
     server.join();
-    EXPECT_EQ(received, Bytes()); // the client hung up without a word
+    EXPECT_EQ(received, Bytes()); // the client disconnected without a message
 }
 
 TEST(ChannelClient, RequestIsOneFrameWithTheSendersProcessId)
@@ -103,7 +103,7 @@ TEST(ChannelClient, AnswerNeedsTenBytes)
         ServerThread server([&answer](StrangeServer& pipe) {
             pipe.read();
             pipe.write(answer);
-            pipe.read(); // until the client hangs up
+            pipe.read(); // until the client disconnects
         });
         ASSERT_TRUE(server.created());
         const std::string expected = size > 9 ? std::string("yes").substr(0, size - 9) : "";
@@ -112,7 +112,7 @@ TEST(ChannelClient, AnswerNeedsTenBytes)
     }
 }
 
-TEST(ChannelClient, AnswersHeaderIsNotLookedAt)
+TEST(ChannelClient, HeaderOfAnAnswerIsIgnored)
 {
     ServerThread server([](StrangeServer& pipe) {
         pipe.read();
@@ -123,8 +123,8 @@ TEST(ChannelClient, AnswersHeaderIsNotLookedAt)
     server.join();
 }
 
-// The server's end reads bytes, and so does the client's: only whole messages can be transacted.
-TEST(ChannelClient, PipeOfBytesGives230)
+// TransactNamedPipe needs a message pipe.
+TEST(ChannelClient, BytePipeReturns230)
 {
     const win32::FileHandle server(
         CreateNamedPipeW(pipePath, PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 1000, 1000, 0, nullptr));
@@ -134,7 +134,7 @@ TEST(ChannelClient, PipeOfBytesGives230)
     EXPECT_EQ(client.channel.sendMessage("text"), ERROR_BAD_PIPE);
 }
 
-// The client end inside a channel of this process: the pipe in which `size` bytes wait.
+// The channel's own client end in this process, recognised by `size` waiting bytes.
 HANDLE pipeWithWaitingBytes(DWORD size)
 {
     for (std::uintptr_t value = 4; value < 0x4000; value += 4) {
@@ -150,7 +150,7 @@ HANDLE pipeWithWaitingBytes(DWORD size)
     return INVALID_HANDLE_VALUE;
 }
 
-// A message that nobody has asked for makes every transaction fail until it is read.
+// An unsolicited message makes every transaction fail until it is read.
 class UnaskedMessage : public testing::Test
 {
 protected:
@@ -175,7 +175,7 @@ protected:
     Client client;
 };
 
-TEST_F(UnaskedMessage, IsNotTakenForTheAnswer)
+TEST_F(UnaskedMessage, IsNotReturnedAsTheAnswer)
 {
     EXPECT_EQ(client.channel.sendMessage("text"), ERROR_PIPE_BUSY);
     EXPECT_EQ(client.channel.getAnswer(), "");
@@ -184,7 +184,7 @@ TEST_F(UnaskedMessage, IsNotTakenForTheAnswer)
     EXPECT_EQ(requests, 0);
 }
 
-TEST_F(UnaskedMessage, ErrorOfAnEarlierAttemptIsReturnedThoughALaterOneSucceeds)
+TEST_F(UnaskedMessage, ErrorOfAnEarlierAttemptIsReturnedEvenIfALaterOneSucceeds)
 {
     auto sent =
         std::async(std::launch::async, [this] { return client.channel.sendMessage("text"); });
@@ -201,8 +201,8 @@ TEST_F(UnaskedMessage, ErrorOfAnEarlierAttemptIsReturnedThoughALaterOneSucceeds)
     EXPECT_EQ(requests, 1);
 }
 
-// Takes the log's place while it lives, and runs `failed` on the sending thread after each failed
-// transaction, before the pause that follows.
+// Replaces the log, and calls `failed` on the sending thread after each failed transaction, before
+// the pause that follows.
 class FailedTransactions : public Keelbase::ILogger
 {
 public:
@@ -229,9 +229,9 @@ private:
     std::function<void()> failed;
 };
 
-// Reads every request and answers with more than the client has room for, which fails the
-// transaction. The rest, which would be in the next one's way, is taken out.
-TEST(ChannelClient, SevenTransactionsAreTriedWithPausesOnlyBetweenThem)
+// The server's answers are too long for the client, which makes each transaction fail. The test
+// reads the rest of an answer, which would otherwise disturb the next transaction.
+TEST(ChannelClient, TriesSevenTransactionsWithPausesBetweenThem)
 {
     constexpr std::size_t tooMuch = 10;
     constexpr ULONGLONG pause = 300; // ms
@@ -264,8 +264,8 @@ TEST(ChannelClient, SevenTransactionsAreTriedWithPausesOnlyBetweenThem)
     EXPECT_GE(took, 6 * pause);
 }
 
-// The best of a few tries, since a busy machine may delay any single one by more than a pause.
-TEST(ChannelClient, AfterTheLastAttemptThereIsNoPause)
+// The best of several measurements: on a busy machine a single one may take longer than a pause.
+TEST(ChannelClient, DoesNotPauseAfterTheLastAttempt)
 {
     constexpr ULONGLONG pause = 300; // ms
     ULONGLONG best = pause;
@@ -283,8 +283,8 @@ TEST(ChannelClient, AfterTheLastAttemptThereIsNoPause)
     EXPECT_LT(best, pause / 2);
 }
 
-// The best of a few tries, since a busy machine may delay any single one by more than a pause.
-TEST(ChannelClient, StopRequestEndsThePauseAtOnce)
+// The best of several measurements: on a busy machine a single one may take longer than a pause.
+TEST(ChannelClient, StopRequestEndsThePauseImmediately)
 {
     constexpr ULONGLONG pause = 300; // ms
     ULONGLONG best = pause;
@@ -305,7 +305,7 @@ TEST(ChannelClient, StopRequestEndsThePauseAtOnce)
     EXPECT_LT(best, pause / 2);
 }
 
-TEST(ChannelClient, AfterAStopRequestNothingIsSent)
+TEST(ChannelClient, SendsNothingAfterAStopRequest)
 {
     Bytes received = {1};
     ServerThread server([&received](StrangeServer& pipe) { received = pipe.read(); });
@@ -333,7 +333,7 @@ TEST(ChannelClient, CloseDropsTheConnectionAndMayBeRepeated)
     EXPECT_EQ(client.channel.sendMessage("text"), 10);
 }
 
-TEST(ChannelClient, MayConnectAgainAfterClose)
+TEST(ChannelClient, MayReconnectAfterClose)
 {
     Client client;
     for (const char* text : {"one", "two"}) {

@@ -1,4 +1,4 @@
-// Texts and answers between the channel's client here and its server in another process.
+// Exchanges between the channel's client in this process and its server in another one.
 
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/pipe_stranger.h"
@@ -32,7 +32,7 @@ protected:
     ServingPeer peer;
 };
 
-TEST_F(ChannelExchange, TextComesBackAsTheAnswer)
+TEST_F(ChannelExchange, AnswerArrives)
 {
     EXPECT_EQ(exchange("hello"), (Exchange{0, "hello"}));
 }
@@ -43,7 +43,7 @@ TEST_F(ChannelExchange, EveryByteArrivesUnchangedBothWays)
     EXPECT_EQ(exchange(text), (Exchange{0, text}));
 }
 
-TEST_F(ChannelExchange, LargestTextIsSentAndAnsweredWhole)
+TEST_F(ChannelExchange, LargestTextAndAnswerArriveCompletely)
 {
     const std::string text = everyByteRepeated(65526);
     EXPECT_EQ(exchange(text), (Exchange{0, text}));
@@ -56,7 +56,7 @@ TEST_F(ChannelExchange, LongerTextIsRefusedAndNothingIsSent)
     ASSERT_EQ(client.connect(), 0);
     EXPECT_EQ(client.channel.sendMessage(std::string(65527, 'x')), 111);
     EXPECT_EQ(client.channel.getAnswer(), "");
-    // The same connection is still unused: the server has not answered and hung up.
+    // The connection is still usable: the server received nothing.
     EXPECT_EQ(client.channel.sendMessage("#deliveries"), 0);
     EXPECT_EQ(client.channel.getAnswer(), "2");
 }
@@ -69,7 +69,7 @@ TEST_F(ChannelExchange, LargestAnswerIsWrittenAndALongerOneIsNot)
     EXPECT_EQ(dropped.answer, "");
 }
 
-TEST_F(ChannelExchange, NoAnswerIsAFailureAfterSevenAttemptsButIsDeliveredOnce)
+TEST_F(ChannelExchange, MessageWithoutAnAnswerFailsAfterSevenAttemptsButIsDeliveredOnce)
 {
     const ULONGLONG start = GetTickCount64();
     const Exchange empty = exchange("#empty");
@@ -92,7 +92,7 @@ TEST_F(ChannelExchange, ReceiverThatThrowsCostsOneAnswerAndNoMore)
     }
 }
 
-TEST_F(ChannelExchange, EachSendForgetsTheAnswerBeforeIt)
+TEST_F(ChannelExchange, EachSendForgetsThePreviousAnswer)
 {
     Client client;
     ASSERT_EQ(client.connect(), 0);
@@ -157,7 +157,7 @@ TEST_F(ChannelExchange, HeaderWithoutTextIsDelivered)
     EXPECT_EQ(exchange("#deliveries").answer, "2");
 }
 
-TEST_F(ChannelExchange, HeaderIsNotLookedAtApartFromTheId)
+TEST_F(ChannelExchange, OnlyTheProcessIdOfTheHeaderIsRead)
 {
     Bytes request = frame(4660, "#pid");
     for (std::size_t i = 0; i < 5; ++i)
@@ -176,7 +176,7 @@ TEST_F(ChannelExchange, OneConnectionCarriesOneExchange)
     EXPECT_NE(client.error(), 0u);
 }
 
-TEST_F(ChannelExchange, SecondClientIsToldThatThePipeIsBusy)
+TEST_F(ChannelExchange, PipeIsBusyForASecondClient)
 {
     Stranger first;
     ASSERT_TRUE(first.connected());
@@ -185,7 +185,7 @@ TEST_F(ChannelExchange, SecondClientIsToldThatThePipeIsBusy)
     EXPECT_EQ(second.channel.sendMessage("text"), ERROR_BAD_ENVIRONMENT);
 }
 
-TEST_F(ChannelExchange, PipeIsOneOfMessagesOpenToEveryAccount)
+TEST_F(ChannelExchange, PipeIsAMessagePipeOpenToEveryAccount)
 {
     Stranger client;
     ASSERT_TRUE(client.connected());
@@ -197,7 +197,7 @@ TEST_F(ChannelExchange, PipeIsOneOfMessagesOpenToEveryAccount)
     EXPECT_TRUE(flags & PIPE_TYPE_MESSAGE);
     EXPECT_EQ(outSize, 65535u);
     EXPECT_EQ(inSize, 65535u);
-    EXPECT_GE(instances, DWORD{PIPE_UNLIMITED_INSTANCES}); // Wine says "unlimited" by -1
+    EXPECT_GE(instances, DWORD{PIPE_UNLIMITED_INSTANCES}); // Wine returns -1
 
     PACL list = nullptr;
     PSECURITY_DESCRIPTOR descriptor = nullptr;
@@ -212,7 +212,7 @@ TEST_F(ChannelExchange, PipeIsOneOfMessagesOpenToEveryAccount)
     LocalFree(descriptor);
 }
 
-TEST_F(ChannelExchange, ManyProcessesAtOnceEachGetTheirOwnAnswer)
+TEST_F(ChannelExchange, ConcurrentProcessesEachGetTheirOwnAnswer)
 {
     std::vector<ChildProcess> senders;
     for (int i = 0; i < 8; ++i)
@@ -225,7 +225,7 @@ TEST_F(ChannelExchange, ManyProcessesAtOnceEachGetTheirOwnAnswer)
     }
 }
 
-TEST_F(ChannelExchange, TenThousandMessagesLeaveNoHandleAndNoMemoryBehind)
+TEST_F(ChannelExchange, TenThousandMessagesLeakNeitherHandlesNorMemory)
 {
     struct Usage
     {

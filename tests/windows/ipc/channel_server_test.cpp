@@ -20,7 +20,7 @@ using namespace ipctest;
 
 namespace {
 
-// Echoes; holds a delivery back while `gate` is given.
+// Echoes each text; with a `gate`, waits for it in the delivery.
 class Receiver : public IMessageFromOtherProcess
 {
 public:
@@ -51,7 +51,8 @@ struct Server
     CInterprocessCommunicationWin channel;
 };
 
-// True when `work` ends in time. What hangs for good cannot be joined, so the process ends then.
+// True when `work` ends in time. Otherwise the process ends, since a hanging thread cannot be
+// joined.
 bool endsInTime(std::function<void()> work, milliseconds deadline = milliseconds(20000))
 {
     auto done = std::async(std::launch::async, std::move(work));
@@ -75,14 +76,14 @@ void expectNoPipe(const CInterprocessCommunicationWin& channel)
     EXPECT_EQ(nobody.error(), DWORD{ERROR_FILE_NOT_FOUND});
 }
 
-TEST(ChannelServer, WithoutAClaimedMutexThereIsNoThreadToStart)
+TEST(ChannelServer, DoesNotStartWithoutAClaimedMutex)
 {
     CInterprocessCommunicationWin channel;
     EXPECT_EQ(channel.createServer(), 87);
     expectNoPipe(channel);
 }
 
-// As _beginthreadex does when there is no memory for another thread.
+// A fake of _beginthreadex that fails.
 std::uintptr_t beginNoThread(void*, unsigned, unsigned(__stdcall*)(void*), void*, unsigned,
                              unsigned*)
 {
@@ -96,12 +97,12 @@ TEST(ChannelServer, ThreadThatDoesNotStartLeavesNoPipeBehind)
     EXPECT_EQ(server.channel.createServer(), 10);
     win32::setBeginThread(nullptr);
     expectNoPipe(server.channel);
-    // Nothing is in the way of another try.
+    // Another start succeeds.
     ASSERT_EQ(server.start(), 0);
     EXPECT_EQ(Stranger().transact(frame(1, "text")), frame(GetCurrentProcessId(), "text"));
 }
 
-TEST(ChannelServer, SecondStartIsBusyAndTouchesNothing)
+TEST(ChannelServer, SecondStartIsBusyAndKeepsTheConnectedClient)
 {
     Server server;
     ASSERT_EQ(server.start(), 0);
@@ -115,7 +116,7 @@ TEST(ChannelServer, SecondStartIsBusyAndTouchesNothing)
     EXPECT_EQ(connected.transact(frame(1, "text")), frame(GetCurrentProcessId(), "text"));
 }
 
-TEST(ChannelServer, SecondStartIsBusyAndServingGoesOn)
+TEST(ChannelServer, SecondStartIsBusyAndKeepsServing)
 {
     Server server;
     ASSERT_EQ(server.start(), 0);
@@ -126,7 +127,7 @@ TEST(ChannelServer, SecondStartIsBusyAndServingGoesOn)
     EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
 }
 
-TEST(ChannelServer, ServesAgainAfterClose)
+TEST(ChannelServer, MayBeRestartedAfterClose)
 {
     Server server;
     for (const wchar_t* text : {L"one", L"two"}) {
@@ -140,7 +141,7 @@ TEST(ChannelServer, ServesAgainAfterClose)
 
 TEST(ChannelServer, FailureToOpenThePipeIsReturned)
 {
-    // A server of another kind has the name: a pipe of bytes instead of messages.
+    // A byte pipe has the name.
     const win32::FileHandle other(
         CreateNamedPipeW(pipePath, PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 100, 100, 0, nullptr));
     ASSERT_TRUE(other);
@@ -199,7 +200,7 @@ TEST(ChannelServerClose, DuringADeliveryWaitsForItsEnd)
     client.waitForExit();
 }
 
-// A delivery under way that asks for a stop at its end, or while it lasts.
+// A stop requested during a delivery.
 class StopDuringADelivery : public testing::Test
 {
 protected:
@@ -222,10 +223,10 @@ TEST_F(StopDuringADelivery, NoAnswerIsWrittenAfterIt)
     server.channel.requestStop();
     gate.set();
     EXPECT_EQ(answer.get(), Bytes());
-    EXPECT_EQ(server.receiver.answerText, "text"); // there would have been one
+    EXPECT_EQ(server.receiver.answerText, "text"); // the answer that is not written
 }
 
-TEST_F(StopDuringADelivery, IsNotTakenBackByASecondStart)
+TEST_F(StopDuringADelivery, IsNotRevokedByASecondStart)
 {
     server.channel.requestStop();
     EXPECT_EQ(server.channel.createServer(), 170);
@@ -249,9 +250,9 @@ TEST(ChannelServerClose, DestructorStopsAServingChannel)
     }));
 }
 
-// The system writes the outcome of a pending wait into the channel's own memory; none may come
-// after the channel's end.
-TEST(ChannelServerClose, NothingIsWrittenIntoTheMemoryOfAnEndedChannel)
+// The system writes the result of pending I/O to the channel's memory; that must not happen after
+// the channel's end.
+TEST(ChannelServerClose, NothingIsWrittenToTheMemoryOfADestroyedChannel)
 {
     constexpr int count = 300;
     struct Place
@@ -280,12 +281,12 @@ TEST(ChannelServerThread, ClientBeforeTheFirstWaitEndsIt)
 {
     ServingPeer peer({L"client-before-first-wait"});
     ASSERT_TRUE(peer.ready());
-    // That client is let go, and does not wait for an answer until the process ends.
+    // That client is disconnected; it does not wait for an answer until the process ends.
     EXPECT_TRUE(peer.earlyClientIsLetGo());
     // The one pipe instance stays with the early client, and nobody serves it.
     Client client;
     EXPECT_EQ(client.connect(milliseconds(2000)), ERROR_PIPE_BUSY);
-    // Closing finds the thread ended, and does not hang.
+    // Closing does not hang, although the thread has ended.
     EXPECT_EQ(peer.stop(), 0u);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// A child process that takes the single-instance mutex, or finds it taken, and does not serve.
+// A child process that claims the single-instance mutex and does not serve.
 
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/support/child_process.h"
@@ -13,7 +13,7 @@ namespace ipctest {
 
 using namespace windows_tests;
 
-// Keeps what it got of the mutex until stop(), or its own end.
+// Keeps its handle of the mutex until stop() or its own end.
 class ClaimingPeer
 {
 public:
@@ -32,7 +32,7 @@ public:
 
     bool isFirst() const { return first.isSet(); }
     bool isLater() const { return later.isSet(); }
-    // Lets the child end; false when it does not end well. May be repeated.
+    // Lets the child end; false when it does not end with code 0. May be repeated.
     bool stop()
     {
         stopEvent.set();

@@ -1,5 +1,5 @@
-// A later copy has the right to put windows in front, the first copy has not. Wine knows no such
-// right, so the calls themselves are watched.
+// On Windows a later copy has the right to bring windows to the foreground, and the first copy has
+// not. Wine has no such right, so the test records the calls.
 
 #include "tests/support/import_slot.h"
 #include "tests/windows/ipc/messaged_window.h"
@@ -53,7 +53,7 @@ void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends_data()
     QTest::addColumn<bool>("passes");
     QTest::newRow("no arguments") << QByteArray() << true;
     QTest::newRow("show") << QByteArray("/show") << true;
-    QTest::newRow("nothing comes up") << QByteArray("/app") << false;
+    QTest::newRow("not shown") << QByteArray("/app") << false;
     QTest::newRow("minimised") << QByteArray("/show/minimized") << false;
 }
 

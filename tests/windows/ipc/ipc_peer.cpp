@@ -1,17 +1,17 @@
-// The other process of the channel's tests: a copy that serves, sends or only takes the mutex.
+// The other process of the channel's tests: a copy that serves, sends or only claims the mutex.
 //
 //   ipc_peer serve NAME [client-before-first-wait]
-//       serves until the event NAME_stop; NAME_ready is signalled once the server stands. Exit
-//       code: what createServer returned. Answers are described at ScriptedReceiver. The client
-//       before the first wait reads; NAME_let_go is signalled when that has failed.
+//       serves until the event NAME_stop; signals NAME_ready once the server runs. Exit code: the
+//       result of createServer. For the answers see ScriptedReceiver. The client before the first
+//       wait reads; NAME_let_go is signalled when its read has failed.
 //   ipc_peer send TEXT
-//       sends TEXT and prints the answer. Exit code: what connectToServer or sendMessage returned.
+//       sends TEXT and prints the answer. Exit code: the result of connectToServer or sendMessage.
 //   ipc_peer claim NAME [forget]
-//       takes the mutex, signals NAME_first or NAME_later, and ends on NAME_stop. With "forget" its
-//       channel is gone before it signals.
+//       claims the mutex, signals NAME_first or NAME_later, and ends on NAME_stop. With "forget" it
+//       destroys its channel before it signals.
 //
-// With TESSERA_IPC_UNINSTALLER=NAME in its environment it is an application's uninstaller that
-// takes its time, whatever its arguments: signals NAME_removing and ends on NAME_removed.
+// With TESSERA_IPC_UNINSTALLER=NAME in its environment it is a slow uninstaller, whatever its
+// arguments: it signals NAME_removing and ends on NAME_removed.
 
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/peer_events.h"
@@ -39,8 +39,8 @@ using ipctest::NamedEvent;
 constexpr int badUsage = 200;
 constexpr DWORD longestRun = 600000; // ms
 
-// Set for the time of createServer by "client-before-first-wait": every new thread then first runs
-// threadStarted, and the server thread finds a client connected before its own first wait.
+// Set by "client-before-first-wait" during createServer: the new server thread first runs
+// threadStarted, which connects a client before the server's first wait.
 bool connectFromNewThread = false;
 HANDLE earlyClient = INVALID_HANDLE_VALUE;
 
@@ -53,8 +53,8 @@ void NTAPI threadStarted(PVOID, DWORD reason, PVOID)
                               OPEN_EXISTING, 0, nullptr);
 }
 
-// Reply of NtQuerySystemInformation for all open handles of the system, in the form that Windows
-// and Wine share. (Wine's GetProcessHandleCount always gives 0.)
+// The result of NtQuerySystemInformation for all open handles of the system, as on Windows and
+// Wine. (Wine's GetProcessHandleCount always returns 0.)
 struct HandleEntry
 {
     void* object;
@@ -110,7 +110,7 @@ public:
             answerText = std::to_string(pid);
         } else if (text == "#empty") {
             answerText.clear();
-        } else if (text == "#deliveries") { // so far, with this one
+        } else if (text == "#deliveries") { // so far, including this one
             answerText = std::to_string(deliveries);
         } else if (text == "#usage") { // handles, KiB of memory
             answerText = usage();
@@ -129,7 +129,7 @@ private:
     unsigned long deliveries = 0;
 };
 
-// Reads as the early client, and signals when the server has hung up.
+// Reads as the early client, and signals when the server has disconnected it.
 void waitAsEarlyClient(const NamedEvent& letGo)
 {
     char answer = 0;
@@ -191,7 +191,7 @@ int removeSlowly(const std::wstring& name)
 
 } // namespace
 
-// The loader calls what this section lists at each thread's start, before the thread's own code.
+// The loader calls the functions in this section at each thread's start, before the thread's code.
 #ifdef _MSC_VER
 #pragma comment(linker, "/INCLUDE:_tls_used")
 #pragma comment(linker, "/INCLUDE:atThreadStart")

@@ -1,5 +1,5 @@
-// The main window's base class in a later copy. Once this process has been one, it keeps the
-// mutex; the first copy's tests are in a process of their own.
+// The main window's base class in a later copy. A later copy keeps the mutex until its process
+// ends, so the first copy's tests run in another process.
 
 #include "tests/windows/ipc/claiming_peer.h"
 #include "tests/windows/ipc/messaged_window.h"
@@ -10,7 +10,7 @@ using namespace ipctest;
 
 namespace {
 
-// How many messages the serving peer has been given, this question among them.
+// The number of messages that the serving peer has received, including this request.
 QString deliveriesSoFar()
 {
     Stranger client;
@@ -29,7 +29,7 @@ private slots:
     void sendsItsArgumentsAndIsAnotherInstance();
     void withoutArgumentsSendsShow();
     void doesNotServe();
-    void withoutAServerIsAnotherInstanceAllTheSame();
+    void withoutAServerIsStillAnotherInstance();
     void answeredReviveBecomesTheFirst();
     void withoutTheCheckOpensItsWindow();
     void withAParentBringsItsNamesakeForward_data();
@@ -43,9 +43,9 @@ void LaterCopyTest::sendsItsArgumentsAndIsAnotherInstance()
     Window window({"/app", "Some Id"});
     QVERIFY(window.isAnotherInstanceRunning());
     QCOMPARE(deliveriesSoFar(), QStringLiteral("2"));
-    // A copy does not wait for a busy pipe, so the server must have let the last client go.
+    // A copy does not wait for a busy pipe, so the server must have disconnected the last client.
     QVERIFY(WaitNamedPipeW(pipePath, waitTime(patience)));
-    // What arrived last is what a request too short for delivery is answered with.
+    // The answer to a request too short for delivery is the previous one, the last message.
     Window again({"a", "b c"});
     Stranger client;
     QCOMPARE(client.transact({1}), frame(peer.pid(), "a b c"));
@@ -75,19 +75,19 @@ void LaterCopyTest::doesNotServe()
     QCOMPARE(client.error(), DWORD{ERROR_FILE_NOT_FOUND});
 }
 
-void LaterCopyTest::withoutAServerIsAnotherInstanceAllTheSame()
+void LaterCopyTest::withoutAServerIsStillAnotherInstance()
 {
-    const ClaimingPeer other; // whoever has the mutex, nobody serves
+    const ClaimingPeer other; // has the mutex, but does not serve
     QElapsedTimer timer;
     timer.start();
     Window window;
     QVERIFY(window.isAnotherInstanceRunning());
-    QVERIFY(timer.elapsed() < 2000); // no attempts without a pipe
+    QVERIFY(timer.elapsed() < 2000); // without a pipe there are no further attempts
 }
 
 void LaterCopyTest::answeredReviveBecomesTheFirst()
 {
-    ServingPeer peer; // answers with what it gets
+    ServingPeer peer; // echoes
     QVERIFY(peer.ready());
     Window window({"please", "revive"});
     QVERIFY(!window.isAnotherInstanceRunning());
@@ -102,7 +102,7 @@ void LaterCopyTest::withoutTheCheckOpensItsWindow()
     QVERIFY(peer.ready());
     Window window({}, nullptr, false);
     QVERIFY(!window.isAnotherInstanceRunning());
-    QCOMPARE(deliveriesSoFar(), QStringLiteral("1")); // that question itself
+    QCOMPARE(deliveriesSoFar(), QStringLiteral("1")); // only this request
 }
 
 void LaterCopyTest::withAParentBringsItsNamesakeForward_data()

@@ -16,7 +16,7 @@ namespace ipctest {
 
 constexpr int patienceMs = 30000;
 
-// Remembers what reaches the hook.
+// Records the texts that reach the hook.
 class Window : public CInterprocessCommunicationApp
 {
 public:
@@ -32,9 +32,9 @@ public:
                                           Q_ARG(unsigned long, 77), Q_ARG(QString, message)));
     }
 
-    // As the channel's server thread does.
+    // Called as by the channel's server thread.
     void deliver(const std::string& text) { onMessageFromOtherProcess(1, text); }
-    // Whether messages reach the main thread.
+    // Whether messages are delivered to the main thread.
     bool isConnected() const
     {
         return isSignalConnected(QMetaMethod::fromSignal(
@@ -59,7 +59,7 @@ protected:
     }
 };
 
-// Sends a text from another process, or rather thread, as a stranger does; the answer's text.
+// Sends a text from another thread without the program's classes; returns the answer's text.
 inline std::future<std::string> sendFromThread(std::string text)
 {
     return std::async(std::launch::async, [text = std::move(text)]() -> std::string {
@@ -69,7 +69,7 @@ inline std::future<std::string> sendFromThread(std::string text)
     });
 }
 
-// Runs the event loop until the answer is there.
+// Runs the event loop until the answer has arrived.
 inline std::string answerTo(const std::string& text)
 {
     auto answer = sendFromThread(text);
@@ -87,7 +87,7 @@ inline std::unique_ptr<Window> servingWindow()
     std::unique_ptr<Window> window;
     int pause = 20; // ms
     do {
-        window.reset(); // or it would be the first copy to the next one
+        window.reset(); // otherwise the new window would be a later copy
         window = std::make_unique<Window>();
         QTest::qWait(pause);
         pause *= 2;

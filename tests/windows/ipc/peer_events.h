@@ -1,6 +1,6 @@
 #pragma once
 
-// Named events, with which a test and its child processes tell each other where they are.
+// Named events, by which a test and its child processes synchronise.
 
 #include "support/win32/unique_handle.h"
 
@@ -10,7 +10,7 @@
 
 namespace ipctest {
 
-// Manual-reset; whoever comes first creates it.
+// A manual-reset event, created by the first process that names it.
 class NamedEvent
 {
 public:
@@ -19,7 +19,7 @@ public:
     {}
 
     void set() const { SetEvent(event.get()); }
-    // False when it did not come in `deadline` ms.
+    // False when it is not signalled within `deadline` ms.
     bool wait(DWORD deadline = 60000) const
     {
         return WaitForSingleObject(event.get(), deadline) == WAIT_OBJECT_0;

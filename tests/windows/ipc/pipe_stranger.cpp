@@ -31,7 +31,7 @@ Stranger::Stranger(milliseconds deadline)
         if (pipe)
             break;
         lastError = GetLastError();
-        // Another client may slip in between the wait's end and the next open.
+        // Another client may connect between the wait's end and the next open.
         if (lastError != ERROR_PIPE_BUSY || now >= end ||
             !WaitNamedPipeW(pipePath, static_cast<DWORD>(end - now)))
             return;
@@ -96,7 +96,7 @@ bool serverTakesClients()
             return false;
         probe.transact({1});
     }
-    constexpr DWORD soon = 2000; // ms; an ended thread leaves the pipe busy for good
+    constexpr DWORD soon = 2000; // ms; after the thread's end the pipe stays busy
     return WaitNamedPipeW(pipePath, soon) != FALSE;
 }
 
@@ -110,7 +110,7 @@ bool StrangeServer::waitForClient()
 {
     if (ConnectNamedPipe(pipe.get(), nullptr))
         return true;
-    // A client was there before; it may even have left again.
+    // A client has connected before the call, and may have disconnected since.
     return GetLastError() == ERROR_PIPE_CONNECTED || GetLastError() == ERROR_NO_DATA;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The pipe as a program of other origin sees it: the platform's calls only, no class of ours.
+// The pipe as a foreign program uses it: by system calls only.
 
 #include "tests/windows/support/child_process.h"
 #include "ui/common/sys/interprocess_communication_win.h"
@@ -15,28 +15,28 @@ using namespace windows_tests;
 
 using Bytes = std::vector<std::uint8_t>;
 
-// \\.\pipe\ and the name that the program's copies meet under.
+// The path of the program's pipe.
 extern const wchar_t* const pipePath;
 
-// A frame with the header as any sender writes it.
+// A frame with a correct header.
 Bytes frame(std::uint32_t pid, const std::string& text);
 
 // A client. Move-only.
 class Stranger
 {
 public:
-    // Waits until the server takes a client. connected() is false when that takes too long.
+    // Waits until the server accepts the client; connected() is false when that takes too long.
     explicit Stranger(milliseconds deadline = patience);
 
     bool connected() const { return static_cast<bool>(pipe); }
-    // Error of the last operation, 0 after a good one.
+    // The last operation's error, 0 after success.
     DWORD error() const { return lastError; }
 
     bool write(const Bytes& message);
-    // One message; empty with error() set when none comes because the server has hung up.
+    // One message; empty with error() set when the server has disconnected.
     Bytes read();
-    // Writes a message and reads the answer in one step, so that the server's hanging up right
-    // after its answer cannot lose it.
+    // Writes a message and reads the answer in one step, so that the answer is not lost when the
+    // server disconnects right after it.
     Bytes transact(const Bytes& message);
     HANDLE handle() const { return pipe.get(); }
     void disconnect() { pipe.reset(); }
@@ -46,22 +46,22 @@ private:
     DWORD lastError = 0;
 };
 
-// True when the server thread takes clients: it hangs up on a request that is too short to be
-// delivered, and then listens again.
+// True when the server thread accepts clients: it disconnects one whose request is too short to be
+// delivered, and listens for the next.
 bool serverTakesClients();
 
-// channel.createServer(), and again until the server thread takes clients. A client that comes
-// before the thread's first wait ends the thread; a test that is about something else must not be
-// that client, so the thread gets a moment first, and a longer one each time that was too short.
+// Calls channel.createServer() until the server thread accepts clients, and returns its result. A
+// client that connects before the thread's first wait ends the thread; nothing announces that wait.
+// So each start is given some time, doubled after a failure.
 int serveForSure(CInterprocessCommunicationWin& channel);
 
-// A server of one pipe instance, without the program's class.
+// A server with one pipe instance, without the program's classes.
 class StrangeServer
 {
 public:
     StrangeServer();
     bool created() const { return static_cast<bool>(pipe); }
-    // Blocks until a client is there; it may have come before.
+    // Blocks until a client has connected.
     bool waitForClient();
     Bytes read();
     bool write(const Bytes& message);

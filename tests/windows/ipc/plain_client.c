@@ -1,11 +1,11 @@
 /*
- * A client of the program's pipe in plain C, built from docs/messages.md alone: no header and no
- * code of the program. Another program of the suite would do just this.
+ * A client of the program's pipe in plain C, written by docs/messages.md, without headers or code
+ * of the program: an example for other programs of the suite.
  *
  *   plain_client TEXT    sends TEXT, prints the answer
  *
- * Exit codes: 0 answered, 1 the server hung up without an answer, 2 no server, 3 still busy after
- * ten seconds, 4 bad usage, 5 an answer that is no frame.
+ * Exit codes: 0 answered, 1 the server disconnected without an answer, 2 no server, 3 still busy
+ * after ten seconds, 4 bad usage, 5 the answer is not a frame.
  */
 #include <stdio.h>
 #include <string.h>
@@ -70,8 +70,7 @@ int main(int argc, char** argv)
     CloseHandle(pipe);
     if (!answered)
         return 1;
-    if (received < HEADER + 1 || answer[0] != 1 ||
-        (DWORD)(answer[3] * 256 + answer[4]) != received)
+    if (received < HEADER + 1 || answer[0] != 1 || (DWORD)(answer[3] * 256 + answer[4]) != received)
         return 5;
     fwrite(answer + HEADER, 1, received - HEADER, stdout);
     return 0;

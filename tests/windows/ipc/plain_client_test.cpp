@@ -1,4 +1,4 @@
-// The channel as an independent program in C sees it.
+// The channel used by an independent program in C.
 
 #include "tests/windows/ipc/serving_peer.h"
 #include "tests/windows/support/child_process.h"
@@ -27,7 +27,7 @@ TEST(PlainClient, ExchangesFramesWithTheServer)
     EXPECT_EQ(peer.stop(), 0u);
 }
 
-TEST(PlainClient, TellsAServerWithoutAnAnswerFromNoServer)
+TEST(PlainClient, DistinguishesNoServerFromNoAnswer)
 {
     EXPECT_EQ(plainClient(L"text").waitForExit(), 2u);
     ServingPeer peer;

@@ -12,7 +12,7 @@ using namespace ipctest;
 
 namespace {
 
-// How the first copy stands after the storm.
+// The state of the first copy's server after the storm.
 enum class Server { answers, ended, neither };
 
 const char* describe(Server server)
@@ -25,12 +25,12 @@ const char* describe(Server server)
     case Server::neither:
         break;
     }
-    return "neither answers nor has ended as it may";
+    return "neither answers nor was ended by an early client";
 }
 
 Server serverOf(HWND window)
 {
-    // At level 7 the log tells why a server thread ended.
+    // At level 7 the log says why a server thread ended.
     if (programLogs().find("ConnectNamedPipe failed") != std::string::npos) {
         const Stranger client(milliseconds(2000));
         return !client.connected() && client.error() == ERROR_PIPE_BUSY ? Server::ended

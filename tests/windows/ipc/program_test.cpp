@@ -13,7 +13,7 @@ using testing::HasSubstr;
 
 namespace {
 
-// The suite's registered applications, for as long as a test runs.
+// Registers applications for the duration of a test.
 class RegisteredApplications
 {
 public:
@@ -38,7 +38,7 @@ class Program : public testing::Test
 protected:
     void SetUp() override { clearLogs(); }
 
-    static void expectHandedOver(const SecondStart& second)
+    static void expectPassedOn(const SecondStart& second)
     {
         EXPECT_EQ(second.exitCode, 0u);
         EXPECT_FALSE(second.showedAWindow);
@@ -66,15 +66,15 @@ protected:
 TEST_F(StartedProgram, SecondStartShowsTheFirstsWindowAndEnds)
 {
     const SecondStart second = startSecond(first, {});
-    expectHandedOver(second);
+    expectPassedOn(second);
     EXPECT_TRUE(becomesTrue([this] { return GetForegroundWindow() == first.window(); }));
     EXPECT_EQ(programWindows(), std::vector<HWND>{first.window()});
     EXPECT_THAT(programLogs(), HasSubstr(". MSG: /show\n"));
 }
 
-TEST_F(StartedProgram, SecondStartHandsItsArgumentsOver)
+TEST_F(StartedProgram, SecondStartPassesItsArgumentsOn)
 {
-    expectHandedOver(startSecond(first, {L"/app", L"ClipTrimmer"}));
+    expectPassedOn(startSecond(first, {L"/app", L"ClipTrimmer"}));
     EXPECT_THAT(programLogs(), HasSubstr(". MSG: /app ClipTrimmer\n"));
 }
 
@@ -82,14 +82,14 @@ TEST_F(StartedProgram, SecondStartRestoresAMinimisedWindow)
 {
     ShowWindow(first.window(), SW_MINIMIZE);
     ASSERT_TRUE(becomesTrue([this] { return IsIconic(first.window()) != FALSE; }));
-    expectHandedOver(startSecond(first, {}));
+    expectPassedOn(startSecond(first, {}));
     EXPECT_FALSE(IsIconic(first.window()));
     EXPECT_TRUE(becomesTrue([this] { return GetForegroundWindow() == first.window(); }));
 }
 
 TEST_F(StartedProgram, SecondStartCanMinimiseTheWindow)
 {
-    expectHandedOver(startSecond(first, {L"/show", L"/minimized"}));
+    expectPassedOn(startSecond(first, {L"/show", L"/minimized"}));
     EXPECT_TRUE(becomesTrue([this] { return IsIconic(first.window()) != FALSE; }));
 }
 
@@ -101,7 +101,7 @@ TEST_F(StartedProgram, PlainClientLearnsTheWindowsHandle)
     EXPECT_EQ(client.output(), std::to_string(low));
 }
 
-TEST_F(StartedProgram, PlainClientsOtherTextsAreLoggedAndNotAnswered)
+TEST_F(StartedProgram, UnknownTextsAreLoggedAndNotAnswered)
 {
     ChildProcess client(siblingProgram(L"plain_client"), {L"hello there"}, {false, true});
     EXPECT_EQ(client.waitForExit(), 1u);
@@ -115,9 +115,9 @@ TEST_F(StartedProgram, ClosesWhileAStrangerIsConnected)
     EXPECT_EQ(first.close(), 0u);
 }
 
-TEST_F(StartedProgram, ManyMessagesInARowAreEachAnswered)
+TEST_F(StartedProgram, AnswersManyMessagesInARow)
 {
-    const Bytes expected = [this] {
+    const Bytes expected = [] {
         Stranger client;
         return client.transact(frame(1, "/gethwnd"));
     }();
@@ -133,7 +133,7 @@ TEST_F(Program, SecondStartReachesAFirstWithAModalBoxOpen)
 {
     const RegisteredApplications registry;
     registry.add(L"Clip Trimmer", L"ClipTrimmer");
-    // Its application runs, so the first copy asks before it removes it.
+    // The application is running, so the first copy asks before it removes it.
     const win32::KernelHandle running(
         CreateMutexW(nullptr, FALSE, L"Global\\Lumacraft_ClipTrimmer"));
     ASSERT_TRUE(running);
@@ -143,11 +143,11 @@ TEST_F(Program, SecondStartReachesAFirstWithAModalBoxOpen)
     ASSERT_TRUE(becomesTrue([&first] { return modalBoxOf(first.pid()) != nullptr; }));
     const HWND box = modalBoxOf(first.pid());
 
-    expectHandedOver(startSecond(first, {L"/app", L"While asking"}));
+    expectPassedOn(startSecond(first, {L"/app", L"While asking"}));
     EXPECT_THAT(programLogs(), HasSubstr(". MSG: /app While asking\n"));
     EXPECT_EQ(modalBoxOf(first.pid()), box);
 
-    PostMessageW(box, WM_CLOSE, 0, 0); // as Cancel: the run ends, and the program with it
+    PostMessageW(box, WM_CLOSE, 0, 0); // like Cancel: the run and the program end
     EXPECT_EQ(first.waitForExit(), 0u);
 }
 
@@ -167,10 +167,10 @@ TEST_F(Program, SecondStartReachesAFirstThatIsUninstalling)
     first.clickUninstall();
     ASSERT_TRUE(removing.wait());
 
-    // Each of the six is waited for two seconds.
+    // The program waits two seconds for each of the six.
     const SecondStart second = startSecond(first, {L"/app", L"While removing"});
     EXPECT_TRUE(first.running());
-    expectHandedOver(second);
+    expectPassedOn(second);
     EXPECT_THAT(programLogs(), HasSubstr(". MSG: /app While removing\n"));
 
     removed.set();

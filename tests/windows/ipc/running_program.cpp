@@ -9,7 +9,7 @@ namespace ipctest {
 
 namespace {
 
-constexpr DWORD lookAgainAfter = 10; // ms
+constexpr DWORD checkInterval = 10; // ms
 
 struct Search
 {
@@ -56,7 +56,7 @@ bool becomesTrue(const std::function<bool()>& condition)
         if (GetTickCount64() >= end)
             return false;
         LARGE_INTEGER due = {};
-        due.QuadPart = -10000LL * lookAgainAfter;
+        due.QuadPart = -10000LL * checkInterval;
         SetWaitableTimer(timer.get(), &due, 0, nullptr, nullptr, FALSE);
         WaitForSingleObject(timer.get(), INFINITE);
     }
@@ -96,7 +96,7 @@ std::string programLogs()
 
 void clearLogs()
 {
-    // The folder stays: a program that has begun to log does not make it again.
+    // The folder stays: a program that has begun to log does not recreate it.
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(logFolder(), error))
         std::filesystem::remove(entry.path(), error);
@@ -145,7 +145,7 @@ SecondStart startSecond(const RunningProgram& first, const std::vector<std::wstr
         if (std::any_of(windows.begin(), windows.end(),
                         [&first](HWND window) { return processOf(window) != first.pid(); }))
             result.showedAWindow = true;
-        result.exitCode = second.waitForExit(milliseconds(lookAgainAfter));
+        result.exitCode = second.waitForExit(milliseconds(checkInterval));
     } while (!result.exitCode && GetTickCount64() < end);
     return result;
 }

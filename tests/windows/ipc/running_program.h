@@ -1,6 +1,6 @@
 #pragma once
 
-// The real program, started as a user would start it, and what can be seen of it from outside.
+// The real program, started and observed from outside.
 
 #include "tests/windows/support/child_process.h"
 
@@ -12,21 +12,20 @@ namespace ipctest {
 
 using namespace windows_tests;
 
-// Waits for a condition that gives no event to wait for. False after a minute without it.
+// Waits for a condition that no event announces; false when it is not met in time.
 bool becomesTrue(const std::function<bool()>& condition);
 
 // Visible top-level windows with the program's title, of all processes.
 std::vector<HWND> programWindows();
 
-// The top-level window of process `pid` that is enabled while its others are not: an open modal
-// box. Null when there is none.
+// The open modal box of process `pid`: its only enabled top-level window. Null when there is none.
 HWND modalBoxOf(DWORD pid);
 
 // All log lines that copies of the program have written since clearLogs().
 std::string programLogs();
 void clearLogs();
 
-// A first copy, which shows its window.
+// A first copy with its window.
 class RunningProgram
 {
 public:
@@ -38,11 +37,11 @@ public:
     bool running() const { return !process.waitForExit(milliseconds(0)); }
     std::optional<DWORD> waitForExit() const { return process.waitForExit(); }
 
-    // A press of the left button at a point of the window, in its client coordinates.
+    // Clicks a point of the window, in client coordinates.
     void click(int x, int y) const;
     void clickSelectAll() const { click(210, 279); }
     void clickUninstall() const { click(317, 279); }
-    // Closes the window; the exit code.
+    // Closes the window; returns the exit code.
     std::optional<DWORD> close() const;
 
 private:
@@ -52,7 +51,7 @@ private:
 
 struct SecondStart
 {
-    std::optional<DWORD> exitCode; // nothing when it did not end in time
+    std::optional<DWORD> exitCode; // empty when it did not end in time
     bool showedAWindow = false;
 };
 

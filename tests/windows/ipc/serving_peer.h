@@ -15,14 +15,14 @@ using namespace windows_tests;
 class ServingPeer
 {
 public:
-    // Returns when the child serves, or has failed to.
+    // Returns when the child serves, or has failed.
     explicit ServingPeer(const std::vector<std::wstring>& moreArguments = {});
 
     bool ready() const { return isReady; }
-    // Makes it close its channel; gives what createServer returned there.
+    // Lets it close its channel and end; returns its createServer() result.
     std::optional<DWORD> stop(milliseconds deadline = patience);
     DWORD pid() const { return process.pid(); }
-    // True once the client that came before the first wait has been let go; waits for that.
+    // Waits until the client that came before the first wait has been disconnected.
     bool earlyClientIsLetGo() const { return letGoEvent.wait(); }
 
 private:

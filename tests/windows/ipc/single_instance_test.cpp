@@ -1,5 +1,5 @@
-// Who is the first copy: the mutex between real processes. This process never takes the mutex, so
-// that each test starts without one.
+// Which copy is the first: the mutex between real processes. This process never claims the mutex,
+// so that each test starts without one.
 
 #include "tests/windows/ipc/claiming_peer.h"
 
@@ -19,7 +19,7 @@ bool mutexExists()
     return static_cast<bool>(mutex);
 }
 
-TEST(SingleInstance, FirstCopyMakesTheMutexAndTakesItAway)
+TEST(SingleInstance, FirstCopyCreatesTheMutexUntilItsEnd)
 {
     ASSERT_FALSE(mutexExists());
     ClaimingPeer copy;
@@ -29,7 +29,7 @@ TEST(SingleInstance, FirstCopyMakesTheMutexAndTakesItAway)
     EXPECT_FALSE(mutexExists());
 }
 
-TEST(SingleInstance, LaterCopiesFindIt)
+TEST(SingleInstance, LaterCopiesFindTheMutex)
 {
     ClaimingPeer first;
     ASSERT_TRUE(first.isFirst());
@@ -64,7 +64,7 @@ TEST(SingleInstance, ALaterCopyKeepsTheNameTakenUntilItsProcessEnds)
     EXPECT_FALSE(mutexExists());
 }
 
-TEST(SingleInstance, AFirstCopyGivesTheNameUpWithItsChannel)
+TEST(SingleInstance, AFirstCopyReleasesTheNameWithItsChannel)
 {
     ClaimingPeer first({L"forget"});
     ASSERT_TRUE(first.isFirst());

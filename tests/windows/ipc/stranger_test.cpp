@@ -1,4 +1,4 @@
-// Programs of other origin at the served pipe: whatever they do, the next client is served.
+// Foreign programs at the pipe: whatever they do, the next client is served.
 
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/pipe_stranger.h"
@@ -51,7 +51,7 @@ void behave(Stranger& stranger, Behaviour behaviour, std::mt19937& random)
         stranger.transact(randomBytes(65535, random));
         break;
     case Behaviour::largerThanTheBuffer:
-        // The server hangs up without reading the rest, possibly before all is written.
+        // The server disconnects without reading the rest, possibly before all is written.
         stranger.write(randomBytes(65536 + random() % 4000, random));
         break;
     case Behaviour::leavesBeforeTheAnswer:
@@ -89,7 +89,7 @@ protected:
     std::mt19937 random{20260102};
 };
 
-TEST_F(StrangerAtThePipe, WhoSaysNothingKeepsOthersOutOnlyWhileConnected)
+TEST_F(StrangerAtThePipe, SilentOneBlocksOthersOnlyWhileConnected)
 {
     Stranger silent;
     ASSERT_TRUE(silent.connected());
@@ -118,7 +118,7 @@ TEST_F(StrangerAtThePipe, MessageLargerThanTheBufferIsNotDelivered)
     EXPECT_EQ(exchange("#deliveries").answer, "2");
 }
 
-TEST_F(StrangerAtThePipe, WhoLeavesBeforeTheAnswerIsForgotten)
+TEST_F(StrangerAtThePipe, MayLeaveBeforeTheAnswer)
 {
     meet(Behaviour::leavesBeforeTheAnswer);
     EXPECT_EQ(exchange("after"), (Exchange{0, "after"}));

@@ -5,8 +5,7 @@
 
 namespace ipctest {
 
-// `usual`, or `stress` in the long variant of a test, which TESSERA_STRESS=1 asks for
-// (make stress).
+// `stress` in the long variant of a test (TESSERA_STRESS=1, "make stress"), else `usual`.
 inline int stressed(int usual, int stress)
 {
     const char* value = std::getenv("TESSERA_STRESS");

@@ -44,7 +44,7 @@ TEST(BaseThread, WithoutAFunctionDoesNotStart)
     owner.waitUntilFinished();
 }
 
-TEST(BaseThread, IsBusyWhileItRunsAndStartsAgainAfterwards)
+TEST(BaseThread, IsBusyWhileItRunsAndMayBeRestartedAfterwards)
 {
     Body body;
     win32::CBaseThread<100> owner;

@@ -1,4 +1,4 @@
-// What the main window's base class does with messages.
+// The main window's base class and its messages.
 
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/qt_tests/qt_test.h"
@@ -16,7 +16,7 @@ bool minimised(const QWidget& window)
     return window.windowState().testFlag(Qt::WindowMinimized);
 }
 
-// Of two windows of this process.
+// The z-order of two windows of this process.
 bool isAbove(const QWidget& upper, const QWidget& lower)
 {
     const auto wanted = reinterpret_cast<HWND>(lower.winId());
@@ -26,7 +26,7 @@ bool isAbove(const QWidget& upper, const QWidget& lower)
     return next == wanted;
 }
 
-// Ends once `answer` is there.
+// Its destructor waits until `answer` has arrived.
 struct PauseAtItsEnd
 {
     explicit PauseAtItsEnd(const std::future<std::string>& awaited) : answer(awaited) {}
@@ -68,7 +68,7 @@ private slots:
     void castsByNameReachBothBases();
 
     void withoutTheCheckNothingIsServedOrSent();
-    void withoutTheCheckTheMutexIsTakenAllTheSame();
+    void withoutTheCheckTheMutexIsStillTaken();
     void firstCopyServesAndIsNotAnotherInstance();
     void messagesAreHandledAlthoughTheServerCouldNotStart();
     void answerIsWhatTheHookMakesOfTheMessage();
@@ -125,7 +125,7 @@ void WindowMessagesTest::withoutTheCheckNothingIsServedOrSent()
     QVERIFY(!window.isConnected());
 }
 
-void WindowMessagesTest::withoutTheCheckTheMutexIsTakenAllTheSame()
+void WindowMessagesTest::withoutTheCheckTheMutexIsStillTaken()
 {
     const auto mutexExists = [] {
         const win32::KernelHandle mutex(
@@ -151,7 +151,7 @@ void WindowMessagesTest::firstCopyServesAndIsNotAnotherInstance()
 
 void WindowMessagesTest::messagesAreHandledAlthoughTheServerCouldNotStart()
 {
-    // A server of another kind has the pipe's name: a pipe of bytes instead of messages.
+    // A byte pipe has the name.
     const win32::FileHandle other(
         CreateNamedPipeW(pipePath, PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 100, 100, 0, nullptr));
     QVERIFY(other);
@@ -193,7 +193,7 @@ void WindowMessagesTest::deliveryIsHandledOnTheMainThreadBeforeItsAnswer()
     QSignalSpy spy(window.get(), &CInterprocessCommunicationApp::messageFromOtherProcessReceived);
     auto answer = sendFromThread("text");
     QCOMPARE(answer.wait_for(milliseconds(300)), std::future_status::timeout);
-    QVERIFY(window->hooked.isEmpty()); // nothing before the event loop runs
+    QVERIFY(window->hooked.isEmpty()); // the event loop has not run
     QTRY_COMPARE_WITH_TIMEOUT(window->hooked.size(), 1, patienceMs);
     QCOMPARE(answer.get(), std::string("late"));
     QCOMPARE(spy.size(), 1);
@@ -224,7 +224,7 @@ void WindowMessagesTest::showRestoresAMinimisedWindow()
     QTRY_VERIFY_WITH_TIMEOUT(minimised(window) && IsIconic(handle), patienceMs);
     window.receive(QStringLiteral("/show"));
     QTRY_VERIFY_WITH_TIMEOUT(!minimised(window) && !IsIconic(handle), patienceMs);
-    // The screen's window manager may take the minimised window's focus away as late as now.
+    // The window manager may remove the minimised window's focus only after it was restored.
     const auto activated = [&window] {
         if (!window.isActiveWindow())
             window.receive(QStringLiteral("/show"));
@@ -371,7 +371,7 @@ void WindowMessagesTest::endWithADeliveryUnderWayDoesNotHang()
         const NamedEvent begun(name);
         auto answer = sendFromThread("text");
         QVERIFY(begun.wait());
-        // This thread's event loop does not run; the delivery cannot be handled any more.
+        // This thread's event loop does not run, so the delivery cannot be handled.
         auto ended = std::async(std::launch::async, [&answer] {
             return answer.wait_for(milliseconds(patienceMs)) == std::future_status::ready;
         });
@@ -389,8 +389,8 @@ void WindowMessagesTest::deliveryThatTheEndDropsIsNotAnswered()
     auto answer = sendFromThread("text");
     QVERIFY(NamedEvent(name).wait());
     QCOMPARE(answer.wait_for(milliseconds(300)), std::future_status::timeout);
-    // Queued behind the delivery and dropped after it, which gives the server thread all the time
-    // that it needs to write an answer before the channel is closed.
+    // Queued behind the delivery and dropped after it: its destruction gives the server thread time
+    // to write an answer before the channel is closed.
     QMetaObject::invokeMethod(
         window.get(), [pause = std::make_shared<PauseAtItsEnd>(answer)] {}, Qt::QueuedConnection);
     window.reset();

@@ -21,7 +21,7 @@ using windows_tests::ScopedVariable;
 
 namespace {
 
-// A settings name that nothing else uses, and its folder below the roaming application data.
+// A unique settings name, and its folder in the roaming application data.
 class LogFile : public testing::Test
 {
 protected:
@@ -64,7 +64,7 @@ protected:
     std::filesystem::path folder;
 };
 
-// Lets processes begin at the same time, so that they really meet.
+// Lets processes begin at the same time.
 struct StartSignal
 {
     void give() const { SetEvent(event.get()); }
@@ -73,7 +73,7 @@ struct StartSignal
     const win32::KernelHandle event{CreateEventW(nullptr, TRUE, FALSE, name.c_str())};
 };
 
-// In a log of two processes each one's messages stand whole and in their order.
+// Each process's messages are complete and in order.
 void expectInOrder(const std::vector<std::string>& lines, int messagesEach, std::size_t size)
 {
     std::map<char, int> next{{'a', 0}, {'b', 0}};
@@ -92,7 +92,7 @@ void expectInOrder(const std::vector<std::string>& lines, int messagesEach, std:
 
 } // namespace
 
-TEST_F(LogFile, LiesInTheRoamingLogFolderUnderTheProgramsName)
+TEST_F(LogFile, IsInTheRoamingLogFolderNamedLikeTheProgram)
 {
     ASSERT_FALSE(std::filesystem::exists(folder));
     const ChildProcess process = writer(L"a", 1);
@@ -167,7 +167,7 @@ TEST_F(LogFile, TwoProcessesRotateOneFile)
 {
     const ScopedVariable variable(L"KEELBASE_LOG_LEVEL", L"7");
     constexpr std::size_t size = 10000;
-    constexpr int messagesEach = 150; // 3 MB in all: three files, none of them dropped
+    constexpr int messagesEach = 150; // 3 MB in total: three files, none of them deleted
     const StartSignal start;
     const ChildProcess first = writer(L"a", messagesEach, size, L"return", start.name);
     const ChildProcess second = writer(L"b", messagesEach, size, L"return", start.name);
@@ -223,11 +223,11 @@ TEST_F(LogFile, ProgramRunsWhenTheFileIsLockedByAnother)
     EXPECT_EQ(readBytes(file()), "");
 }
 
-TEST_F(LogFile, MessagesGoOnWhileAnotherKeepsAnOlderFileOpen)
+TEST_F(LogFile, LoggingContinuesWhileAnOlderFileIsOpenElsewhere)
 {
     std::filesystem::create_directories(file().parent_path());
     windows_tests::writeBytes(olderFile(1), "");
-    // Opened as many viewers do: without letting anybody move or remove it.
+    // Opened so that others can neither move nor delete it.
     const win32::FileHandle viewer(CreateFileW(olderFile(1).c_str(), GENERIC_READ,
                                                FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                                OPEN_EXISTING, 0, nullptr));

@@ -1,6 +1,6 @@
 // log_writer SETTINGS_NAME LETTER COUNT SIZE END START: logs COUNT messages "LETTER<number>" filled
-// up to SIZE bytes, each at the levels 3, 6 and 7 in turn, as the program SETTINGS_NAME.
-//   END  "return" ends as programs do; "crash" ends the process on the spot
+// up to SIZE bytes, at the levels 3, 6 and 7 in turn, with the settings name SETTINGS_NAME.
+//   END    "return" ends normally; "crash" terminates the process
 //   START  the name of an event to wait for before the first message, or "-"
 // Ends with 0, or 9 after the crash.
 

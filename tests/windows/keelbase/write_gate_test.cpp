@@ -22,14 +22,14 @@ Clock::duration timeToEnter(WriteGate& gate)
     return Clock::now() - start;
 }
 
-// Keeps the gate closed, from a thread that stands for another process, until it is told to
-// open it or, with `abandon`, to end without opening it.
+// Holds the gate from another thread, as another process would, until letGo(). With `abandon` the
+// thread ends without leaving the gate.
 class Holder
 {
 public:
     explicit Holder(const std::filesystem::path& file, bool abandon = false)
         : thread([this, file, abandon] {
-              // Outlives the thread when it is abandoned: a closed gate would be an opened one.
+              // Outlives an abandoning thread: destroying the gate would open it.
               gate = std::make_unique<WriteGate>(file);
               gate->enter();
               entered.set_value();
@@ -56,7 +56,7 @@ private:
     std::thread thread;
 };
 
-// Whether somebody is inside the gate: a thread that stands for another process has to wait.
+// Whether the gate is held: another thread, like another process, has to wait.
 bool isHeld(const std::filesystem::path& file)
 {
     bool waited = false;
@@ -67,7 +67,7 @@ bool isHeld(const std::filesystem::path& file)
     return waited;
 }
 
-// A busy machine may make one of the tries look like a wait.
+// The best of three measurements: a busy machine may delay a single one.
 bool isFree(const std::filesystem::path& file)
 {
     return !isHeld(file) || !isHeld(file) || !isHeld(file);
@@ -92,7 +92,7 @@ TEST_F(WriteGates, FreeGateIsEnteredAndLeft)
     EXPECT_TRUE(isFree(file));
 }
 
-TEST_F(WriteGates, HeldGateIsWaitedForButNotForEver)
+TEST_F(WriteGates, WaitForAHeldGateIsLimited)
 {
     const Holder holder(file);
     WriteGate gate(file);
@@ -101,7 +101,7 @@ TEST_F(WriteGates, HeldGateIsWaitedForButNotForEver)
     EXPECT_LT(wait, std::chrono::seconds(20));
 }
 
-TEST_F(WriteGates, AfterOneWaitInVainItIsOnlyTried)
+TEST_F(WriteGates, AfterAFailedWaitTheNextEntersDoNotWait)
 {
     Holder holder(file);
     WriteGate gate(file);
@@ -110,14 +110,14 @@ TEST_F(WriteGates, AfterOneWaitInVainItIsOnlyTried)
     for (int round = 0; round < 100; ++round)
         timeToEnter(gate);
     EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
-    // Once it proves free it is waited for again.
+    // After a successful enter the next one waits.
     holder.letGo();
     timeToEnter(gate);
     const Holder next(file);
     EXPECT_GE(timeToEnter(gate), std::chrono::milliseconds(400));
 }
 
-TEST_F(WriteGates, LeavingAGateThatWasNotEnteredOpensItForNobody)
+TEST_F(WriteGates, LeavingAGateThatWasNotEnteredHasNoEffect)
 {
     const Holder holder(file);
     WriteGate gate(file);
@@ -137,7 +137,7 @@ TEST_F(WriteGates, GateOfAProcessThatDiedInsideIsEntered)
     EXPECT_TRUE(isFree(file));
 }
 
-TEST_F(WriteGates, DifferentFilesHaveDifferentGatesAndLetterCaseDoesNotCount)
+TEST_F(WriteGates, AreDistinguishedByTheFileIgnoringLetterCase)
 {
     const Holder holder(file);
     std::wstring upper = file.native();

@@ -1,4 +1,4 @@
-// Switching the process's language through the catalogues in the program's resources.
+// Changes of the process's language by the catalogues in the program's resources.
 
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/suite_registry.h"
@@ -20,7 +20,7 @@ QString selectAll()
 
 const QString english = QStringLiteral("Select all");
 
-// Writes the setting to the prefix's common.cfg, as another application would; empty removes it.
+// Writes the language to common.cfg; an empty one removes the setting.
 void writeLanguageSetting(const std::string& code)
 {
     fs::CConfig& common = fs::commonConfig();
@@ -65,7 +65,7 @@ void TranslatorsTest::init()
     QCOMPARE(selectAll(), english);
 }
 
-// Translators leave the application with their destruction.
+// Destroyed translators are removed from the application.
 void TranslatorsTest::cleanup()
 {
     owner.reset();
@@ -135,7 +135,7 @@ void TranslatorsTest::sourceLanguageAfterAnotherRemovesTheTranslators()
     QVERIFY(german != english);
     QVERIFY(translators->setLanguage(QStringLiteral("en")));
     QCOMPARE(selectAll(), english);
-    // The removed translator stays with its parent; the next language gets one of its own.
+    // The removed translator stays a child; the next language gets a new one.
     QCOMPARE(translators->findChildren<QTranslator*>().size(), 1);
     QVERIFY(translators->setLanguage(QStringLiteral("de")));
     QCOMPARE(selectAll(), german);

@@ -34,7 +34,7 @@ QString describe(const QWidget& widget, const QString& text, const QSizeF& neede
 void compare(QStringList& faults, const QWidget& widget, const QString& text, const QSizeF& needed,
              const QSizeF& given)
 {
-    // Layouts work in whole pixels, fonts do not.
+    // Layouts use whole pixels, fonts fractions.
     if (std::floor(needed.width()) > given.width() || std::floor(needed.height()) > given.height())
         faults.append(describe(widget, text, needed, given));
 }
@@ -45,7 +45,7 @@ QSizeF lineSize(const QWidget& widget, const QString& text)
     return {metrics.horizontalAdvance(text), metrics.height()};
 }
 
-// Rich and wrapped texts are laid out once more, at the width that they were given.
+// Lays rich and wrapped texts out at the label's width.
 QSizeF textSize(const QLabel& label, qreal width)
 {
     if (!label.wordWrap() && !Qt::mightBeRichText(label.text())) {
@@ -104,7 +104,7 @@ void checkInside(QStringList& faults, const QWidget& window, const QWidget& widg
 {
     const QRect place(widget.mapTo(&window, QPoint()), widget.size());
     if (!window.rect().contains(place))
-        faults.append(widget.objectName() + QStringLiteral(" reaches out of its window"));
+        faults.append(widget.objectName() + QStringLiteral(" extends beyond its window"));
 }
 
 double luminance(QRgb colour)
@@ -132,7 +132,7 @@ double contrastOf(QWidget& window, const QRect& place)
     return (lightest + 0.05) / (darkest + 0.05);
 }
 
-// Where the text is, without borders, check box and focus rectangle.
+// Part of the text, without borders, check box and focus rectangle.
 QRect textPlace(const QWidget& widget)
 {
     const QFontMetrics metrics(widget.font());

@@ -3,12 +3,12 @@
 #include <QStringList>
 #include <QWidget>
 
-// Looks for texts that a window cuts off: every visible label, button, check box and list row is
-// measured with the font that it is drawn with. Returns one line for each fault, naming widget,
-// text and sizes; empty when everything fits. The window must be on the screen.
+// Finds texts that a window cuts off: measures every visible label, button, check box and list row
+// with its font. Returns one line for each fault, with widget, text and sizes. The window must be
+// shown.
 QStringList cutTexts(const QWidget& window);
 
-// Looks for texts that do not stand out from their background: each is drawn, and the contrast of
-// its darkest and lightest points must reach 4.5, the value that accessibility guidelines ask of
-// texts. Disabled widgets are left out, as by the guidelines.
+// Finds texts with too little contrast to their background: that of the darkest and lightest points
+// must be at least 4.5, which accessibility guidelines require. Like those it ignores disabled
+// widgets.
 QStringList faintTexts(QWidget& window);

@@ -1,4 +1,4 @@
-// The translation catalogues as they are compiled into the program.
+// The translation catalogues that are compiled into the program.
 
 #include "tests/windows/languages/localised_windows.h"
 #include "tests/windows/qt_tests/qt_test.h"

@@ -1,6 +1,5 @@
-// Every window in every language: no text is cut, none grows a window beyond its form, and each
-// letter has a glyph. The screen's resolution is the prefix's; the test is registered once for
-// each, and told which one it must have.
+// Every window in every language: no text is cut or enlarges a window, and each letter has a glyph.
+// Each CTest entry runs the test at another screen resolution, which TESSERA_DPI names.
 
 #include "tests/windows/languages/fit_check.h"
 #include "tests/windows/languages/letter_check.h"
@@ -63,8 +62,8 @@ void LayoutTest::initTestCase()
     QCOMPARE(screen.logicalDotsPerInch(), 96.0);
     QCOMPARE(screen.devicePixelRatio() * 96, double(expectedDpi()));
 
-    // Segoe UI's 52 letters are 28.75 ems wide. With a narrower stand-in a text could fit here and
-    // be cut on Windows.
+    // Segoe UI's 52 letters are 28.75 ems wide. With a narrower substitute a text could fit here
+    // and be cut on Windows.
     QFont font(QStringLiteral("Segoe UI"));
     font.setPixelSize(100);
     const qreal width = QFontMetricsF(font).horizontalAdvance(
@@ -79,7 +78,7 @@ void LayoutTest::addLanguageRows()
         QTest::newRow(qPrintable(language)) << language;
 }
 
-// In the screen's own points, as the user sees them.
+// In physical pixels.
 void LayoutTest::windowsGrowWithTheResolution()
 {
     const QHash<int, QSize> sizes{{96, {379, 305}},
@@ -107,7 +106,7 @@ void LayoutTest::everyTextFits()
     QStringList faults;
     QVERIFY(visitWindows(language, [&](const QString& name, QWidget& window) {
         seen.append(name);
-        // The window manager may still be negotiating the size of a window just shown.
+        // The window manager may still change the size of a window just shown.
         QStringList cut;
         (void)QTest::qWaitFor([&] { return (cut = cutTexts(window)).isEmpty(); }, settleMs);
         for (const QString& fault : cut)
@@ -152,7 +151,7 @@ void LayoutTest::textsStandOutWhateverTheUsersColours()
     QStringList faults;
     const bool shown =
         visitWindows(QStringLiteral("en"), [&](const QString& name, QWidget& window) {
-            // The system's own box follows the system's theme, which a palette does not change.
+            // The message box follows the system's theme, which a palette does not change.
             if (name == QStringLiteral("warning"))
                 return;
             for (const QString& fault : faintTexts(window))
@@ -167,7 +166,7 @@ void LayoutTest::focusIsVisible()
 {
     QStringList faults;
     QVERIFY(visitWindows(QStringLiteral("en"), [&](const QString& name, QWidget& window) {
-        // The toolkit marks the focus from the first use of the keyboard on.
+        // Qt shows the focus only after the first use of the keyboard.
         QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
         for (QWidget* widget : window.findChildren<QWidget*>()) {
             if (!widget->isVisible() || !widget->isEnabled() ||
@@ -213,7 +212,7 @@ void LayoutTest::cutTextIsNoticed()
     const QStringList faults = cutTexts(window);
     QVERIFY(!faults.filter(QStringLiteral("its label")).isEmpty());
     QVERIFY(!faults.filter(QStringLiteral("its button")).isEmpty());
-    QVERIFY(!faults.filter(QStringLiteral("reaches out")).isEmpty());
+    QVERIFY(!faults.filter(QStringLiteral("extends beyond")).isEmpty());
 
     label.setGeometry(10, 10, 280, 20);
     button.setGeometry(10, 50, 280, 30);
@@ -243,7 +242,7 @@ void LayoutTest::missingLetterIsNoticed()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(letterFaults(window), QStringList());
-    // The last code point for private use, which no font has.
+    // The last private-use code point, which no font has.
     constexpr uint withoutGlyph = 0x10fffd;
     label.setText(label.text() + QString::fromUcs4(&withoutGlyph, 1));
     QCOMPARE(letterFaults(window).size(), 1);

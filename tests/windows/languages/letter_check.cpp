@@ -13,7 +13,7 @@
 
 namespace {
 
-// Japanese words mix three scripts, which must look like one.
+// Japanese words mix three scripts, which must come from one font.
 QChar::Script scriptOf(uint letter)
 {
     const QChar::Script script = QChar::script(letter);

@@ -36,7 +36,7 @@ bool visitShown(const QString& name, QWidget& window, const WindowVisitor& visit
     window.show();
     if (!QTest::qWaitForWindowExposed(&window, deadlineMs))
         return false;
-    // Texts that changed just now have asked for room, which is given with the next events.
+    // Changed texts get their new sizes with the next events.
     QCoreApplication::processEvents();
     visit(name, window);
     return true;
@@ -65,7 +65,7 @@ bool visitOffers(Widget& window, const WindowVisitor& visit)
     return seen;
 }
 
-// The box runs its own event loop inside the call, so it is visited from a timer.
+// The box runs its event loop inside the call, so a timer visits it.
 bool visitWarning(Widget& window, const WindowVisitor& visit)
 {
     bool seen = false;

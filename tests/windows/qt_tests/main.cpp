@@ -57,7 +57,7 @@ int main(int argc, char** argv)
     if (test->prepare != nullptr)
         test->prepare();
     QApplication application(argc, argv);
-    // The same pictures on every screen.
+    // Windows have the same size on every screen.
     if (test->prepare == nullptr)
         QApplication::setAttribute(Qt::AA_Use96Dpi);
     return test->run(argc, argv);

@@ -1,7 +1,7 @@
 #pragma once
 
-// The Qt tests are one program, so that Qt is linked once: qt_tests.exe TEST [ARGUMENTS...], TEST
-// being the name of a class. Each source of a test registers its class at its end:
+// The Qt tests are one program, so that Qt is linked once: qt_tests.exe TEST [ARGUMENTS...], where
+// TEST is the name of a class. Each source registers its class at its end:
 //
 //     TESSERA_QT_TEST(WidgetFormTest)
 //     #include "widget_form_test.moc"
@@ -14,7 +14,7 @@ struct QtTest
 {
     const char* name;
     int (*run)(int argc, char** argv);
-    // Called before the application object is made; may be null.
+    // Called before the application object is created; may be null.
     void (*prepare)();
 };
 
@@ -32,7 +32,7 @@ int runQtTest(int argc, char** argv)
 
 #define TESSERA_QT_TEST(Class) TESSERA_PREPARED_QT_TEST(Class, nullptr)
 
-// For a test that needs more or less than the usual attributes: `prepare` sets them all.
+// For a test that needs other application attributes: `prepare` sets all of them.
 #define TESSERA_PREPARED_QT_TEST(Class, prepare)                                                   \
     [[maybe_unused]] static const bool isRegistered##Class =                                       \
         windows_tests::registerQtTest({#Class, &windows_tests::runQtTest<Class>, prepare});

@@ -2,26 +2,21 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 namespace {
 
 std::optional<DWORD> exitCodeAfterWriting(const wchar_t* length)
 {
-    wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const std::wstring own = path;
-    const windows_tests::ChildProcess smasher(
-        own.substr(0, own.find_last_of(L'\\') + 1) + L"stack_smasher.exe", {length});
+    const windows_tests::ChildProcess smasher(windows_tests::siblingProgram(L"stack_smasher"),
+                                              {length});
     return smasher.waitForExit();
 }
 
-TEST(StackGuard, LetsFunctionsReturnThatKeepToTheirArrays)
+TEST(StackGuard, LetsFunctionsReturnThatStayInsideTheirArrays)
 {
     EXPECT_EQ(exitCodeAfterWriting(L"8"), 0u);
 }
 
-TEST(StackGuard, EndsAProgramThatWroteOverItsStackBeforeTheFunctionReturns)
+TEST(StackGuard, EndsAProgramThatWritesPastAnArray)
 {
     EXPECT_EQ(exitCodeAfterWriting(L"24"), static_cast<DWORD>(STATUS_STACK_BUFFER_OVERRUN));
 }

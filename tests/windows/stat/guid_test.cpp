@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-TEST(CreateGuid, YieldsRandomUuidsInLowerCase)
+TEST(CreateGuid, ReturnsRandomUuidsInLowerCase)
 {
     const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}");
     std::set<std::string> guids;

@@ -7,8 +7,8 @@
 
 namespace windows_tests {
 
-// Sets an environment variable (null: removes it) for this process and its children while in scope;
-// afterwards it is as before. `name` is kept by pointer: a literal.
+// Sets an environment variable (null: removes it) while in scope, for this process and its
+// children. `name` must outlive the object.
 class ScopedVariable
 {
 public:

@@ -6,8 +6,8 @@
 
 namespace windows_tests {
 
-// A folder of its own below the temporary folder, with blanks and letters of several scripts in
-// its name; removed with all it holds at the end of the scope.
+// A new folder in the temporary folder, with blanks and letters of several scripts in its name;
+// removed with its contents at the end of the scope.
 class ScratchFolder
 {
 public:
@@ -23,7 +23,7 @@ private:
     std::filesystem::path root;
 };
 
-// Bytes as they are. Reading a file that is not there throws, so that its test fails.
+// The file's exact bytes. Failures throw.
 std::string readBytes(const std::filesystem::path& file);
 void writeBytes(const std::filesystem::path& file, std::string_view bytes);
 

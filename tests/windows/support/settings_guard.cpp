@@ -27,7 +27,7 @@ bool endUnlessAllowed()
     std::_Exit(windows_tests::refusedExitCode);
 }
 
-// Before main, so that no test framework and no test has touched anything.
+// Runs before main, so before any test.
 [[maybe_unused]] const bool allowed = endUnlessAllowed();
 
 } // namespace

@@ -1,9 +1,9 @@
 #pragma once
 
-// Every Windows test program changes the settings of the user who runs it: it clears
-// HKCU\Software\Corvane and log folders below %APPDATA%. settings_guard.cpp is therefore part of
-// each (cmake/tests.cmake links it) and ends the program before main, with a message, unless the
-// environment allows it. Wine prefixes made by tools/wine-run do: tools/wine/prefix.reg.
+// Windows test programs change the settings of the user who runs them: they clear
+// HKCU\Software\Corvane and log folders below %APPDATA%. settings_guard.cpp, which
+// cmake/tests.cmake links into each, ends the program before main unless the environment allows
+// this. Wine prefixes made by tools/wine-run do (tools/wine/prefix.reg).
 
 namespace windows_tests {
 

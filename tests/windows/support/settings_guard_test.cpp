@@ -1,4 +1,4 @@
-// What a test program does without permission to change the user's settings.
+// Test programs without permission to change the user's settings.
 
 #include "tests/windows/support/child_process.h"
 #include "tests/windows/support/scoped_variable.h"
@@ -12,7 +12,7 @@ namespace {
 
 constexpr const wchar_t* suiteKey = L"Software\\Corvane";
 
-// A value where tests clear everything.
+// A value in the key that tests clear.
 class RegistryMark
 {
 public:
@@ -43,7 +43,7 @@ void expectRefused(const std::wstring& program, const Arguments& arguments)
     EXPECT_NE(output.find("HKCU\\Software\\Corvane"), std::string::npos) << output;
 }
 
-// This program, running what follows it; and one on Qt Test that clears the suite's key.
+// This program with one test, and the Qt tests with one class.
 const std::wstring googleTest = siblingProgram(L"windows_settings_guard");
 const Arguments onlyAllowed = {L"--gtest_filter=SettingsGuard.AllowedProgramRuns"};
 const std::wstring qtTest = siblingProgram(L"qt_tests");
@@ -60,7 +60,7 @@ TEST(SettingsGuard, ProgramsRunWithTheVariable)
     EXPECT_EQ(ChildProcess(qtTest, listFunctions).waitForExit(), 0u);
 }
 
-TEST(SettingsGuard, WithoutTheVariableProgramsRefuseAndTouchNothing)
+TEST(SettingsGuard, WithoutTheVariableProgramsRefuseAndChangeNothing)
 {
     const ScopedVariable variable(settingsVariable, nullptr);
     const RegistryMark mark;

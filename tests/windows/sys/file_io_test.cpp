@@ -33,13 +33,13 @@ int openNothing(std::FILE** stream, const wchar_t*, const wchar_t*)
     return 0;
 }
 
-// A stream whose size is known and whose bytes cannot be had.
+// A stream whose size is known and whose bytes cannot be read.
 int openForAppending(std::FILE** stream, const wchar_t* path, const wchar_t*)
 {
     return _wfopen_s(stream, path, L"ab");
 }
 
-// Others who have a file open so that Windows' _wfopen_s refuses it.
+// Ways to hold a file open that make _wfopen_s fail on Windows.
 struct Hold
 {
     const char* how;
@@ -47,16 +47,16 @@ struct Hold
     DWORD sharing;
 };
 constexpr Hold refusedHolds[] = {
-    {"for itself alone", GENERIC_READ, 0},
+    {"without sharing", GENERIC_READ, 0},
     {"for writing", GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE},
     {"for reading and writing", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE},
 };
 
-win32::FileHandle holder; // closed at the attempt `closedAt`
+win32::FileHandle holder; // closed at attempt `closedAt`
 int attempts;
 int closedAt;
 
-// Shares as Windows' _wfopen_s does for reading. Wine's shares with everybody.
+// Shares like _wfopen_s on Windows. Wine's shares with everyone.
 int openSecurely(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
 {
     if (++attempts == closedAt)
@@ -75,7 +75,7 @@ int rememberMode(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
 
 } // namespace
 
-TEST(FileIo, ReadsTheBytesAsTheyAre)
+TEST(FileIo, ReadsTheExactBytes)
 {
     const ScratchFolder scratch;
     const std::string bytes("a=1\r\nb\0c\x1A"
@@ -105,7 +105,7 @@ TEST(FileIo, ReadOpensInBinary)
     EXPECT_EQ(requestedMode, L"rb");
 }
 
-TEST(FileIo, OpenErrorsPassThroughAndLeaveTheContent)
+TEST(FileIo, OpenErrorsAreReturnedAndKeepTheContent)
 {
     const ScratchFolder scratch;
     std::string content = "before";
@@ -152,7 +152,7 @@ TEST(FileIo, ReadsOnceOthersHaveClosedTheFile)
         });
         begun.get_future().wait();
         if (hold.sharing == 0) {
-            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it is still trying";
+            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it keeps trying";
         }
         other.reset();
         EXPECT_EQ(result.get(), 0);
@@ -160,7 +160,7 @@ TEST(FileIo, ReadsOnceOthersHaveClosedTheFile)
     }
 }
 
-TEST(FileIo, ReadIsTriedAgainWhateverKeepsOthersFromSharing)
+TEST(FileIo, ReadIsRepeatedAfterEverySharingViolation)
 {
     const ScratchFolder scratch;
     const std::wstring file = scratch / L"file";
@@ -193,7 +193,7 @@ TEST(FileIo, ReadGivesUpAfterHalfASecond)
     EXPECT_EQ(content, "before");
 }
 
-TEST(FileIo, ReadThatTimeCannotHelpIsNotTriedAgain)
+TEST(FileIo, ReadIsNotRepeatedAfterOtherErrors)
 {
     const ScratchFolder scratch;
     std::string content;
@@ -205,7 +205,7 @@ TEST(FileIo, ReadThatTimeCannotHelpIsNotTriedAgain)
     EXPECT_EQ(attempts, 2);
 }
 
-TEST(FileIo, WritesTheBytesAsTheyAre)
+TEST(FileIo, WritesTheExactBytes)
 {
     const ScratchFolder scratch;
     const std::string bytes = "a=1\nb\r\nc\x1A"
@@ -279,7 +279,7 @@ TEST(FileIo, WriteThatFailsHasItsOwnCode)
     EXPECT_EQ(readBytes(scratch / L"locked"), "old");
 }
 
-TEST(FileIo, FailureToOpenIsLoggedAsThat)
+TEST(FileIo, FailureToOpenIsLogged)
 {
     const ScratchFolder scratch;
     writeBytes(scratch / L"locked", "x");
@@ -297,7 +297,7 @@ TEST(FileIo, FailureToOpenIsLoggedAsThat)
     }
 }
 
-TEST(FileIo, FailureToReadIsLoggedAsThat)
+TEST(FileIo, FailureToReadIsLogged)
 {
     const ScratchFolder scratch;
     writeBytes(scratch / L"file", "bytes");
@@ -308,7 +308,7 @@ TEST(FileIo, FailureToReadIsLoggedAsThat)
     EXPECT_EQ(log.records().front().text.rfind("ReadFile failed: ", 0), 0U);
 }
 
-TEST(FileIo, ExistenceCountsFoldersToo)
+TEST(FileIo, FoldersExistToo)
 {
     const ScratchFolder scratch;
     writeBytes(scratch / L"\u8A66", "");

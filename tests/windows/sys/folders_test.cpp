@@ -22,13 +22,13 @@ std::wstring settings()
 
 } // namespace
 
-TEST(Folders, SuiteSettingsLieInTheRoamingFolder)
+TEST(Folders, SuiteSettingsAreInTheRoamingFolder)
 {
     EXPECT_EQ(folderPath(FolderKind::suiteSettings), settings());
     EXPECT_EQ(folderPath(FolderKind::suiteSettings, L"ClipSaver"), settings() + L"\\ClipSaver");
 }
 
-TEST(Folders, LogsLieInTheSuiteSettingsFolder)
+TEST(Folders, LogsAreInTheSuiteSettingsFolder)
 {
     EXPECT_EQ(folderPath(FolderKind::logs), settings() + L"\\logs");
 }

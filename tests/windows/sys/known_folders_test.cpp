@@ -15,7 +15,7 @@ using sys::KnownFolder;
 
 namespace {
 
-// What the replaced loading calls were asked for, and how they answer.
+// The arguments of the fake loading calls, and their results.
 std::vector<std::wstring> loaded;
 std::vector<std::string> looked;
 std::wstring missingLibrary;
@@ -24,8 +24,8 @@ FARPROC shellAnswer = nullptr;
 FARPROC freeAnswer = nullptr;
 bool usedWhileLoaded = false;
 
-// Stands for either system library: one that nothing else in this program uses.
-constexpr const wchar_t* standIn = L"cabinet.dll";
+// Loaded instead of both system libraries; nothing else in this program uses it.
+constexpr const wchar_t* fakeLibrary = L"cabinet.dll";
 
 HMODULE WINAPI loadCounted(const wchar_t* name)
 {
@@ -34,7 +34,7 @@ HMODULE WINAPI loadCounted(const wchar_t* name)
         SetLastError(ERROR_MOD_NOT_FOUND);
         return nullptr;
     }
-    return LoadLibraryW(standIn);
+    return LoadLibraryW(fakeLibrary);
 }
 
 FARPROC WINAPI findCounted(HMODULE, const char* function)
@@ -64,7 +64,7 @@ HRESULT WINAPI answerPath(const GUID& folder, DWORD flags, HANDLE token, wchar_t
     askedFolder = folder;
     askedFlags = flags;
     askedToken = token;
-    usedWhileLoaded = GetModuleHandleW(standIn) != nullptr;
+    usedWhileLoaded = GetModuleHandleW(fakeLibrary) != nullptr;
     *path = answeredPath;
     return S_OK;
 }
@@ -156,7 +156,7 @@ TEST_F(KnownFolders, AreTheUsersOwn)
     EXPECT_EQ(wide.str(), L"");
 }
 
-TEST_F(KnownFolders, ShellIsAskedWithoutFlagsAndToken)
+TEST_F(KnownFolders, AreRequestedWithoutFlagsAndToken)
 {
     EXPECT_EQ(look(KnownFolder::roamingAppData), 0);
     EXPECT_EQ(path, L"D:\\Roaming \u8A66");
@@ -177,21 +177,21 @@ TEST_F(KnownFolders, LibrariesAreLoadedByNameAtEachCall)
                                                 "SHGetKnownFolderPath", "CoTaskMemFree"}));
 }
 
-TEST_F(KnownFolders, LibrariesStayLoadedDuringTheCallOnly)
+TEST_F(KnownFolders, LibrariesStayLoadedOnlyDuringTheCall)
 {
-    ASSERT_EQ(GetModuleHandleW(standIn), nullptr);
+    ASSERT_EQ(GetModuleHandleW(fakeLibrary), nullptr);
     look();
     EXPECT_TRUE(usedWhileLoaded);
-    EXPECT_EQ(GetModuleHandleW(standIn), nullptr);
+    EXPECT_EQ(GetModuleHandleW(fakeLibrary), nullptr);
 }
 
-TEST_F(KnownFolders, TheShellsMemoryIsFreed)
+TEST_F(KnownFolders, MemoryOfTheShellIsFreed)
 {
     look();
     EXPECT_EQ(freed, answeredPath);
 }
 
-TEST_F(KnownFolders, MissingShellLibraryIsTold)
+TEST_F(KnownFolders, MissingShellLibraryIsReported)
 {
     missingLibrary = L"shell32.dll";
     EXPECT_EQ(look(), static_cast<int>(0x80004005));
@@ -201,7 +201,7 @@ TEST_F(KnownFolders, MissingShellLibraryIsTold)
     EXPECT_TRUE(looked.empty());
 }
 
-TEST_F(KnownFolders, MissingShellFunctionIsTold)
+TEST_F(KnownFolders, MissingShellFunctionIsReported)
 {
     missingFunction = "SHGetKnownFolderPath";
     EXPECT_EQ(look(), E_FAIL);
@@ -210,7 +210,7 @@ TEST_F(KnownFolders, MissingShellFunctionIsTold)
     EXPECT_EQ(wide.str(), L"");
 }
 
-TEST_F(KnownFolders, RaisedExceptionIsTold)
+TEST_F(KnownFolders, ExceptionIsReported)
 {
     shellAnswer = asProcedure(&raiseOnLookup);
     EXPECT_EQ(look(), E_FAIL);
@@ -218,7 +218,7 @@ TEST_F(KnownFolders, RaisedExceptionIsTold)
     EXPECT_EQ(narrow.str(), "Exception(\"SHGetKnownFolderPath\") | err = 1234");
 }
 
-TEST_F(KnownFolders, TheShellsOwnFailureIsPassedOn)
+TEST_F(KnownFolders, FailureOfTheShellIsReturned)
 {
     shellAnswer = asProcedure(&refuse);
     EXPECT_EQ(look(), E_INVALIDARG);
@@ -235,7 +235,7 @@ TEST_F(KnownFolders, MemoryOfAFailedCallIsFreedAndNotUsed)
     EXPECT_EQ(freed, answeredPath);
 }
 
-TEST_F(KnownFolders, PathIsGoodWhenItsMemoryCannotBeFreed)
+TEST_F(KnownFolders, PathIsReturnedEvenIfItsMemoryCannotBeFreed)
 {
     missingLibrary = L"ole32.dll";
     EXPECT_EQ(look(), 0);
@@ -249,7 +249,7 @@ TEST_F(KnownFolders, PathIsGoodWhenItsMemoryCannotBeFreed)
     EXPECT_EQ(narrow.str(), "GetProcAddress return null | err = 127");
 }
 
-TEST_F(KnownFolders, ExceptionWhileFreeingIsTold)
+TEST_F(KnownFolders, ExceptionWhileFreeingIsReported)
 {
     freeAnswer = asProcedure(&raiseOnFree);
     EXPECT_EQ(look(), 0);

@@ -11,7 +11,7 @@ namespace {
 
 std::wstring answer;
 
-// Answers as the system does: a path that does not fit is cut, and its size is the buffer's.
+// A fake of GetModuleFileNameW: it cuts a path that does not fit and returns the buffer's size.
 DWORD WINAPI answerPath(HMODULE module, wchar_t* path, DWORD size)
 {
     EXPECT_EQ(module, nullptr);
@@ -47,7 +47,7 @@ TEST(ModulePath, FolderIsThePathBeforeItsLastSeparator)
     EXPECT_EQ(sys::moduleFolder() + L"\\windows_sys.exe", sys::modulePath());
 }
 
-TEST(ModulePath, IsWholeAtAnyLength)
+TEST(ModulePath, IsCompleteAtAnyLength)
 {
     for (const std::size_t length : {1U, 258U, 259U, 260U, 261U, 519U, 520U, 32000U, 32767U}) {
         answer = L"C:\\" + std::wstring(length, L'\u8A66');
@@ -55,7 +55,7 @@ TEST(ModulePath, IsWholeAtAnyLength)
     }
 }
 
-TEST(ModulePath, IsEmptyWhenTheSystemDoesNotTellIt)
+TEST(ModulePath, IsEmptyWhenTheSystemFails)
 {
     EXPECT_EQ(sys::modulePath(&fail), L"");
     EXPECT_EQ(sys::modulePath(&neverFits), L"");

@@ -27,7 +27,7 @@ const Pair pairs[] = {
 
 } // namespace
 
-TEST(TextConvert, Utf8BothWays)
+TEST(TextConvert, ConvertsUtf8BothWays)
 {
     for (const Pair& pair : pairs) {
         EXPECT_EQ(sys::fromUtf8(pair.utf8), pair.wide);
@@ -35,7 +35,7 @@ TEST(TextConvert, Utf8BothWays)
     }
 }
 
-TEST(TextConvert, InvalidUtf8YieldsNothingAtAll)
+TEST(TextConvert, InvalidUtf8GivesAnEmptyText)
 {
     const std::string invalid[] = {
         "abc\xFF",          // never a byte of UTF-8
@@ -71,7 +71,7 @@ TEST(TextConvert, CodePagesAreChosenByTheCaller)
     EXPECT_EQ(sys::fromCodePage("", 1252), L"");
 }
 
-TEST(TextConvert, CodePageVariantTakesInvalidSequences)
+TEST(TextConvert, CodePageVariantAcceptsInvalidSequences)
 {
     const std::wstring wide = sys::fromCodePage("abc\xFF"
                                                 "d",
@@ -80,16 +80,16 @@ TEST(TextConvert, CodePageVariantTakesInvalidSequences)
     EXPECT_EQ(wide.back(), L'd');
 }
 
-TEST(TextConvert, UnknownCodePageYieldsNothing)
+TEST(TextConvert, UnknownCodePageGivesAnEmptyText)
 {
     EXPECT_EQ(sys::fromCodePage("abc", 64999), L"");
 }
 
-TEST(TextConvert, NarrowIsThePlatformsOwnEncoding)
+TEST(TextConvert, NarrowTextsUseTheAnsiCodePage)
 {
     EXPECT_EQ(sys::toNarrow(L""), "");
     EXPECT_EQ(sys::toNarrow(L"C:\\Program Files\\Corvane"), "C:\\Program Files\\Corvane");
-    // Whatever the code page is, it converts its own letters back and forth.
+    // Every ANSI code page has the ASCII letters.
     for (int code = 0x20; code < 0x7F; ++code) {
         const std::wstring wide(1, static_cast<wchar_t>(code));
         EXPECT_EQ(sys::fromCodePage(sys::toNarrow(wide), CP_ACP), wide);

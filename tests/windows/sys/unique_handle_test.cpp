@@ -41,7 +41,7 @@ TEST_F(UniqueHandle, ClosesItsHandleOnceAtTheEnd)
     EXPECT_EQ(closed, std::vector<int>{7});
 }
 
-TEST_F(UniqueHandle, IsEmptyWithItsKindsInvalidValueAndClosesNothing)
+TEST_F(UniqueHandle, IsEmptyWithTheInvalidValueAndClosesNothing)
 {
     {
         const CountedHandle none;
@@ -67,7 +67,7 @@ TEST_F(UniqueHandle, ResetClosesTheOldAndTakesTheNew)
     EXPECT_EQ(closed, (std::vector<int>{1, 2}));
 }
 
-TEST_F(UniqueHandle, ReleaseGivesTheHandleUp)
+TEST_F(UniqueHandle, ReleaseEndsOwnership)
 {
     {
         CountedHandle handle(3);

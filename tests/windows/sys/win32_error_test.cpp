@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-TEST(Win32Error, LogsApiNumberAndSystemTextAtTheCallersPlace)
+TEST(Win32Error, LogsApiNumberAndSystemTextWithTheCallersSource)
 {
     const testing_support::RecordedLog log;
     win32::logFailure({"IPC", "ui/common/sys/somewhere"}, 42, "CreateFileW", ERROR_FILE_NOT_FOUND);
@@ -23,7 +23,7 @@ TEST(Win32Error, LogsApiNumberAndSystemTextAtTheCallersPlace)
     EXPECT_NE(record.text[record.text.size() - 2], ' ');
 }
 
-TEST(Win32Error, NumberWithoutSystemTextIsLoggedAllTheSame)
+TEST(Win32Error, NumberWithoutSystemTextIsLogged)
 {
     const testing_support::RecordedLog log;
     win32::logFailure({"IPC", "source"}, 1, "Api", 0x2FFFFFFF);
@@ -38,7 +38,7 @@ TEST(Win32Error, IsSilentBelowDetailLevel)
     EXPECT_TRUE(log.records().empty());
 }
 
-TEST(Win32Error, LeavesTheErrorNumberForTheCaller)
+TEST(Win32Error, KeepsTheErrorNumberForTheCaller)
 {
     const testing_support::RecordedLog log;
     SetLastError(ERROR_SUCCESS);

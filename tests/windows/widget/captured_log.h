@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-// The process's log as it stands by default, with the main window's messages at hand.
+// Records the log at the default level and gives the main window's messages.
 class CapturedLog : public testing_support::RecordedLog
 {
 public:

@@ -15,7 +15,7 @@ QAccessibleInterface* accessible(QWidget* widget)
     return QAccessible::queryAccessibleInterface(widget);
 }
 
-// What a person sees of the choice, as one text.
+// The visible state of rows and controls, as one text.
 QString stateOf(const WindowUnderTest& under)
 {
     QString text;

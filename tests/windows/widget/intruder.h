@@ -4,21 +4,21 @@
 
 #include <QStringList>
 
-// Does to a window everything that can reach it while a run holds mouse and keyboard off: presses
-// and toggles by assistive programs, clicks and changes made by code, as timers make them, and the
-// gestures themselves, in case one slips through.
+// Tries everything that can reach a window while a run blocks mouse and keyboard: presses and
+// toggles by assistive programs, clicks and changes by code, as from timers, and mouse and keyboard
+// events.
 class Intruder
 {
 public:
     explicit Intruder(WindowUnderTest& window);
 
-    // Makes every attempt. Presses by assistive programs take effect a moment later, from a timer.
+    // Makes every attempt. Presses by assistive programs take effect later, from a timer.
     void tryEverything();
 
-    // The attempts that changed rows, buttons or check box at once, by name.
+    // The names of the attempts that changed rows, buttons or the check box immediately.
     QString changes() const { return changed.join(QLatin1String(", ")); }
 
-    // True when the presses by assistive programs have arrived too.
+    // True once the presses by assistive programs have arrived.
     bool pressesHaveArrived() const;
 
 private:

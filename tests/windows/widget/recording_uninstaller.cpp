@@ -1,6 +1,6 @@
-// An uninstaller that removes nothing: it appends the arguments it was started with, one line of
-// UTF-8 a start, to "<own path>.args". A copy named "slow.exe" then stays for ten seconds and
-// writes "<own path>.done".
+// An uninstaller that removes nothing: each start appends its arguments as one line of UTF-8 to
+// "<own path>.args". A copy named "slow.exe" then runs for ten seconds and writes "<own
+// path>.done".
 #include "tests/sample_suite/record_file.h"
 
 #include <cstdio>

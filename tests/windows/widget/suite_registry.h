@@ -3,8 +3,7 @@
 #include <QSettings>
 #include <QString>
 
-// The suite's part of the registry, emptied when the test begins and when it ends. The test's
-// own Wine prefix, or the tester's account on Windows, is the only one it touches.
+// The suite's registry key, emptied at the begin and the end of its scope.
 class SuiteRegistry
 {
 public:
@@ -13,7 +12,7 @@ public:
     SuiteRegistry(const SuiteRegistry&) = delete;
     SuiteRegistry& operator=(const SuiteRegistry&) = delete;
 
-    // The tests run outside any folder of either brand, hence the list of the default one.
+    // The tests run outside both brands' folders, so the default brand's list is used.
     void addApplication(const QString& displayName, const QString& command)
     {
         root.setValue(QStringLiteral("UninstPaths/") + displayName, command);

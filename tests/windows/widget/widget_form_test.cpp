@@ -1,4 +1,4 @@
-// The main window as it stands before the first click: form, texts, order, log, list.
+// The main window before the first click: form, texts, order, log, list.
 
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
@@ -27,9 +27,9 @@ private slots:
     void otherBrandsListIsNotRead();
     void namesThatAreNoCatalogueEntriesAreListedToo();
     void valuesThatAreNoTextAreListedToo();
-    void hugeNamesAreListedWhole();
-    void namesInAnyScriptAreListedAsTheyAre();
-    void pluginsAreLookedForBesideTheProgramOnly();
+    void hugeNamesAreListedCompletely();
+    void namesInAnyScriptAreListed();
+    void pluginsAreSearchedOnlyInTheProgramsFolder();
 };
 
 void WidgetFormTest::windowHasItsFixedSizeTitleFlagsAndIcon()
@@ -46,7 +46,7 @@ void WidgetFormTest::windowHasItsFixedSizeTitleFlagsAndIcon()
     const QImage icon = QIcon(QStringLiteral(":/uninstall_ico_48x48.png")).pixmap(48, 48).toImage();
     QVERIFY(!icon.isNull());
     QCOMPARE(under.window.windowIcon().pixmap(48, 48).toImage(), icon);
-    // The toolkit adds the system menu to whatever has a close button.
+    // Qt adds the system menu to every window with a close button.
     const Qt::WindowFlags hints =
         under.window.windowFlags() & ~(Qt::WindowType_Mask | Qt::WindowSystemMenuHint);
     QCOMPARE(hints, Qt::WindowFlags(Qt::WindowTitleHint | Qt::CustomizeWindowHint |
@@ -247,7 +247,7 @@ void WidgetFormTest::valuesThatAreNoTextAreListedToo()
     QCOMPARE(under.list->count(), 3);
 }
 
-void WidgetFormTest::hugeNamesAreListedWhole()
+void WidgetFormTest::hugeNamesAreListedCompletely()
 {
     SuiteRegistry registry;
     // The registry itself allows 16,383 characters in a value name.
@@ -259,11 +259,11 @@ void WidgetFormTest::hugeNamesAreListedWhole()
     QCOMPARE(under.list->item(0)->text(), huge);
 }
 
-void WidgetFormTest::namesInAnyScriptAreListedAsTheyAre()
+void WidgetFormTest::namesInAnyScriptAreListed()
 {
     SuiteRegistry registry;
-    // In the list's order: an accent as a letter of its own, then the same as one with its letter;
-    // from right to left; with an override of the direction; beyond the basic plane.
+    // In the list's order: with a combining accent; precomposed; long; right-to-left; with a
+    // right-to-left override; beyond the basic plane.
     const QStringList names{QString::fromUtf8("Cafe\u0301 Player"),
                             QString::fromUtf8("Caf\u00e9 Player"),
                             QString(255, QLatin1Char('N')),
@@ -280,8 +280,8 @@ void WidgetFormTest::namesInAnyScriptAreListedAsTheyAre()
     QCOMPARE(listed, names);
 }
 
-// The folder that the toolkit was built into may exist on a user's machine, made by anybody.
-void WidgetFormTest::pluginsAreLookedForBesideTheProgramOnly()
+// On a user's computer anyone may have created the folder that Qt was built into.
+void WidgetFormTest::pluginsAreSearchedOnlyInTheProgramsFolder()
 {
     const QString home = QCoreApplication::applicationDirPath();
     const QStringList paths = QCoreApplication::libraryPaths();

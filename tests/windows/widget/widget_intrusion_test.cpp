@@ -1,4 +1,4 @@
-// What happens to a window in the middle of its run when something other than the run reaches it.
+// A window during its run, when something other than the run reaches it.
 
 #include "support/netpull/netpull.h"
 #include "tests/windows/dialogs/dialog_driver.h"
@@ -16,7 +16,7 @@ namespace {
 std::atomic<bool> countryAsked = false;
 QSemaphore countryAnswer;
 
-// One text, which a failed comparison shows whole.
+// One text, which a failed comparison shows completely.
 QString lines(const std::vector<std::string>& texts)
 {
     QString all;
@@ -55,7 +55,7 @@ private:
     // Three applications, of which the first two are checked: Screen Taker, Wave Tuner, Loop Maker.
     void addApplications(const QString& firstProgram);
     static bool checkTwo(WindowUnderTest& under);
-    // Calls `beat` from a timer, as long as the returned object lives.
+    // Calls `beat` from a timer until the returned object is destroyed.
     static std::unique_ptr<QTimer> heartbeat(const std::function<void()>& beat);
     // Both were uninstalled once, selectively, without "/FULL", and nothing else was touched.
     void verifyOutcome(WindowUnderTest& under, const QString& firstProgram);
@@ -210,7 +210,7 @@ void WidgetIntrusionTest::nothingIntrudesBehindTheWarning()
     QVERIFY(ended);
     QVERIFY(tried);
     QCOMPARE(intruder.changes(), QString());
-    // Cancel still has its own effect on what is left: all rows checked again.
+    // Cancel has its own effect on the remaining rows: all are checked.
     QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")).size(), 1);
     QCOMPARE(startsOf(QStringLiteral("WaveTuner")), QStringList());
     QCOMPARE(under.list->count(), 2);
@@ -219,7 +219,7 @@ void WidgetIntrusionTest::nothingIntrudesBehindTheWarning()
     QCOMPARE(under.selectState(), 0);
 }
 
-// The run has asked the program to end; what is under way then must not begin another one.
+// The run has asked the program to end; events that arrive then must not begin another run.
 void WidgetIntrusionTest::nothingIntrudesAfterTheRun()
 {
     addApplications(quick);
@@ -234,8 +234,8 @@ void WidgetIntrusionTest::nothingIntrudesAfterTheRun()
     verifyOutcome(under, quick);
 }
 
-// Buttons that do not match the rows stay as they are too. "/app" leaves the select button alone,
-// so that it does not match where every row is checked.
+// Buttons that do not match the rows stay unchanged too. "/app" does not update the select button,
+// so it does not match when every row is checked.
 void WidgetIntrusionTest::nothingIntrudesOnButtonsThatDoNotMatchTheRows()
 {
     const QString slow = QStringLiteral("slow.exe");
@@ -256,7 +256,7 @@ void WidgetIntrusionTest::nothingIntrudesOnButtonsThatDoNotMatchTheRows()
     QCOMPARE(startsOf(QStringLiteral("ScreenTaker"), slow).size(), 1);
 }
 
-// What is left then is unchecked, and the buttons are disabled.
+// The remaining rows are then unchecked, and the buttons disabled.
 void WidgetIntrusionTest::nothingIntrudesAfterACancelledFullRun()
 {
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));

@@ -13,14 +13,14 @@ class WidgetRunTest : public RunTestBase
 private slots:
     void selectiveRunPassesItsSwitchesAndRemovesTheRow();
     void selectiveRunWithDeleteSettingsAddsFull();
-    void fullRunCountsRowsDownAndTakesTheSuiteLast();
+    void fullRunUninstallsTheSuiteLast();
     void fullRunWithDeleteSettingsDropsTheLogSwitch();
     void uninstallModeStaysUnwrittenInSelectiveRuns();
-    void everyRowWithoutASuiteRowEndsQuietly();
+    void everyRowWithoutASuiteRowEndsTheProgram();
     void emptyCommandRunsNothingAndRemovesTheRow();
-    void emptyListQuitsAtOnce();
+    void emptyListQuits();
     void missingProgramDoesNotStopTheRun();
-    void longAndQuotedCommandsArriveWhole();
+    void longAndQuotedCommandsArriveCompletely();
     void uninstallerOverTwoSecondsIsLeftRunning();
     void windowAnswersAndStaysOpenDuringAWait();
 };
@@ -63,7 +63,7 @@ void WidgetRunTest::selectiveRunWithDeleteSettingsAddsFull()
                          QStringLiteral("|/SILENT|/FULL|/SUPPRESSMSGBOXES")});
 }
 
-void WidgetRunTest::fullRunCountsRowsDownAndTakesTheSuiteLast()
+void WidgetRunTest::fullRunUninstallsTheSuiteLast()
 {
     // Registered so that the suite is neither the first nor the last row.
     addApplication(QStringLiteral("Album Keeper"), QStringLiteral("AlbumKeeper"));
@@ -114,7 +114,7 @@ void WidgetRunTest::uninstallModeStaysUnwrittenInSelectiveRuns()
     QVERIFY(!registry->value(QStringLiteral("UninstallMode")).isValid());
 }
 
-void WidgetRunTest::everyRowWithoutASuiteRowEndsQuietly()
+void WidgetRunTest::everyRowWithoutASuiteRowEndsTheProgram()
 {
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
     addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
@@ -122,7 +122,7 @@ void WidgetRunTest::everyRowWithoutASuiteRowEndsQuietly()
     under.window.changeItemsState(true);
     QVERIFY(press(under));
     QCOMPARE(under.list->count(), 0);
-    // The last application is the last row, and it is told so.
+    // The uninstaller of the last row gets "/LASTAPP".
     QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")),
              QStringList{logSwitch(QStringLiteral("WaveTuner")) +
                          QStringLiteral("|/SILENT|/SUPPRESSMSGBOXES|/LASTAPP")});
@@ -140,7 +140,7 @@ void WidgetRunTest::emptyCommandRunsNothingAndRemovesTheRow()
         QVERIFY(text.rfind("DoUninsstall: ", 0) != 0);
 }
 
-void WidgetRunTest::emptyListQuitsAtOnce()
+void WidgetRunTest::emptyListQuits()
 {
     const CapturedLog log;
     WindowUnderTest under;
@@ -170,7 +170,7 @@ void WidgetRunTest::missingProgramDoesNotStopTheRun()
     QCOMPARE(failures, 1);
 }
 
-void WidgetRunTest::longAndQuotedCommandsArriveWhole()
+void WidgetRunTest::longAndQuotedCommandsArriveCompletely()
 {
     const QString path =
         addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
@@ -202,7 +202,7 @@ void WidgetRunTest::uninstallerOverTwoSecondsIsLeftRunning()
         QVERIFY(!QFile::exists(slow + QStringLiteral(".done")));
         QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")).size(), 1);
     }
-    // The window is gone, its uninstaller is not.
+    // The window is gone; its uninstaller still runs.
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(slow + QStringLiteral(".done")), deadlineMs);
 }
 
@@ -216,7 +216,7 @@ void WidgetRunTest::windowAnswersAndStaysOpenDuringAWait()
     bool closeRefused = false;
     QTimer heartbeat;
     connect(&heartbeat, &QTimer::timeout, &under.window, [&] {
-        // Counts the beats of the wait only: the uninstaller has been started.
+        // Counts only after the start of the uninstaller, so during the wait.
         if (startsOf(QStringLiteral("ScreenTaker"), QStringLiteral("slow.exe")).isEmpty())
             return;
         if (ticks++ == 0)
@@ -224,7 +224,7 @@ void WidgetRunTest::windowAnswersAndStaysOpenDuringAWait()
     });
     heartbeat.start(50);
     QVERIFY(press(under));
-    QVERIFY2(ticks >= 5, "the event loop stood still while an uninstaller was waited for");
+    QVERIFY2(ticks >= 5, "the event loop did not run during the wait for an uninstaller");
     QVERIFY(closeRefused);
 }
 

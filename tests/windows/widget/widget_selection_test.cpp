@@ -23,10 +23,10 @@ private slots:
     void cleanup();
 
     void checkingOneRowEnablesUninstallAndDeleteSettings();
-    void uncheckingTheLastCheckedRowDisablesThemAgain();
+    void uncheckingTheLastCheckedRowDisablesThem();
     void checkingEveryRowByHandTurnsTheButtonToSelectNone();
     void checkingTheSuiteRowChecksEveryRow();
-    void uncheckingARowWhileTheSuiteIsCheckedChecksItAgain();
+    void uncheckingARowWhileTheSuiteIsCheckedHasNoEffect();
     void selectAllChecksEveryRowAndDeleteSettings();
     void selectNoneUnchecksEveryRowAndKeepsDeleteSettingsChecked();
     void selectNoneAfterCheckingByHandUnchecksAll();
@@ -76,7 +76,7 @@ void WidgetSelectionTest::checkingOneRowEnablesUninstallAndDeleteSettings()
     QCOMPARE(under.select->text(), QStringLiteral("Select all"));
 }
 
-void WidgetSelectionTest::uncheckingTheLastCheckedRowDisablesThemAgain()
+void WidgetSelectionTest::uncheckingTheLastCheckedRowDisablesThem()
 {
     WindowUnderTest under;
     QVERIFY(under.show());
@@ -121,7 +121,7 @@ void WidgetSelectionTest::checkingTheSuiteRowChecksEveryRow()
     QVERIFY(under.deleteSettings->isEnabled());
 }
 
-void WidgetSelectionTest::uncheckingARowWhileTheSuiteIsCheckedChecksItAgain()
+void WidgetSelectionTest::uncheckingARowWhileTheSuiteIsCheckedHasNoEffect()
 {
     WindowUnderTest under;
     QVERIFY(under.show());
@@ -200,7 +200,7 @@ void WidgetSelectionTest::spaceBarTogglesTheCurrentRowAndItsControls()
     QTRY_VERIFY(!under.uninstall->isEnabled());
 }
 
-// The key's release then goes elsewhere.
+// The release of the key then reaches another control.
 void WidgetSelectionTest::controlsFollowASpaceBarHeldWhileTheFocusMovesOn()
 {
     WindowUnderTest under;

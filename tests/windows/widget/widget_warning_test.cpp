@@ -1,4 +1,4 @@
-// Running applications during a run: the real warning box, and real processes that hold their
+// Running applications during a run: the real warning box, and real processes that hold the
 // mutexes.
 
 #include "support/win32/unique_handle.h"
@@ -17,22 +17,22 @@ class WidgetWarningTest : public RunTestBase
     Q_OBJECT
 
 private slots:
-    void okEndsTheRunningApplicationAndGoesOn();
-    void cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing();
+    void okEndsTheRunningApplicationAndContinues();
+    void cancelInASelectiveRunChecksAllRowsAndUninstallsNothing();
     void cancelInAFullRunLeavesRowsUncheckedAndControlsDisabled();
     void closingTheWarningCountsAsCancel();
     void twoRunningApplicationsAskInRowOrder();
-    void suiteRowAsksForApplicationsThatAreNotListed();
+    void suiteRowWarnsAboutApplicationsThatAreNotListed();
     void warningIsAWarningOfTheWindowWithTwoButtons();
-    void otherFailuresOfTheMutexCountAsNotRunning();
     void warningNamesTheInstallFolder();
     void warningWithoutAPathBeginsWithIsRunning();
     void warningOfAForeignApplicationShowsItsName();
     void taskkillIsTheSystemsAndNamesTheIdString();
     void taskkillIsNotWaitedFor();
+    void mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning();
 };
 
-void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
+void WidgetWarningTest::okEndsTheRunningApplicationAndContinues()
 {
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
     addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
@@ -49,7 +49,7 @@ void WidgetWarningTest::okEndsTheRunningApplicationAndGoesOn()
     QCOMPARE(awaitedStartsOf(QStringLiteral("WaveTuner")).size(), 1);
 }
 
-void WidgetWarningTest::cancelInASelectiveRunChecksAllRowsAgainAndUninstallsNothing()
+void WidgetWarningTest::cancelInASelectiveRunChecksAllRowsAndUninstallsNothing()
 {
     addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker"));
     addApplication(QStringLiteral("Wave Tuner"), QStringLiteral("WaveTuner"));
@@ -136,7 +136,7 @@ void WidgetWarningTest::twoRunningApplicationsAskInRowOrder()
     QVERIFY(second->state() == QProcess::NotRunning || second->waitForFinished(deadlineMs));
 }
 
-void WidgetWarningTest::suiteRowAsksForApplicationsThatAreNotListed()
+void WidgetWarningTest::suiteRowWarnsAboutApplicationsThatAreNotListed()
 {
     addApplication(suiteName, QStringLiteral("Tessera"));
     const auto running = startApplication(QStringLiteral("WaveTuner"));
@@ -167,18 +167,6 @@ void WidgetWarningTest::warningIsAWarningOfTheWindowWithTwoButtons()
     QCOMPARE(parent, &under.window);
     QCOMPARE(icon, QMessageBox::Warning);
     QCOMPARE(buttons, QMessageBox::Ok | QMessageBox::Cancel);
-}
-
-void WidgetWarningTest::otherFailuresOfTheMutexCountAsNotRunning()
-{
-    // Something else by that name: the mutex cannot be created, and does not exist either.
-    const win32::KernelHandle event(
-        CreateEventW(nullptr, TRUE, FALSE, L"Global\\Lumacraft_WaveTuner"));
-    QVERIFY(event);
-    QVERIFY(!uninstall::applicationIsRunning("WaveTuner"));
-    const win32::KernelHandle mutex(CreateMutexW(nullptr, FALSE, L"Global\\Lumacraft_LoopMaker"));
-    QVERIFY(mutex);
-    QVERIFY(uninstall::applicationIsRunning("LoopMaker"));
 }
 
 void WidgetWarningTest::warningNamesTheInstallFolder()
@@ -239,6 +227,18 @@ void WidgetWarningTest::taskkillIsNotWaitedFor()
     QVERIFY(taskkill != nullptr);
     // Its end is noticed by an event loop or a wait only, and there has been neither since.
     QCOMPARE(taskkill->state(), QProcess::Running);
+}
+
+void WidgetWarningTest::mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning()
+{
+    // Another kind of object has the name.
+    const win32::KernelHandle event(
+        CreateEventW(nullptr, TRUE, FALSE, L"Global\\Lumacraft_ScreenTaker"));
+    QVERIFY(event);
+    const testing_support::RecordedLog log;
+    QVERIFY(!uninstall::applicationIsRunning("ScreenTaker"));
+    QCOMPARE(log.records().size(), std::size_t{1});
+    QCOMPARE(log.records()[0].text.rfind("CreateMutexW failed: 6 ", 0), std::size_t{0});
 }
 
 TESSERA_QT_TEST(WidgetWarningTest)

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QtTest>
 
-// The real main window with its controls at hand, and the gestures a person makes on it.
+// The real main window, its controls, and mouse gestures on it.
 class WindowUnderTest
 {
 public:

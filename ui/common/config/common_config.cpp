@@ -15,7 +15,7 @@ std::unique_ptr<CConfig> makeCommonConfig()
 
 CConfig& commonConfig()
 {
-    // Never destroyed: other static objects may still read settings while they end.
+    // Never destroyed: other static objects may read settings in their destructors.
     static CConfig& config = *makeCommonConfig().release();
     return config;
 }

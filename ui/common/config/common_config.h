@@ -6,10 +6,10 @@
 
 namespace fs {
 
-// A new object on the suite-wide "common.cfg", loaded if the file is there.
+// A new object for the suite-wide "common.cfg", loaded if the file exists.
 std::unique_ptr<CConfig> makeCommonConfig();
 
-// The process's own object on "common.cfg", made on first use. Any thread.
+// The process's object for "common.cfg", made on first use and never destroyed. Any thread.
 CConfig& commonConfig();
 
 } // namespace fs

@@ -52,8 +52,8 @@ int CConfig::reload()
 
 int CConfig::readFile(Existing existing)
 {
-    // A slow disk must not hold up getValue() in other threads, so the lock is not kept while
-    // the file is read and taken apart.
+    // A slow disk must not hold up getValue() in other threads, so the lock is not held while
+    // the file is read and parsed.
     std::wstring path;
     {
         const std::lock_guard lock(mutex);
@@ -69,7 +69,7 @@ int CConfig::readFile(Existing existing)
 
     const std::lock_guard lock(mutex);
     if (filePath != path)
-        return sys::success; // as if setFileName() had emptied the object right after this load
+        return sys::success; // as if setFileName() had been called right after this load
     if (existing == Existing::keep) {
         for (auto& [key, value] : values)
             fileValues.insert_or_assign(key, std::move(value));

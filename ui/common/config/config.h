@@ -8,24 +8,20 @@
 
 namespace fs {
 
-// The class has no virtual destructor: the four slots below are its whole virtual table, and
-// objects are always destroyed as what they are.
-#if defined(__GNUC__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
-
 // One ".cfg" file: its pairs in memory, and the keys that this process changed.
 //
 // Any thread may call any operation; each is atomic with respect to the others on the same object.
-// Between processes there is no lock: save() reads the file again and lays only this process's
-// changes over it, so that two processes with different keys both keep theirs.
+// Between processes there is no lock: save() reads the file again and applies only this process's
+// changes, so that two processes that change different keys both keep theirs.
 //
-// The three that touch the disk may take half a second more while somebody else has the file open
+// save(), load() and reload() may take half a second more while another process has the file open
 // (sys::readWholeFile), and save() keeps the object locked meanwhile.
 //
 // Results are sys:: result codes (ui/common/sys/result_codes.h). Nothing is saved on destruction.
-class CConfig
+//
+// The four virtual functions are the whole virtual table. There is no virtual destructor: nothing
+// derives from the class, so no object is deleted through a base pointer.
+class CConfig final
 {
 public:
     CConfig() = default;
@@ -35,10 +31,10 @@ public:
     // Binds the object to a file and empties it. Does not read the file.
     virtual void setFileName(const std::wstring& path);
 
-    // Writes the file anew: what it holds now, with this process's changes over it. A file that
-    // is missing or cannot be read counts as empty. Without changes the disk is not touched.
-    // Returns success; noSuchFile without a file name; readOrWriteFailed, and then the changes
-    // are kept for the next save().
+    // Rewrites the file: its present content with this process's changes applied. A file that is
+    // missing or cannot be read counts as empty. Without changes the disk is not touched.
+    // Returns success; noSuchFile without a file name; readOrWriteFailed, with the
+    // changes kept for the next save().
     virtual int save();
 
     // Adds the file's pairs; keys in memory keep their values but no longer count as changed.
@@ -50,7 +46,7 @@ public:
 
     // Changes memory only. The empty value deletes the key at the next save().
     void setValue(const std::string& key, const std::string& value);
-    // True for a key with the empty value too.
+    // Also true for a key whose value is empty.
     bool has(const std::string& key) const;
     std::string getValue(const std::string& key, const std::string& defaultValue) const;
 
@@ -70,9 +66,5 @@ private:
     bool modified = false;
     std::wstring filePath;
 };
-
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
 
 } // namespace fs

@@ -1,6 +1,6 @@
 #pragma once
 
-// One line of a ".cfg" file or of "global.cfg", as both are taken apart. Pure; any thread.
+// Parses one line of a ".cfg" file, "global.cfg" included. Pure; any thread.
 
 #include <algorithm>
 #include <cstddef>

@@ -9,14 +9,14 @@ namespace fs {
 
 void parseConfigText(std::string_view text, ConfigValues& values)
 {
-    // Trailing NULs go first: one that stands before a final carriage return is content.
+    // Before carriage returns are removed: a NUL in front of a final one is content.
     text = text.substr(0, text.find_last_not_of('\0') + 1);
     std::string storage;
     if (text.find('\r') != std::string_view::npos) {
         std::remove_copy(text.begin(), text.end(), std::back_inserter(storage), '\r');
         text = storage;
     }
-    // Files are written in the order of their keys, so that usually every pair goes to the end.
+    // Files are written in key order, so the end is usually the right hint.
     ConfigLine line;
     while (!text.empty()) {
         if (takeConfigLine(text, line))

@@ -1,7 +1,7 @@
 #pragma once
 
 // The text of a ".cfg" file: lines of a key, "=" and a value. Nothing is trimmed, quoted or
-// escaped, and the bytes are kept as they are. Pure functions; any thread.
+// escaped, and bytes are kept unchanged. Pure functions; any thread.
 
 #include <map>
 #include <set>
@@ -20,11 +20,11 @@ using ConfigValues = std::map<std::string, std::string>;
 // that `values` already holds keeps its value.
 void parseConfigText(std::string_view text, ConfigValues& values);
 
-// One line, ended by a line feed, per entry with a value; entries with an empty value are deleted
-// ones and are left out.
+// One line, ended by a line feed, per entry with a value; an empty value marks a deleted entry,
+// which is left out.
 std::string serialiseConfig(const ConfigValues& values);
 
-// What one process changed since it last read or wrote the file, keys in ascending order.
+// What one process has changed since it last read or wrote the file, in ascending order of keys.
 struct ConfigChanges
 {
     std::vector<std::pair<std::string, std::string>> toWrite;
@@ -34,7 +34,7 @@ struct ConfigChanges
 // Looks up each changed key: with its current value if there is one, else as a key to drop.
 ConfigChanges collectChanges(const ConfigValues& values, const std::set<std::string>& changedKeys);
 
-// Lays the changes over `values`: inserts or replaces what is to write, erases what is to drop.
+// Applies the changes to `values`.
 void applyChanges(const ConfigChanges& changes, ConfigValues& values);
 
 } // namespace fs

@@ -22,7 +22,7 @@ bool CTranslators::setLanguage(const QString& code)
         return true;
     }
 
-    // Installed before it is loaded: a later call then replaces the catalogue in place.
+    // Installed once and loaded below, so that a later call replaces the catalogues in place.
     if (translators.isEmpty()) {
         for (int i = 0; i < patterns.size(); ++i) {
             auto* translator = new QTranslator(this);

@@ -10,7 +10,7 @@
 namespace stats {
 namespace {
 
-// Support's log filters know these messages by category, source and line.
+// These messages are known by their category, source and line, so the lines are fixed.
 constexpr Keelbase::LogSource logSource{"AppEventStat", "ui/common/stat/app_event_stat"};
 constexpr int rejectedLine = 65;
 constexpr int transportErrorLine = 68;
@@ -42,8 +42,8 @@ void postEvent(const std::string& body)
     }
 }
 
-// One more, and from the largest number to the smallest: a damaged EventNumber may be anything.
-int following(int number)
+// Wraps from the largest number to the smallest: a damaged EventNumber may hold any value.
+int nextNumber(int number)
 {
     return static_cast<int>(static_cast<unsigned>(number) + 1U);
 }
@@ -75,7 +75,7 @@ int AppStatHelper::sendEvent(const std::string& eventType, const std::string& sr
     if (!enabled || !params)
         return 0;
     if (eventNumber == 0) {
-        eventCounter = following(eventCounter);
+        eventCounter = nextNumber(eventCounter);
         eventNumber = eventCounter;
     }
     params->set("EVENT_NUMBER", std::to_string(eventNumber), true);

@@ -13,22 +13,22 @@ namespace stats {
 // Sends usage events to the statistics service. One event is one form POST on a worker thread,
 // one at a time, in the order of the calls; a failure is logged and the event is lost.
 //
-// Threads: every operation may be called from any thread.
-// Stop: at process exit the post under way is completed (each of its at most two requests within
-// its 10 seconds) and events that still wait are dropped.
+// Threads: any.
+// Stop: at process exit the post under way is completed (at most two requests of up to 10 seconds
+// each), and events that still wait are dropped.
 class AppStatHelper
 {
 public:
     static AppStatHelper& instance();
 
-    // Shares the parameter set from now on: each event writes EVENT_NUMBER and TEST into it, so
-    // nobody else may touch it any more without owning the only other reference. `eventNumber` is
-    // the last number in use. Events are marked as test events when the environment variable
-    // SET_TEST_STAT_HOST is exactly "1"; their address stays the same.
+    // Takes the parameter set over: each event writes EVENT_NUMBER and TEST into it, so the caller
+    // must not use it any more. `eventNumber` is the last number in use. Events are marked as test
+    // events, but sent to the same address, when the environment variable SET_TEST_STAT_HOST is
+    // exactly "1".
     void init(std::shared_ptr<TemplateParams> params, bool enabled, int eventNumber);
 
     // Queues one event, or posts it before returning when `sync` is true. An `eventNumber` of 0
-    // takes the next number; any other is used as it is and leaves the counting alone. Returns
+    // takes the next number; any other is used unchanged and does not affect the count. Returns
     // the number used, or 0 when statistics are off or not initialised.
     int sendEvent(const std::string& eventType, const std::string& src, const std::string& infoType,
                   const std::string& info, bool sync, int eventNumber);
@@ -46,7 +46,7 @@ private:
     bool enabled = false;
     bool testMode = false;
     int eventCounter = 0;
-    TaskQueue queue; // last, so that its worker ends before anything else does
+    TaskQueue queue; // last, so that it is destroyed first and its worker ends
 };
 
 } // namespace stats

@@ -8,7 +8,7 @@
 namespace stats {
 
 // Reads a number as atoi does: leading white space, a sign, digits, then anything; 0 without
-// digits. A number too large for an int becomes the nearest one, where atoi leaves it open.
+// digits. Unlike with atoi, a number outside the range of int becomes the nearest limit.
 inline int decimalFromText(const std::string& text)
 {
     const long long value = std::strtoll(text.c_str(), nullptr, 10);

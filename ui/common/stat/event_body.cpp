@@ -5,7 +5,7 @@
 namespace stats {
 namespace {
 
-// "pid" belongs to the suite's web shop; no desktop application has a value for it.
+// "pid" is always empty.
 constexpr std::string_view bodyText =
     R"({"guid":"{GUID}","country_id":"{COUNTRY_ID}","pid":"","adv_type":"{ADVTYPE}",)"
     R"("camp_type":"{CAMPTYPE}","appid":"{APPID}","ver":"{VER}","event_type":"{EVENT_TYPE}",)"

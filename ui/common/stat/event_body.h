@@ -16,8 +16,8 @@ struct EventTexts
 };
 
 // The JSON document of one event: nineteen members, every value a string. The texts count only
-// where `shared` does not hold SRC, EVENT_TYPE, INFO_TYPE or INFO itself. Values are not escaped,
-// so a quote in one yields invalid JSON: the service has always received it so.
+// where `shared` does not hold SRC, EVENT_TYPE, INFO_TYPE or INFO itself. A deliberate oddity:
+// values are not escaped, so a quote in one yields invalid JSON.
 std::string buildEventBody(const TemplateParams& shared, const EventTexts& texts);
 
 } // namespace stats

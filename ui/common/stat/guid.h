@@ -9,11 +9,11 @@ namespace stats {
 // system cannot make one. Any thread.
 std::string createGuid();
 
-// Replaces what createGuid yields; null brings the system's UUIDs back. For tests, and not while
-// another thread asks for a GUID.
+// Replaces the source of createGuid; null brings the system's back. For tests, and not while
+// another thread calls createGuid.
 void setGuidSource(std::function<std::string()> source);
 
-// The system's own, whatever the source.
+// A GUID from the system, whatever the source is.
 std::string systemGuid();
 
 } // namespace stats

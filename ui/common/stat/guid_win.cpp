@@ -9,7 +9,7 @@ namespace {
 
 constexpr Keelbase::LogSource logSource{"AppEventStat", "ui/common/stat/guid_win"};
 
-// Owns a text that the RPC runtime has allocated; null: none.
+// Owns a text from the RPC runtime, or null.
 struct RpcText
 {
     RPC_WSTR text = nullptr;
@@ -40,7 +40,7 @@ std::string systemGuid()
     if (!succeeded(UuidCreate(&uuid), "UuidCreate") ||
         !succeeded(UuidToStringW(&uuid, &text.text), "UuidToStringW"))
         return {};
-    // The RPC headers know UTF-16 as unsigned short, or as wchar_t, depending on the compiler.
+    // RPC_WSTR is unsigned short or wchar_t, depending on the compiler.
     return sys::toUtf8(reinterpret_cast<const wchar_t*>(text.text));
 }
 

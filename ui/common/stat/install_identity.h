@@ -7,10 +7,9 @@
 
 namespace stats {
 
-// The random id that all applications of the suite share for this user. The first caller ever
-// creates it, also when it is for this purpose alone, and saves `common` at once. A GUID that the
-// system could not make is stored as an empty value, which is an answer too: it is not tried again
-// while the key exists.
+// The random id that all applications of the suite share for this user. The first caller creates it
+// and saves `common` at once. If the system cannot make a GUID, `common` holds an empty value for
+// it, and no other attempt is made while it does.
 std::string getOrCreateClientGuid(fs::CConfig& common);
 
 // Copies what the application's installer wrote (AdvType, CampType, InstType, InstChannel,

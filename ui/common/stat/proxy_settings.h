@@ -13,8 +13,8 @@ struct ProxySettings
     std::string password;
 };
 
-// Reads ProxyType, ProxyAddress, ProxyPort, ProxyUser and ProxyPw of common.cfg as they are in
-// memory now. ProxyType only switches: 0 or absent is no proxy. Any thread.
+// The present values of ProxyAddress, ProxyPort, ProxyUser and ProxyPw in commonConfig(). ProxyType
+// is only a switch: 0 or absent means no proxy. Any thread.
 ProxySettings readProxySettings();
 
 } // namespace stats

@@ -1,6 +1,6 @@
 #pragma once
 
-// The addresses of the suite's services. Hosts are chosen at build time (cmake/services.cmake).
+// The addresses of the suite's services. cmake/services.cmake sets the hosts.
 namespace stats {
 
 // Receives usage events as an HTTPS form POST.

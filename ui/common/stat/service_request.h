@@ -8,7 +8,7 @@
 
 namespace stats {
 
-// What the requests to both services have in common: the address, the proxy, a verified server.
+// A request to one of the suite's services.
 inline netpull::Request serviceRequest(const std::string& url, const ProxySettings& proxy,
                                        int timeoutSeconds)
 {

@@ -21,7 +21,7 @@ void TaskQueue::post(std::function<void()> task)
     tasks.push_back(std::move(task));
     if (workerRunning.exchange(true))
         return;
-    // The previous worker has left its loop, so this join ends at once.
+    // The previous worker has left its loop, so this does not block.
     if (worker.joinable())
         worker.join();
     worker = std::thread([this] { runTasks(); });

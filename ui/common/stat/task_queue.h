@@ -8,10 +8,10 @@
 
 namespace stats {
 
-// Runs tasks one at a time, in the order of their posting, on a worker thread that exists only
-// while there is something to do.
+// Runs tasks one at a time, in the order they are posted, on a worker thread that exists only while
+// there are tasks.
 //
-// Threads: post may be called from any thread, from a running task too. The destructor must not
+// Threads: post may be called from any thread and from a running task. The destructor must not
 // run inside a task.
 // Stop: the destructor waits for the task that is running; tasks that still wait are dropped.
 class TaskQueue

@@ -5,8 +5,8 @@
 namespace stats {
 namespace {
 
-// Takes an address back to before its last pair. Looking for any "&" first spares an event body,
-// which has none, the slow search from behind.
+// Cuts the text before its last "&". Event bodies rarely have one, and find() rules it out faster
+// than rfind().
 void removeLastPair(std::string& text)
 {
     if (text.find('&') != std::string::npos)

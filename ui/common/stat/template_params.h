@@ -10,8 +10,7 @@
 namespace stats {
 
 // Named values that fill the {NAME} placeholders of web addresses and event bodies. Names and
-// values are UTF-8, names are compared byte by byte. Not locked: whoever shares a set between
-// threads guards it.
+// values are UTF-8, names are compared byte by byte. Not synchronised.
 class TemplateParams
 {
 public:
@@ -30,9 +29,9 @@ public:
     std::string get(const std::string& name) const;
 
     // Replaces every placeholder by its value. A name without a value vanishes when `dropUnknown`
-    // is true. Otherwise it counts as unresolved and takes the output back to its last "&", so
-    // that an address loses "&key={NAME}" as a whole; an output without "&" stays. Values are
-    // inserted verbatim, and an "&" inside one counts like any other.
+    // is true. Otherwise it counts as unresolved and the output is cut before its last "&", so that
+    // an address loses the whole "&key={NAME}"; output without "&" stays. Values are inserted
+    // unchanged, and an "&" in one counts like any other.
     Expansion expand(const TextTemplate& textTemplate, bool dropUnknown) const;
     Expansion expand(std::string_view templateText, bool dropUnknown) const;
 

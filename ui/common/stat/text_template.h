@@ -7,16 +7,16 @@
 
 namespace stats {
 
-// A text with {NAME} placeholders, taken apart once and expanded any number of times
+// A text with {NAME} placeholders, parsed once and expanded any number of times
 // (TemplateParams::expand). NAME is one or more ASCII letters, digits, "-" and "_"; braces around
-// anything else are literal text. Never changes; any thread may use it.
+// anything else are literal text. Immutable; any thread.
 class TextTemplate
 {
 public:
     explicit TextTemplate(std::string_view text);
 
     std::size_t placeholderCount() const { return placeholders.size(); }
-    // The text between the placeholder and the one before it, or the beginning.
+    // The text between the previous placeholder, or the beginning, and this one.
     std::string_view literalBefore(std::size_t placeholder) const
     {
         return view(placeholders[placeholder].literal);
@@ -25,9 +25,9 @@ public:
     {
         return view(placeholders[placeholder].name);
     }
-    // What follows the last placeholder.
+    // The text after the last placeholder.
     std::string_view rest() const { return view(literalRest); }
-    // The length of the text itself.
+    // The length of the whole text, placeholders included.
     std::size_t length() const { return text.size(); }
 
 private:

@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view encodedBytes = " !#$%&'()*+,-./:;=?@[]{|}";
 static_assert(encodedBytes.size() == 25);
 
-// What one byte becomes: the first `length` of the bytes.
+// What one byte becomes: the first `length` of `bytes`.
 struct Replacement
 {
     char bytes[3];

@@ -13,7 +13,7 @@
 namespace stats {
 namespace {
 
-// The lookup reports as the main window, whose module it belongs to in support's log filters.
+// A deliberate oddity: these messages appear under the main window's source, with fixed lines.
 constexpr Keelbase::LogSource logSource{"MainForm", "ui/uninstall/src/widget"};
 constexpr int debugSkipLine = 152;
 constexpr int returnedErrorLine = 160;
@@ -23,8 +23,8 @@ constexpr int exceptionLine = 170;
 constexpr const char* locationKey = "Location";
 constexpr int timeoutSeconds = 15;
 
-// The answer as text: it ends at the first NUL, where the configuration file would end too and
-// lose the keys that follow.
+// The answer up to its first NUL. A settings file is written up to its first NUL, so one in a value
+// would lose the keys that follow.
 std::string countryFrom(const sys::DataBuff& answer)
 {
     std::string text = answer.toString();

@@ -15,7 +15,7 @@ struct Enumeration
     std::exception_ptr failure;
 };
 
-// The system's own code lies between this and the caller, so an exception is carried around it.
+// Exceptions must not pass through the system's code between this function and the caller.
 BOOL CALLBACK visitWindow(HWND window, LPARAM parameter)
 {
     auto* enumeration = reinterpret_cast<Enumeration*>(parameter);
@@ -65,8 +65,8 @@ void bringWindowToTop(std::int64_t ownWindow)
 
 void passForegroundOn()
 {
-    // To any process: the first copy's number is not known, because its pipe is opened as if it
-    // were on another computer, where process numbers mean nothing.
+    // Any process, since the first copy's id is unknown: its pipe is opened like one on another
+    // computer.
     if (!AllowSetForegroundWindow(ASFW_ANY))
         win32::logFailure({"IPC", "ui/common/sys/bring_window_to_top"}, __LINE__,
                           "AllowSetForegroundWindow", GetLastError());

@@ -12,11 +12,11 @@ class IDataBuff
 public:
     virtual ~IDataBuff() = default;
 
-    // False when the memory cannot be had; the old block then stays. New bytes are undefined.
+    // False when there is no memory; the old block then stays. New bytes are undefined.
     virtual bool resize(std::uint64_t newSize) = 0;
     virtual void clear() = 0;
 
-    // Copies bytes in. The source must not lie in this buffer's own block. False as resize().
+    // Copies bytes in. The source must not lie in this buffer's own block. Result as resize().
     // assign() with a null source only resizes.
     virtual bool assignString(const std::string& text) = 0;
     virtual bool assign(const void* source, std::uint64_t sourceSize) = 0;
@@ -39,7 +39,7 @@ public:
     virtual bool empty() const = 0;
 };
 
-// The buffer on malloc, realloc and free. Not synchronised: one thread at a time.
+// The buffer that uses malloc, realloc and free. Not synchronised.
 class DataBuff : public IDataBuff
 {
 public:

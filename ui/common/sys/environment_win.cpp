@@ -9,7 +9,7 @@ std::string environmentVariable(const char* name)
 {
     wchar_t value[2048] = {};
     constexpr DWORD capacity = static_cast<DWORD>(std::size(value));
-    // A value that does not fit yields the size that it needs.
+    // For a value that does not fit, the call returns the size it needs.
     const DWORD size = GetEnvironmentVariableW(fromUtf8(name).c_str(), value, capacity);
     return size < capacity ? toUtf8({value, size}) : std::string();
 }

@@ -23,8 +23,8 @@ struct StreamCloser
 };
 using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
-// _wfopen_s refuses a file that anybody has open for writing: other applications of the suite,
-// protection software and backups do, mostly for a moment.
+// _wfopen_s refuses a file that is open for writing, as it briefly may be in another application of
+// the suite, a virus scanner or a backup.
 constexpr ULONGLONG patienceMs = 500;
 constexpr DWORD pauseMs = 10;
 
@@ -33,8 +33,8 @@ int openStream(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
     return _wfopen_s(stream, path, mode);
 }
 
-// Opens for reading, again and again while others have the file open. `systemError` receives the
-// system's number for the failure, 0 for none.
+// Opens for reading, and retries while the file is open elsewhere. `systemError` receives the
+// system's error number, 0 on success.
 int openPatiently(OpenFile open, std::FILE** stream, const wchar_t* path, DWORD& systemError)
 {
     const ULONGLONG begun = GetTickCount64();
@@ -81,7 +81,7 @@ int readWholeFile(const std::wstring& path, std::string& content, OpenFile open)
             win32::logFailure(logSource, __LINE__, "ReadFile", GetLastError());
             return readOrWriteFailed;
         }
-        bytes.resize(read); // another process may have cut the file since
+        bytes.resize(read); // another process may have truncated the file since
         content.swap(bytes);
         return success;
     } catch (const std::exception&) {

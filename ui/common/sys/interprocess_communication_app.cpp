@@ -35,10 +35,10 @@ CInterprocessCommunicationApp::CInterprocessCommunicationApp(std::vector<std::st
 
 CInterprocessCommunicationApp::~CInterprocessCommunicationApp()
 {
-    // The channel's destructor waits for the server thread, which may in turn be waiting for this
-    // thread to handle a message. Without the connection no new message comes in, and dropping one
-    // that is queued lets the server thread go on. Its sender gets no answer, since what stands
-    // there is an older message's.
+    // The channel's destructor waits for the server thread, which may be waiting for this thread to
+    // handle a message. Without the connection no new message comes in, and dropping a queued one
+    // releases the server thread. After requestStop() its sender gets no answer, since the stored
+    // one belongs to an older message.
     channel.requestStop();
     disconnect(this, &CInterprocessCommunicationApp::messageFromOtherProcessReceived, this,
                &CInterprocessCommunicationApp::onMessageReceived);
@@ -55,8 +55,8 @@ QString CInterprocessCommunicationApp::handleMessage(const QString&)
     return QString();
 }
 
-// Failures on the way are not looked at: a copy that found the mutex taken never opens a window of
-// its own, unless the first copy's answer tells it to.
+// Errors are ignored here: a copy that found the mutex taken opens no window of its own, unless the
+// first copy's answer tells it to.
 void CInterprocessCommunicationApp::handOver(std::string message)
 {
     if (!channel.isPipeOpen())

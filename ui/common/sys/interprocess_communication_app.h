@@ -16,12 +16,13 @@ class CInterprocessCommunicationApp : public QMainWindow, public IMessageFromOth
     Q_OBJECT
 
 public:
-    // With `check`, the constructor settles which copy this one is. The first copy serves the pipe
-    // from here on. A later copy hands `arguments`, joined by single spaces ("/show" for none), to
-    // the first and isAnotherInstanceRunning() is true from then on, whether the hand-over worked
-    // or not; it blocks for as long as the first copy takes.
-    // `parent`, when given, is the window that messages act on and whose namesake in the first
-    // copy a later copy brings forward; without one, this object is. Main thread only, with the
+    // With `check`, the constructor determines whether this is the first copy. The first copy then
+    // serves the pipe. A later copy hands `arguments`, joined by single spaces ("/show" for none),
+    // to the first and waits, without limit, for its answer. Then isAnotherInstanceRunning() is
+    // true, even if the hand-over failed, unless the answer asks this copy to go on as the first.
+    //
+    // Messages act on `parent`, or on this object without one. With a parent, a later copy also
+    // brings forward the window whose title contains the parent's. Main thread only, with the
     // application object alive. Failures of the channel are not reported.
     CInterprocessCommunicationApp(std::vector<std::string> arguments, QWidget* parent, bool check,
                                   qint64 reserved);
@@ -35,8 +36,8 @@ public:
     const std::vector<std::string>& startArguments() const { return startArgumentList; }
 
 protected:
-    // The hook for the program's own commands: gets a message without its command words and returns
-    // the answer. Main thread. The default answers nothing.
+    // The hook for a program's own commands: receives a message without the channel's command words
+    // and returns the answer. Main thread. The default returns an empty answer.
     virtual QString handleMessage(const QString& text);
 
     // Runs on the channel's server thread and returns when the main thread has handled the text.

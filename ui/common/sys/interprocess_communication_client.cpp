@@ -17,9 +17,8 @@ constexpr Keelbase::LogSource logSource{"IPC", "ui/common/sys/interprocess_commu
 int CInterprocessCommunicationWin::connectToServer()
 {
     prepare();
-    // The bare name is not a pipe's path, so this fails at once and costs no waiting; the open
-    // below then settles whether there is a server. Should the call ever succeed, the name is
-    // somebody else's, and nothing is opened.
+    // A deliberate oddity: the bare name is not a pipe's path, so this call fails at once and the
+    // open below decides whether there is a server. If the call succeeds, nothing is opened.
     if (WaitNamedPipeW(getPipeName().c_str(), connectWait))
         return static_cast<int>(GetLastError());
 
@@ -27,8 +26,8 @@ int CInterprocessCommunicationWin::connectToServer()
     DWORD computerSize = 16;
     if (!GetComputerNameW(computer, &computerSize))
         win32::logFailure(logSource, __LINE__, "GetComputerNameW", GetLastError());
-    // Through the computer's name the system's file sharing opens the pipe, which gives a handle
-    // in message-read mode, as TransactNamedPipe needs it.
+    // By the computer's name the pipe is opened through the system's file sharing, which gives a
+    // handle in message-read mode, as TransactNamedPipe requires.
     const std::wstring path = std::wstring(L"\\\\") + computer + L"\\pipe\\" + getPipeName();
     const HANDLE opened =
         CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,

@@ -25,7 +25,7 @@ void logGivenUp(const char* reason) noexcept
 
 int CInterprocessCommunicationWin::createServer()
 {
-    // Settled first: what follows would take the pipe, and a requested stop, away from the thread
+    // Checked first: the lines below would take the pipe, and a requested stop, from the thread
     // that is serving.
     if (serverThread.isRunning())
         return ERROR_BUSY;
@@ -34,7 +34,7 @@ int CInterprocessCommunicationWin::createServer()
     if (opened != 0)
         return opened;
     const int started = serverThread.start();
-    // Clients of a pipe that nobody serves would wait for as long as this process lives.
+    // Clients of a pipe that nobody serves would wait until this process ends.
     if (started != 0)
         pipe.reset();
     return started;
@@ -42,9 +42,9 @@ int CInterprocessCommunicationWin::createServer()
 
 int CInterprocessCommunicationWin::openPipe()
 {
-    // A null access list lets any account open the pipe: a copy that runs elevated and one that
-    // does not must reach each other. What arrives is therefore never trusted with anything that
-    // the sender could not do itself; see docs/messages.md.
+    // A null access list lets any account open the pipe: an elevated copy and one that is not must
+    // reach each other. So a message may cause nothing that its sender could not do itself; see
+    // docs/messages.md.
     SECURITY_DESCRIPTOR descriptor = {};
     InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION);
     SetSecurityDescriptorDacl(&descriptor, TRUE, nullptr, FALSE);
@@ -73,23 +73,22 @@ void CInterprocessCommunicationWin::run(int)
 {
     if (stopRequested())
         return;
-    std::string text; // of one message after the other, so that its memory is taken only once
+    std::string text; // reused for every message
     bool goOn = true;
     do {
         if (!ConnectNamedPipe(pipe.get(), &overlapped)) {
             const DWORD error = GetLastError();
             if (error != ERROR_IO_PENDING) {
-                // Also a client that was there before this call (ERROR_PIPE_CONNECTED), which only
-                // happens to a pipe that was opened a moment ago: serving ends for this run, and
-                // later copies find the pipe busy and end all the same. That first client must
-                // not wait for an answer for as long as this process lives, so it is let go.
+                // A deliberate oddity: a client that connected before this call, which is possible
+                // only right after the pipe was opened (ERROR_PIPE_CONNECTED), ends serving too.
+                // Later copies find the pipe busy and end. That client is disconnected, or it would
+                // wait for an answer until this process ends.
                 win32::logFailure(logSource, __LINE__, "ConnectNamedPipe", error);
                 DisconnectNamedPipe(pipe.get());
                 return;
             }
         }
-        // The receiver is not ours, and memory may run out: that costs this client its answer, and
-        // no more.
+        // An exception from the receiver, or lack of memory, costs only this client its answer.
         try {
             goOn = serveOneClient(text);
         } catch (const std::exception& failure) {
@@ -101,7 +100,7 @@ void CInterprocessCommunicationWin::run(int)
     } while (goOn && !stopRequested());
 }
 
-// False when the stop event ended it.
+// Returns false when the stop event ended the exchange.
 bool CInterprocessCommunicationWin::serveOneClient(std::string& text)
 {
     const Wake connected = waitForIo();
@@ -136,8 +135,8 @@ void CInterprocessCommunicationWin::deliver(std::uint32_t received, std::string&
         text.assign(request->text);
         receiver->onMessageFromOtherProcess(request->pid, text);
     }
-    // Who closes the channel may have dropped the delivery, and the answer would be an older
-    // message's; nor may closing have to wait until a client reads.
+    // A closing channel may have dropped the message, and the stored answer would belong to an
+    // older one. Nor must closing wait for a client to read.
     if (stopRequested())
         return;
     // A request that was too short to be delivered gets what the receiver answered last.

@@ -26,8 +26,6 @@ CInterprocessCommunicationWin::CInterprocessCommunicationWin()
       ioEvent(CreateEventW(nullptr, TRUE, FALSE, nullptr))
 {}
 
-// The members declared after the pipe go in reverse order: answer and names, the thread owner, the
-// I/O event, the stop event, and the lock last.
 CInterprocessCommunicationWin::~CInterprocessCommunicationWin()
 {
     close();
@@ -43,8 +41,8 @@ void CInterprocessCommunicationWin::claimMutex()
     mutex.reset(CreateMutexW(nullptr, FALSE, name.c_str()));
     const DWORD error = GetLastError();
     if (error == ERROR_ALREADY_EXISTS || error == ERROR_ACCESS_DENIED) {
-        // The first handle is left open until this process ends, so the name stays taken even if
-        // the first copy ends while this one is handing over or about to take its place.
+        // The first handle is deliberately left open until this process ends: the name stays taken
+        // even if the first copy ends while this one hands over or is about to take its place.
         static_cast<void>(mutex.release());
         mutex.reset(OpenMutexW(MUTEX_ALL_ACCESS, TRUE, name.c_str()));
         if (!mutex)
@@ -95,7 +93,7 @@ void CInterprocessCommunicationWin::requestStop()
     SetEvent(stopEvent.get());
 }
 
-// What serving and connecting begin with.
+// Common to serving and connecting.
 void CInterprocessCommunicationWin::prepare()
 {
     ResetEvent(stopEvent.get());

@@ -1,8 +1,8 @@
 #pragma once
 
 // The message channel between copies of the program on one machine: the single-instance mutex and
-// a named pipe that carries one text and its answer at a time. The channel gives the texts no
-// meaning; docs/messages.md describes the frames and the words in them.
+// a named pipe that carries one text and its answer at a time. The channel does not interpret the
+// texts; docs/messages.md describes the frames and the words in them.
 
 #include "ui/common/sys/thread.h"
 
@@ -12,19 +12,19 @@
 
 #include <windows.h>
 
-// Takes the texts that arrive at a serving channel.
+// Receives the texts that arrive at a serving channel.
 class IMessageFromOtherProcess
 {
 public:
     virtual ~IMessageFromOtherProcess() = default;
 
     // Called on the channel's server thread, one message at a time. When it returns, the channel
-    // reads `answerText` and sends it back, unless it is empty or the channel is being closed. When
-    // it throws, the sender gets no answer, and the next client is served.
+    // sends `answerText` back, unless it is empty or the channel is being closed. When it throws,
+    // the sender gets no answer, and the next client is served.
     virtual void onMessageFromOtherProcess(unsigned long pid, const std::string& text) = 0;
 
-    // Read by the server thread right after each call, and also after a request that was too short
-    // to be delivered: what stays here is sent to the next such client.
+    // Read by the server thread right after each call. A request too short to be delivered gets it
+    // too, so what is left here goes to the next such client.
     std::string answerText;
 };
 
@@ -38,14 +38,14 @@ class CInterprocessCommunicationWin : private win32::CThreadFunction
 public:
     // Idle; touches neither the mutex nor the pipe.
     CInterprocessCommunicationWin();
-    // Closes, as close() does, then gives the mutex up.
+    // Calls close(), then releases the mutex.
     ~CInterprocessCommunicationWin() override;
     CInterprocessCommunicationWin(const CInterprocessCommunicationWin&) = delete;
     CInterprocessCommunicationWin& operator=(const CInterprocessCommunicationWin&) = delete;
 
     // Creates the single-instance mutex, or opens it and clears `firstInstance` when another copy
-    // holds it. Called once, by the owner, before anything else. The mutex is never waited on: that
-    // it exists is the whole message.
+    // holds it. Called once, by the owner, before anything else. Nobody waits on the mutex: its
+    // existence alone marks a running copy.
     void claimMutex();
 
     // Global\LUMACRAFT_UNINSTALL.
@@ -74,15 +74,16 @@ public:
     // True while this end holds a pipe, as server or client.
     bool isPipeOpen() const { return static_cast<bool>(pipe); }
 
-    // Ends the server thread and closes the pipe. Waits without limit for a delivery in progress;
-    // the caller must not be the one whom that delivery waits for. Safe on a client, and twice.
+    // Ends the server thread and closes the pipe. Waits without limit for a delivery in progress,
+    // so it must not be called on the thread that handles the message. May be called on a client,
+    // and more than once.
     void close();
 
     // The first step of close(), for any thread: the server thread ends without writing another
     // answer, and a sendMessage that pauses before its next attempt returns at once.
     void requestStop();
 
-    // True until claimMutex() finds another copy. The owner sets it when it takes over.
+    // True until claimMutex() finds another copy. The owner sets it again when it takes over.
     bool firstInstance = true;
 
 private:
@@ -112,7 +113,7 @@ private:
     win32::CBaseThread<100> serverThread;
 
 public:
-    // Not owned. Set before createServer and unchanged until close.
+    // Not owned. Set before createServer() and not changed until close().
     IMessageFromOtherProcess* receiver = nullptr;
 
 private:

@@ -24,7 +24,7 @@ bool contains(std::u16string_view text, std::string_view word)
     return text.find(wide(word)) != std::u16string_view::npos;
 }
 
-// One pass from left to right: text that only grows together by a removal stays.
+// One pass from left to right: a word that only a removal forms stays.
 void removeAll(std::u16string& text, std::string_view word)
 {
     const std::u16string wanted = wide(word);

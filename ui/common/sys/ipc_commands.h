@@ -1,7 +1,7 @@
 #pragma once
 
-// The words in the messages between copies, and what the receiving copy is to do about them.
-// Pure functions; any thread. All words are matched case-sensitively, anywhere in the text.
+// The words in the messages between copies, and what they ask of the receiving copy. Pure
+// functions; any thread. All words are matched case-sensitively, anywhere in the text.
 
 #include <cstdint>
 #include <string>
@@ -18,7 +18,7 @@ enum class WindowAction {
 
 enum class AnswerSource {
     none,
-    hook,         // what the program's own message handling makes of the rest
+    hook,         // what the program's own handler returns for the rest
     windowHandle, // handleText() of the window
 };
 
@@ -44,8 +44,8 @@ std::string showMessage();
 // The arguments with one space between neighbours.
 std::string joinArguments(const std::vector<std::string>& arguments);
 
-// A native window handle as the receivers print it ("%d"): its low 32 bits as a signed decimal
-// number. Window handles have no more significant bits.
+// The low 32 bits of a native window handle as a signed decimal number ("%d"). Window handles have
+// no more significant bits.
 std::string handleText(std::uint64_t handle);
 
 } // namespace sys

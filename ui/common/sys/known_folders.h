@@ -12,8 +12,8 @@ enum class KnownFolder {
 // The path of one of the user's known folders, without a separator at its end. Returns 0, or
 // E_FAIL (0x80004005) or the shell's own failure result with `path` empty.
 //
-// Both system libraries are loaded by name at each call. The log's own folder depends on this
-// lookup, so a failure goes to the console streams and not to the log. Any thread.
+// The system's libraries are loaded by name at each call. Failures are written to the standard
+// error stream, not to the log. Any thread.
 int knownFolderPath(KnownFolder folder, std::wstring& path);
 
 } // namespace sys

@@ -14,8 +14,7 @@ namespace sys {
 
 namespace {
 
-// shlobj.h only declares the identifiers, and the import library that defines them is not
-// wanted here.
+// FOLDERID_RoamingAppData and FOLDERID_LocalAppData, which shlobj.h only declares.
 constexpr GUID roamingAppDataId = {
     0x3EB685DB, 0x65F9, 0x4CF6, {0xA0, 0x3A, 0xE3, 0xEF, 0x65, 0x72, 0x9F, 0x3D}};
 constexpr GUID localAppDataId = {
@@ -27,7 +26,7 @@ void tell(const char* what)
     std::cerr << what << " | err = " << error << std::flush;
 }
 
-// One function of a library, which stays loaded as long as this object lives.
+// A function of a library that stays loaded as long as this object lives.
 template <typename Function>
 class LoadedFunction
 {
@@ -46,7 +45,7 @@ public:
             tell("GetProcAddress return null");
             return;
         }
-        // Through void*, for a cast from one function type to another draws a warning.
+        // Through void*: compilers warn about a direct cast between function types.
         function = reinterpret_cast<Function>(reinterpret_cast<void*>(found));
     }
 
@@ -63,7 +62,7 @@ private:
     Function function = nullptr;
 };
 
-// A path that cannot be freed is left to the end of the process: it is a few bytes.
+// If the path cannot be freed, its few bytes stay allocated until the process ends.
 void freePath(wchar_t* memory, const LibraryLoading& loading)
 {
     const LoadedFunction<decltype(&CoTaskMemFree)> free(loading, L"ole32.dll", "CoTaskMemFree");
@@ -95,7 +94,7 @@ int knownFolderPath(KnownFolder folder, std::wstring& path, const LibraryLoading
     }
     if (SUCCEEDED(result) && found != nullptr)
         path = found;
-    // The shell may leave memory behind even when it fails.
+    // To be freed even when the call fails.
     if (found != nullptr)
         freePath(found, loading);
     return result;

@@ -7,8 +7,8 @@ namespace sys {
 
 std::wstring modulePath(ModuleFileName ask)
 {
-    // The system cuts a path that does not fit instead of telling its length, and no path is
-    // longer than this.
+    // A path that does not fit is truncated, without its length being returned. No path is longer
+    // than this.
     constexpr std::size_t longestPath = 32768;
     for (std::size_t size = MAX_PATH; size <= 2 * longestPath; size *= 2) {
         std::wstring path(size, L'\0');

@@ -13,9 +13,8 @@ std::uint8_t byteOf(std::size_t number, unsigned shift)
     return static_cast<std::uint8_t>((number >> shift) & 0xff);
 }
 
-// Each byte counts as a signed number, so that an id with a byte of 0x80 or more below the highest
-// one comes out altered. The suite's receivers have always reported ids this way, and their logs
-// are compared by them.
+// A deliberate oddity: each byte counts as a signed number, so an id with a byte of 0x80 or more
+// below the highest one comes out altered.
 std::uint32_t signedByte(std::uint8_t byte)
 {
     return static_cast<std::uint32_t>(static_cast<std::int32_t>(static_cast<std::int8_t>(byte)));

@@ -15,7 +15,7 @@ constexpr std::size_t frameHeaderSize = 9;
 constexpr std::size_t largestFrame = 65535;
 constexpr std::size_t largestFrameText = largestFrame - frameHeaderSize;
 
-// A text that arrived, still in the buffer that it was read into.
+// A received text; the view points into the frame's buffer.
 struct FrameView
 {
     std::uint32_t pid;
@@ -28,7 +28,7 @@ struct FrameView
 std::size_t writeFrame(std::uint8_t* buffer, std::uint32_t pid, std::string_view text);
 
 // Reads a request of `size` bytes; nothing when it is shorter than a header. Type, reserved bytes
-// and the length field are not looked at: the text is all that follows the header.
+// and the length field are ignored: the text is all that follows the header.
 std::optional<FrameView> readRequest(const std::uint8_t* frame, std::size_t size);
 
 // Reads an answer of `size` bytes; nothing when it holds no text.

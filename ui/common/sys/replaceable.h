@@ -1,6 +1,6 @@
 #pragma once
 
-// The system behind this library, made replaceable for tests. Programs use file_io.h,
+// The system calls behind this library, replaceable for tests. Programs use file_io.h,
 // known_folders.h and module_path.h.
 
 #include "ui/common/sys/known_folders.h"
@@ -22,10 +22,10 @@ struct FileFunctions
     bool (*exists)(const std::wstring& path);
 };
 
-// The platform's own.
+// The platform's services.
 FileFunctions systemFiles();
 
-// Replaces the services for the whole process, while no other thread uses them.
+// Replaces the services for the whole process. Not while another thread uses them.
 void setFileFunctions(const FileFunctions& replacement);
 
 #ifdef _WIN32
@@ -35,7 +35,7 @@ using OpenFile = int (*)(std::FILE** stream, const wchar_t* path, const wchar_t*
 
 int readWholeFile(const std::wstring& path, std::string& content, OpenFile open);
 
-// How the known-folder lookup gets at the system libraries.
+// How the known-folder lookup loads the system's libraries.
 struct LibraryLoading
 {
     HMODULE(WINAPI* load)(const wchar_t* name) = &LoadLibraryW;

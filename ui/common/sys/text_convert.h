@@ -11,13 +11,13 @@ namespace sys {
 // UTF-8 to UTF-16. One invalid sequence makes the whole result empty.
 std::wstring fromUtf8(std::string_view text);
 
-// From a Windows code page; what it does not know becomes the system's default character.
+// From a Windows code page; invalid bytes become the system's default character.
 std::wstring fromCodePage(std::string_view text, unsigned codePage);
 
 // UTF-16 to UTF-8; an unpaired surrogate becomes U+FFFD.
 std::string toUtf8(std::wstring_view text);
 
-// UTF-16 to the platform's own narrow encoding, the one of path names.
+// UTF-16 to the platform's narrow encoding, that of path names.
 std::string toNarrow(std::wstring_view text);
 
 } // namespace sys

@@ -38,6 +38,7 @@ public:
     }
 
 private:
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): iconv_open fails with this value
     bool isOpen() const { return descriptor != reinterpret_cast<iconv_t>(-1); }
 
     iconv_t descriptor;

@@ -41,7 +41,7 @@ std::string fromWide(std::wstring_view text, unsigned codePage)
     const int narrowSize =
         WideCharToMultiByte(codePage, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
     if (narrowSize <= 0)
-        return {};
+        return {}; // not logged, since the log's own texts are converted here
     std::string narrow(static_cast<std::size_t>(narrowSize), '\0');
     WideCharToMultiByte(codePage, 0, text.data(), size, narrow.data(), narrowSize, nullptr,
                         nullptr);

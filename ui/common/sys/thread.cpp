@@ -71,8 +71,8 @@ void CBaseThread<argument>::waitUntilFinished() const
         return;
     const HANDLE ends[] = {finishedEvent.get(), thread.get()};
     WaitForMultipleObjects(2, ends, FALSE, INFINITE);
-    // The body has returned; the thread itself ends in a moment. Until then the system may still
-    // write the outcome of what the thread left pending into its owner's memory.
+    // The body has returned, and the thread is about to end. Until then the system may still write
+    // results of the thread's pending operations into its owner's memory.
     WaitForSingleObject(thread.get(), INFINITE);
 }
 

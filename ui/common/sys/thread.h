@@ -1,6 +1,6 @@
 #pragma once
 
-// Threads and locks on the Win32 primitives, without C++ exceptions crossing a thread's start.
+// Threads and locks on the Win32 primitives.
 
 #include "support/win32/unique_handle.h"
 
@@ -14,15 +14,15 @@ class CThreadFunction
 public:
     virtual ~CThreadFunction() = default;
 
-    // Runs on the new thread; `argument` is the number of its owner's type.
+    // Runs on the new thread and must not throw; `argument` is that of its CBaseThread.
     virtual void run(int argument) = 0;
 };
 
-// Owns one thread and the two events that tell its state. Not copyable. All members belong to the
-// thread that created the object, except what the started thread itself signals.
+// Owns one thread and the two events that report its state. All operations belong to the thread
+// that created the object.
 //
-// Nothing here ends the thread: the object that owns this one asks its body to return and calls
-// waitUntilFinished() before destruction. A thread may be started again once it has ended.
+// Nothing here ends the thread: before destruction the owner makes its body return and calls
+// waitUntilFinished(). A thread may be started again once it has ended.
 template <int argument>
 class CBaseThread
 {
@@ -44,8 +44,8 @@ public:
     int start();
 
     // Waits, without limit, for the end of the thread's body and then of the thread; returns at
-    // once when no thread was ever started. Afterwards start() is not busy any more, and nothing
-    // that the thread had asked of the system writes into memory.
+    // once when no thread was ever started. Afterwards start() is possible again, and the system
+    // no longer writes results of the thread's operations into memory.
     void waitUntilFinished() const;
 
 private:
@@ -59,7 +59,7 @@ private:
 
 extern template class CBaseThread<100>;
 
-// A critical section that lives as long as the object. Usable with std::lock_guard.
+// A critical section for std::lock_guard.
 class CriticalSection
 {
 public:

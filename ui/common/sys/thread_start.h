@@ -1,6 +1,6 @@
 #pragma once
 
-// The call that begins a thread, replaceable. Programs use thread.h.
+// The call that begins a thread, replaceable for tests. Programs use thread.h.
 
 #include <process.h>
 
@@ -8,8 +8,8 @@ namespace win32 {
 
 using BeginThread = decltype(&_beginthreadex);
 
-// What CBaseThread::start() calls from now on; null brings the runtime library's own call back.
-// While no thread of this kind is being started.
+// Sets what CBaseThread::start() calls; null brings the runtime library's function back. Not while
+// a thread is being started.
 void setBeginThread(BeginThread begin);
 
 } // namespace win32

@@ -16,7 +16,6 @@ struct Application
     const char* shortCode;
 };
 
-// The suite stands first: its id string is the first one compared.
 constexpr Application applications[] = {
     {0, "Tessera", "Tessera Kit", nullptr, "tsr"},
     {2, "ClipTrimmer", "Clip Trimmer", nullptr, "cltrm"},
@@ -50,8 +49,8 @@ constexpr Application applications[] = {
     {lastAppId, "LightTable", "Light Table", nullptr, "lttbl"},
 };
 
-// A deliberate oddity, kept for compatibility: found by its id string, but answered with its spaced
-// name as id string and without a display name.
+// A deliberate oddity: this row is found by its id string, but idToString() gives its spaced name
+// and displayName() nothing.
 constexpr int photoStoryId = 53;
 
 const Application* findApplication(int id)
@@ -93,7 +92,7 @@ std::string shortCode(int id)
 {
     if (const Application* const application = findApplication(id))
         return application->shortCode;
-    // Codes that statistics still know although the catalogue does not list the ids.
+    // Codes of ids that are not in the catalogue.
     switch (id) {
     case unknownId:
         return "po";

@@ -1,6 +1,6 @@
 #pragma once
 
-// The suite's applications. Names and codes live here only. Pure lookups; any thread.
+// The suite's applications: ids, names and codes. Pure lookups; any thread.
 
 #include <string>
 #include <string_view>
@@ -10,7 +10,7 @@ namespace uninstall {
 constexpr int suiteId = 0;
 constexpr int unknownId = -1;
 
-// Numeric ids are sparse in this range, and they also travel in statistics: gaps stay unused.
+// Numeric ids are sparse in this range.
 constexpr int firstAppId = 1;
 constexpr int lastAppId = 68;
 
@@ -25,11 +25,11 @@ constexpr bool hasExitSurvey(int id)
 // The numeric id of an id string, compared byte by byte; unknownId when there is none.
 int idFromString(std::string_view text);
 
-// The id string of a row, empty for any other id. Row 53 answers with its spaced name.
+// The id string of a row, empty for any other id. Row 53 deliberately gives its spaced name.
 std::string idToString(int id);
 
 // The name shown to the user (UTF-8), empty for ids without one (row 53 among them). `variant`
-// chooses the wording of the two applications with a survey: false for the list and for
+// selects the second name of the two applications with a survey: false for the list and for
 // pre-selection, true elsewhere.
 std::string displayName(int id, bool variant);
 

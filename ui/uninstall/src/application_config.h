@@ -1,16 +1,15 @@
 #pragma once
 
-// Where the suite's applications keep their settings. Any thread; neither files nor folders need
-// exist.
+// Where the suite's applications keep their settings. Files and folders need not exist. Any thread.
 
 #include <string>
 
 namespace uninstall {
 
-// The index that stands for no application.
+// Stands for no application.
 constexpr unsigned noAppIndex = 0xFFFFFFFF;
 
-// The settings folder of the application with this numeric id in the catalogue, or the suite's.
+// The settings folder of the application with this catalogue id; the suite's own for noAppIndex.
 std::wstring settingsFolder(unsigned appIndex);
 
 // The application's settings file, <id string>.cfg in its settings folder.

@@ -6,9 +6,9 @@
 
 namespace uninstall {
 
-// One row of the application list. Its check box refuses every change while `run` keeps the choice
-// to itself, whether it comes from mouse, key, assistive technology or code. `run` must outlive
-// every change; the destructor does not use it.
+// One row of the application list. Its check box refuses every change while the choice is not open,
+// whether it comes from mouse, key, assistive technology or code. `run` must outlive every change;
+// the destructor does not use it.
 class ApplicationItem : public QListWidgetItem
 {
 public:

@@ -7,7 +7,7 @@ namespace uninstall {
 std::vector<std::string> copyArguments(char** argv)
 {
     std::vector<std::string> arguments;
-    // The array may be empty when a program is started by hand-made means.
+    // The array may be empty.
     if (argv[0] == nullptr)
         return arguments;
     for (char** argument = argv + 1; *argument != nullptr; ++argument)

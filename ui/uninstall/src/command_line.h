@@ -5,11 +5,12 @@
 
 namespace uninstall {
 
-// The arguments after the program's name, byte by byte, up to the terminating null pointer.
+// The arguments after the program's name, unchanged. `argv` ends with a null pointer. Any thread,
+// as below.
 std::vector<std::string> copyArguments(char** argv);
 
-// The id string after the last "/app" (exactly so written); empty without one, or when "/app" is
-// the last argument.
+// The id string after the last "/app" (case-sensitive); empty without one, or when "/app" is the
+// last argument.
 std::string appArgument(const std::vector<std::string>& arguments);
 
 } // namespace uninstall

@@ -10,13 +10,12 @@ std::vector<DialogAction> dialogActions(int code, const std::string& name)
     case dialog_event::surveyLicense:
     case dialog_event::surveyQuality:
     case dialog_event::surveyFeatures:
-        // The second click says that the offer after the answer has been dealt with; evaluation
-        // pairs the two.
+        // A deliberate oddity: the click is reported again after the offer.
         return {DialogAction::sendClick, DialogAction::showOffer, DialogAction::sendClick};
     case dialog_event::storeOpened:
         return {DialogAction::openStore, DialogAction::sendClick};
     case dialog_event::closed:
-        // A skipped survey has no close of its own, only the click after the offer.
+        // A deliberate oddity: a skipped survey reports no "close" but a click after the offer.
         if (name == surveySkipped)
             return {DialogAction::showOffer, DialogAction::sendClick};
         return {DialogAction::sendClose};

@@ -1,7 +1,6 @@
 #pragma once
 
-// What the main window does with the events that the exit survey and the store offer report.
-// Pure; any thread.
+// What the main window does about events of the exit survey and the store offer. Pure; any thread.
 
 #include <string>
 #include <vector>
@@ -18,19 +17,20 @@ constexpr int closed = 6;
 constexpr int shown = 10;
 } // namespace dialog_event
 
-// The name under which the survey reports that it was closed without an answer. The offer, which
-// uses the same code, reports its own event name.
+// The name that the survey reports with `closed`, when it is closed without an answer. The offer
+// reports its own event name with that code.
 constexpr const char* surveySkipped = "skip";
 
 enum class DialogAction {
-    sendShow, // a statistics event "show" with the dialog event's name; and so on
+    // A statistics event "show", "click" or "close" with the dialog event's name.
+    sendShow,
     sendClick,
     sendClose,
     showOffer, // runs the store offer until it is closed
     openStore, // opens the offered partner's page in the Microsoft Store
 };
 
-// The actions for one event, in order. Empty for codes that mean nothing to the main window.
+// The actions for one event, in order; none for other codes.
 std::vector<DialogAction> dialogActions(int code, const std::string& name);
 
 } // namespace uninstall

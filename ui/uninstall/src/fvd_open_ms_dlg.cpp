@@ -24,7 +24,7 @@ void setLetterSpacing(QWidget* widget, qreal percent)
     widget->setFont(font);
 }
 
-// A label takes the file it is given, so the sharper picture has to be chosen here.
+// QPixmap loads exactly the named file, so the sharper picture is chosen here.
 QPixmap bulletPicture(const char* name, const QWidget& widget)
 {
     const char* suffix = widget.devicePixelRatioF() > 1 ? "@2x.png" : ".png";
@@ -99,7 +99,7 @@ void FvdOpenMsDlg::setTexts(const uninstall::StorePartner& partner)
 
 void FvdOpenMsDlg::openStore()
 {
-    // Opening the store may take a moment in which assistive programs reach the button again.
+    // While the store is opening, assistive programs can press the button again.
     if (std::exchange(clicked, true))
         return;
     report(uninstall::dialog_event::storeOpened);

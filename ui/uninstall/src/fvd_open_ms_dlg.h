@@ -17,9 +17,9 @@ struct StorePartner;
 
 // The store offer: one of two partner applications in the Microsoft Store.
 //
-// Run with exec(); the outcome is told through the event callback alone, with the codes of
-// dialog_actions.h: shown from the constructor, then either storeOpened or closed. The dialog
-// does not open the store itself.
+// Run with exec(); only the event callback reports the outcome, with the codes of dialog_actions.h:
+// shown from the constructor, then either storeOpened or closed. The dialog does not open the
+// store itself.
 //
 // Threads: the GUI thread only.
 class FvdOpenMsDlg : public QDialog

@@ -15,7 +15,7 @@ struct ListRow
     bool checked;
 };
 
-// True when the suite's own row is checked: removing the suite removes everything.
+// True when the suite's own row is checked.
 bool suiteRowChecked(const std::vector<ListRow>& rows);
 
 struct ControlState
@@ -25,8 +25,8 @@ struct ControlState
 };
 ControlState controlState(const std::vector<ListRow>& rows);
 
-// The rows that "/app" with this id string checks beforehand. An application without a display
-// name matches no row, not even one without a text.
+// The rows that "/app" with this id string checks at start. An application without a display name
+// matches no row, not even one without text.
 std::vector<std::size_t> rowsOfApplication(const std::vector<ListRow>& rows,
                                            std::string_view idText);
 

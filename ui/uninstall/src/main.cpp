@@ -6,7 +6,7 @@
 
 namespace {
 
-// Before main: the window's constructor already writes log lines.
+// Before main, since the first message fixes the log's place.
 const struct SettingsName
 {
     SettingsName() { Keelbase::setSettingsName("Lumacraft"); }
@@ -17,12 +17,13 @@ const struct SettingsName
 int main(int argc, char* argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
-    // Rounded to whole factors, 125 % enlarges the texts alone and 150 % doubles the window.
+    // With rounded factors 125 % would enlarge only the texts, and 150 % would double the window.
     QApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
 #if QT_CONFIG(sessionmanager)
-    // Qt would close the window at sign-out, and a run, which keeps it open, would stop that.
+    // At sign-out Qt would close the window, and a run, which refuses that, would stop the
+    // sign-out.
     QApplication::setFallbackSessionManagementEnabled(false);
 #endif
     const std::vector<std::string> arguments = uninstall::copyArguments(argv);

@@ -4,8 +4,7 @@
 
 namespace uninstall {
 
-// The main window's messages have one category and one source name, whichever of its files writes
-// them; support staff search for both.
+// The main window's messages have one category and source name, whichever of its files writes them.
 constexpr Keelbase::LogSource mainForm{"MainForm", "ui/uninstall/src/widget"};
 
 } // namespace uninstall

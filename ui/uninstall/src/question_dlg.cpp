@@ -64,7 +64,7 @@ void QuestionDlg::setUpFonts()
 
 void QuestionDlg::answer(std::int32_t code, const char* name)
 {
-    // The report leads to the offer, and assistive programs reach these buttons behind it.
+    // The report opens the offer, and assistive programs can press these buttons behind it.
     if (std::exchange(answered, true))
         return;
     report(code, name);

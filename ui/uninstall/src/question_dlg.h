@@ -13,10 +13,9 @@ class QuestionDlg;
 
 // The exit survey: why is the application being uninstalled? One question, three answers.
 //
-// Run with exec(); the outcome is told through the event callback alone, with the codes of
-// dialog_actions.h: shown from the constructor, then an answer or a skip. Escape leaves the survey
-// without a report. An answer is reported before the dialog closes, so that whatever the callback
-// opens covers it.
+// Run with exec(); only the event callback reports the outcome, with the codes of dialog_actions.h:
+// shown from the constructor, then an answer or a skip. Escape leaves the survey without a
+// report. An answer is reported before the dialog closes, so what the callback opens covers it.
 //
 // Threads: the GUI thread only.
 class QuestionDlg : public QDialog

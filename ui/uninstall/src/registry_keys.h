@@ -10,7 +10,7 @@ namespace uninstall {
 // The root itself; value UninstallMode (1 during a full run).
 QString suiteKey();
 
-// Value name = display name, data = uninstall command. Its name depends on the runtime brand.
+// Value name = display name, data = uninstall command. The key's name depends on the runtime brand.
 QString uninstallListKey();
 
 // Value name = id string, data = install path.

@@ -1,6 +1,7 @@
 #pragma once
 
-// Names below the suite's registry root, and what its values tell. Pure functions; any thread.
+// Names below the suite's registry root, and names taken from its values. Pure functions; any
+// thread.
 
 #include <string>
 #include <string_view>

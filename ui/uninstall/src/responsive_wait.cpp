@@ -13,7 +13,7 @@ namespace uninstall {
 
 namespace {
 
-// Shows over all windows that clicks are in vain for the moment.
+// Shows the wait cursor over all windows, since clicks have no effect.
 class WaitCursor
 {
 public:
@@ -23,7 +23,6 @@ public:
     WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
-// Runs a prepared loop until it is told to quit.
 void runWithoutInput(QEventLoop& loop)
 {
     const WaitCursor cursor;

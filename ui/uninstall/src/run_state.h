@@ -2,16 +2,16 @@
 
 namespace uninstall {
 
-// How far the window is with its uninstall run, and with it who may change the user's choice: the
-// rows' check boxes, "Delete settings and history" and the buttons. A run begins once and there is
-// no way back to idle, because the program ends with its run.
+// The progress of the uninstall run, and so who may change the user's choice: the rows' check
+// boxes, "Delete settings and history" and the buttons. A run begins once and never returns to
+// idle, because the program ends with its run.
 //
 // No Qt, one thread: the window's.
 class RunState
 {
 public:
-    // Begins the run. False, without effect, when it has begun before: buttons are also pressed by
-    // assistive programs and timers, which reach the window inside the run's own waits.
+    // Begins the run. Returns false, without effect, when it has begun before: assistive programs
+    // and timers can press buttons during the run's own waits.
     bool begin();
     bool begun() const { return phase != Phase::idle; }
 
@@ -19,8 +19,7 @@ public:
     void cancel();
     bool cancelled() const { return phase == Phase::cancelled; }
 
-    // Whether the choice may be changed at this moment: by anybody while idle, by the run alone
-    // afterwards.
+    // True while the choice may be changed: by anybody before the run, then only by the run itself.
     bool choiceIsOpen() const { return phase == Phase::idle || ownChanges > 0; }
 
     // Marks the changes made while it lives as the run's own. No event loop may run meanwhile.

@@ -32,7 +32,7 @@ const StorePartner& partnerFor(int uninstalledId, bool exitMode)
 
 std::string offerEventName(int partnerId, bool exitMode)
 {
-    // A deliberate oddity: the video partner's events carry no partner's code.
+    // A deliberate oddity: the video partner's events carry no code.
     std::string name = "offer_install_ms_store";
     if (partnerId < videoPartner.id)
         name += "_unknown";

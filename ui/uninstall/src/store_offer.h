@@ -1,7 +1,7 @@
 #pragma once
 
-// The store offer's data and decisions: which partner application is offered after an exit
-// survey, and the names that the offer has elsewhere. Any thread.
+// The store offer: which partner application is offered after an exit survey, and its names in
+// settings, statistics and the Microsoft Store. Any thread.
 
 #include <string>
 
@@ -19,15 +19,15 @@ struct StorePartner
 };
 
 // The configuration key that switches the music offer on for the application being uninstalled.
-// `exitMode` names the key for offers made when the application is closed. Empty for
-// applications that have no such key.
+// `exitMode` selects the key for offers made when the application is closed. Empty for applications
+// without such a key.
 std::string musicOfferFlag(int uninstalledId, bool exitMode);
 
 // The partner offered when `uninstalledId` is uninstalled. `musicOfferEnabled` is the value of
-// musicOfferFlag(); it counts only for applications that have the flag.
+// musicOfferFlag(); it counts only for applications that have such a key.
 const StorePartner& choosePartner(int uninstalledId, bool musicOfferEnabled);
 
-// The same by the value of the flag in common.cfg at this moment.
+// The same, with the present value of the key in common.cfg.
 const StorePartner& partnerFor(int uninstalledId, bool exitMode);
 
 // The offer's name in statistics events.

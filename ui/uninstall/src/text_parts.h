@@ -1,6 +1,6 @@
 #pragma once
 
-// Parts of a text, found by marks in it. Pure functions; any thread.
+// Parts of a text, found by a mark in it. Pure functions; any thread.
 
 #include <cstddef>
 #include <string_view>

@@ -11,7 +11,7 @@
 namespace uninstall {
 
 // The text after the last "logs\" and before the first "_uninstall" that follows. A mark that is
-// missing cuts nothing.
+// absent cuts nothing.
 std::string idStringFromCommand(std::string_view command);
 
 // The command split at " /log", empty parts kept: at least one part.
@@ -24,7 +24,7 @@ struct RunOptions
     bool deleteSettings; // "Delete settings and history" is checked
 };
 
-// The first part as it stands; empty when there is nothing to run.
+// The first part, unchanged; empty when there is nothing to run.
 std::string programOf(const std::vector<std::string>& parts);
 
 // The switches for the application's uninstaller, in their order.

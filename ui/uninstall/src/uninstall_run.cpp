@@ -18,7 +18,7 @@ bool everyRowChecked(std::size_t rowCount, const IUninstallSteps& steps)
     return true;
 }
 
-// After a cancel nothing more is checked for running.
+// After a cancel no further application is probed.
 void closeIfRunning(int id, IUninstallSteps& steps)
 {
     if (steps.cancelled())
@@ -48,8 +48,8 @@ void runUninstall(std::size_t rowCount, IUninstallSteps& steps)
         steps.setCurrentAppId(id);
 
         if (id == suiteId) {
-            // The suite goes last, after this loop. Its applications share its files, so every
-            // one of them must be closed; ids without an application are probed all the same.
+            // The suite goes last, after this loop, and every application must be closed for it.
+            // Ids without an application are probed too.
             suiteRow = row;
             suiteCommandParts = splitCommand(command);
             for (int appId = firstAppId; appId <= lastAppId; ++appId)

@@ -6,8 +6,8 @@
 
 namespace uninstall {
 
-// What the run needs from the window. Rows are the list's rows at the start of the run, by their
-// position then; they keep these numbers when rows before them leave the list.
+// What the run needs from the window. Rows are numbered by their position at the start of the run,
+// and keep their numbers when rows before them leave the list. The caller's thread only.
 class IUninstallSteps
 {
 public:
@@ -30,7 +30,7 @@ public:
 };
 
 // Uninstalls the checked rows in their order, and the suite last when every row was checked.
-// Runs on the caller's thread until the last uninstaller has been dealt with.
+// Returns when the last step is done.
 void runUninstall(std::size_t rowCount, IUninstallSteps& steps);
 
 } // namespace uninstall

@@ -26,7 +26,7 @@ Widget::Widget(std::vector<std::string> arguments, QWidget* parent)
 
     ui->setupUi(this);
 #if QT_CONFIG(dockwidget)
-    // Animation comes with docking; a Qt built without it never animates.
+    // Only docking animates; a Qt built without it has no such function.
     setAnimated(false);
 #endif
     setWindowFlags(Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
@@ -84,7 +84,7 @@ void Widget::connectControls()
     connect(ui->btnUninstall, &QPushButton::clicked, this, &Widget::uninstallButtonClicked);
     connect(ui->listWidget, &QListWidget::itemClicked, this, &Widget::toggleItem);
     connect(this, &Widget::firstShow, this, &Widget::on_firstShow);
-    // Rows are also toggled without a click: by the space bar, for one.
+    // Rows are also toggled without a click, by the space bar for example.
     connect(ui->listWidget, &QListWidget::itemChanged, this, &Widget::followRowsSoon);
     connect(ui->cbDeleteSettings, &QCheckBox::toggled, this, &Widget::keepDeleteSettings);
 }
@@ -98,14 +98,14 @@ void Widget::showEvent(QShowEvent*)
 
 void Widget::closeEvent(QCloseEvent* event)
 {
-    // A run ends the program by itself; leaving in the middle would abandon the remaining rows.
+    // A run ends the program itself; closing in the middle would abandon the remaining rows.
     event->setAccepted(!run.begun());
 }
 
 void Widget::followRowsSoon()
 {
     controlsLagBehind = true;
-    // A click is reported right after the change it makes, and would be followed twice otherwise.
+    // Queued, since a click is reported right after its change and updates the buttons itself.
     QMetaObject::invokeMethod(
         this,
         [this] {

@@ -23,19 +23,18 @@ class Widget;
 // of what to remove, and the uninstall run. Constructing it is the program's whole start-up: the
 // single-instance hand-over, logging, translation and filling of the list.
 //
-// From the start of the run on the window only shows: nothing but the run changes rows, buttons and
-// check box, and the slots for the user's gestures do nothing.
+// Once the run has begun, only the run changes rows, buttons and check box; the slots for the
+// user's actions do nothing.
 //
-// Threads: the GUI thread only. Failures of start-up never throw: a missing registry key leaves
-// the list empty, a missing catalogue leaves the texts English.
+// Threads: the GUI thread only. Start-up does not fail: without the registry key the list is empty,
+// without a catalogue the texts are English.
 class Widget : public CInterprocessCommunicationApp
 {
     Q_OBJECT
 
 public:
-    // `arguments` are the process's arguments after the program name. When another copy of the
-    // program has taken them over, isAnotherInstanceRunning() is true afterwards and the window
-    // must not be shown.
+    // `arguments` are the process's arguments after the program name. If they were handed to
+    // another copy, isAnotherInstanceRunning() is true afterwards and the window must not be shown.
     explicit Widget(std::vector<std::string> arguments, QWidget* parent = nullptr);
     ~Widget() override;
 
@@ -48,8 +47,8 @@ public slots:
     void uninstallButtonClicked();
 
     // Asks whether the running application may be closed, and ends it or cancels the run.
-    // `appName` is the application's id string; `isLMCApp` says that it belongs to the suite, so
-    // that its folder name is shown instead.
+    // `appName` is the application's id string. `isLMCApp` means that it belongs to the suite; then
+    // its folder name is shown instead.
     void showWarningAndKillApp(std::string appName, bool isLMCApp);
 
     void setSelectButtonMode(bool changeTextToSelectAll);
@@ -60,7 +59,7 @@ public slots:
 public:
     void changeItemsState(bool checked);
 
-    // Checks the rows of the application with this id string, as "/app" asks for.
+    // Checks the rows of the application with this id string, for "/app".
     void selectApplication(QString id);
 
     // Asks the user of application 60 or 61 why it is being removed. The first call in the
@@ -69,7 +68,7 @@ public:
 
     // Runs one uninstaller and waits for it for at most two seconds. `remaining` counts the rows
     // not uninstalled yet, this one included; `index` is not used; `commandParts` is the
-    // registered command, split at " /log"; `full` says that everything is being removed.
+    // registered command, split at " /log"; `full` means that everything is being removed.
     void DoUninsstall(int remaining, int index, const std::vector<std::string>& commandParts,
                       bool full);
 
@@ -80,8 +79,8 @@ protected:
 private:
     class UninstallSteps;
 
-    // Turns what the dialogs report into statistics events, the offer and the store page. The
-    // codes are those of the dialogs; others are ignored.
+    // Turns what the dialogs report into statistics events, the offer and the store page. Codes
+    // other than the dialogs' are ignored.
     void onDialogEvent(int code, const std::string& name);
     void showStoreOffer();
     void openStorePage();
@@ -100,5 +99,5 @@ private:
     fs::CConfig config;
     int currentAppId;
     uninstall::RunState run;
-    bool controlsLagBehind = false; // a row has been toggled and the buttons do not show it yet
+    bool controlsLagBehind = false; // a row has changed and the buttons do not show it yet
 };

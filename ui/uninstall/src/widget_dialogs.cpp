@@ -32,7 +32,7 @@ void sendAction(const char* action, const std::string& name)
 
 void Widget::openExitSurvey(int appId)
 {
-    // The identity and the event numbers belong to the first surveyed application, and stay.
+    // Identity and event numbers stay those of the first surveyed application.
     if (++surveysOpened == 1)
         startStatistics(appId);
 

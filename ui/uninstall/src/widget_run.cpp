@@ -23,7 +23,7 @@ namespace {
 
 constexpr Keelbase::LogSource runLog{"MainForm", "ui/uninstall/src/widget_run"};
 
-// The run goes on without a program that cannot be started.
+// The run goes on when a program cannot be started.
 void logUnlessStarted(const QProcess& process, const char* what)
 {
     if (process.error() == QProcess::FailedToStart) {
@@ -134,7 +134,7 @@ void Widget::showWarningAndKillApp(std::string appName, bool isLMCApp)
     const std::wstring taskkillPath = uninstall::systemProgram(L"taskkill.exe");
     if (taskkillPath.empty())
         return;
-    // Deliberately not waited for.
+    // Deliberately not waited for; ~Widget() lets it go on.
     auto* taskkill = new QProcess(this);
     taskkill->start(
         QString::fromStdWString(taskkillPath),

@@ -1,5 +1,4 @@
-// What the main window contributes to the statistics: the moment they start, and a wait for the
-// country that does not freeze the window.
+// The main window's start of the statistics, which does not freeze the window.
 
 #include "ui/uninstall/src/responsive_wait.h"
 #include "ui/uninstall/src/stat_startup.h"
@@ -7,7 +6,7 @@
 
 void Widget::startStatistics(int appId)
 {
-    // Only tells apart events of the suite itself, and the suite is never surveyed.
+    // Matters only for the suite itself, which has no survey.
     constexpr bool suiteFlag = false;
     uninstall::startStatistics(appId, suiteFlag, uninstall::runAside);
 }
