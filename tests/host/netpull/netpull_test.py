@@ -6,6 +6,7 @@ import ssl
 import subprocess
 import tempfile
 import unittest
+import warnings
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -231,8 +232,10 @@ CipherString = DEFAULT@SECLEVEL=0
             settings.write_text(self.PERMISSIVE)
             context = Authority(folder / "authority", "nobody's").server_context(["localhost"])
             context.set_ciphers("DEFAULT@SECLEVEL=0")
-            context.minimum_version = ssl.TLSVersion.TLSv1
-            context.maximum_version = newest
+            with warnings.catch_warnings():
+                warnings.simplefilter("ignore", DeprecationWarning)
+                context.minimum_version = ssl.TLSVersion.TLSv1
+                context.maximum_version = newest
             with HttpService(answer(200), tls=context) as service:
                 return fetch("GET", f"https://localhost:{service.port}/",
                              environment={"OPENSSL_CONF": str(settings)}).code

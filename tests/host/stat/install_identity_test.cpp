@@ -92,6 +92,18 @@ TEST_F(InstallParams, AreKnownAndEmptyWhenNothingIsStored)
     EXPECT_EQ(params.get("CAMPTYPE"), "") << "a present value is replaced";
 }
 
+TEST_F(InstallParams, ReplaceWhatTheSetHeldBefore)
+{
+    const std::vector<std::string> names{"ADVTYPE", "CAMPTYPE", "INSTTYPE",
+                                         "INSTCH",  "INSTREF",  "TC_BUILD_NUM"};
+    TemplateParams params;
+    for (const std::string& name : names)
+        params.set(name, "before", true);
+    fillInstallParams(params, fs::CConfig());
+    for (const std::string& name : names)
+        EXPECT_EQ(params.get(name), "") << name;
+}
+
 TEST_F(InstallParams, MarkTheAdvertisementTypeInDebugRuns)
 {
     setEnvironment("CV_DEBUG", "1");

@@ -72,7 +72,12 @@ class DialogDispatchTest : public QObject
     Q_OBJECT
 
 public slots:
-    void openedInStore(const QUrl& address) { opened.append(address.toString()); }
+    void openedInStore(const QUrl& address)
+    {
+        if (whenOpened)
+            whenOpened();
+        opened.append(address.toString());
+    }
 
 private slots:
     void initTestCase();
@@ -81,7 +86,8 @@ private slots:
 
     void eventsOfARun_data();
     void eventsOfARun();
-    void storeProductIsLogged();
+    void storeProductIsLoggedBeforeItsPageIsOpened();
+    void partnerIsChosenAgainAtTheStoreButton();
     void storeThatDoesNotOpenIsLoggedAsAnError();
     void everySurveyApplicationIsAskedInItsTurn();
     void surveyTakesTheLanguageOfTheSettings();
@@ -94,6 +100,7 @@ private:
 
     std::unique_ptr<SuiteRegistry> registry;
     QStringList opened;
+    std::function<void()> whenOpened;
     QList<int> numbers;
     int lastNumber = 0;
 };
@@ -109,6 +116,7 @@ void DialogDispatchTest::init()
 {
     registry = std::make_unique<SuiteRegistry>();
     opened.clear();
+    whenOpened = nullptr;
     takePosted();
 }
 
@@ -245,10 +253,12 @@ void DialogDispatchTest::eventsOfARun()
     QCOMPARE(opened, store.isEmpty() ? QStringList() : QStringList(store));
 }
 
-void DialogDispatchTest::storeProductIsLogged()
+void DialogDispatchTest::storeProductIsLoggedBeforeItsPageIsOpened()
 {
     addApplication("Clip Saver 2026", "ClipSaver");
     const CapturedLog log;
+    std::string lastBefore;
+    whenOpened = [&] { lastBefore = log.mainFormTexts().back(); };
     DialogDriver driver;
     driver.expect("QuestionDlg", clickButton("btnTwo"));
     driver.expect("FvdOpenMsDlg", clickButton("mainBtn"));
@@ -266,6 +276,24 @@ void DialogDispatchTest::storeProductIsLogged()
     }
     QCOMPARE(lines,
              QStringList{QStringLiteral("cross-sell store app -> ProductId=XP9EXAMPLE0064")});
+    QCOMPARE(QString::fromStdString(lastBefore), lines.first());
+}
+
+void DialogDispatchTest::partnerIsChosenAgainAtTheStoreButton()
+{
+    addApplication("Clip Saver 2026", "ClipSaver");
+    DialogDriver driver;
+    driver.expect("QuestionDlg", clickButton("btnTwo"));
+    driver.expect("FvdOpenMsDlg", [](QDialog& dialog) {
+        fs::commonConfig().setValue(clipSaverFlag, "1");
+        clickButton("mainBtn")(dialog);
+    });
+    QVERIFY(run());
+    QCOMPARE(driver.problem(), QString());
+    QCOMPARE(opened, QStringList{QStringLiteral("ms-windows-store://pdp/?ProductId=XP9EXAMPLE0065"
+                                                "&cid=lmc_uninstall")});
+    // Its name is the one it was shown with.
+    QVERIFY(eventsWithoutNumbers(5).contains("click offer_install_ms_store clsv"));
 }
 
 void DialogDispatchTest::storeThatDoesNotOpenIsLoggedAsAnError()

@@ -113,3 +113,6 @@ inline DialogDriver::Step closeByTitleBar()
 
 // By the message that Windows sends for Alt+F4 and for the title bar's button.
 DialogDriver::Step sendSystemClose();
+
+// Through the system's keyboard, to the window that has it.
+DialogDriver::Step pressAltF4();

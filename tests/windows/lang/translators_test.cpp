@@ -47,6 +47,9 @@ private slots:
     void laterCodeReplacesTheCatalogueInPlace();
     void sourceLanguageAfterAnotherRemovesTheTranslators();
     void everyPatternGetsATranslatorAndOneMissingIsFalse();
+    void laterPatternsComeFirst();
+    void missingCatalogueAfterAGoodOneIsEnglish();
+    void countryIsCutOffBehindAnUnderscore();
     void windowTakesItsLanguageFromTheSettings();
     void windowWithoutALanguageSettingIsEnglish();
 
@@ -147,6 +150,50 @@ void TranslatorsTest::everyPatternGetsATranslatorAndOneMissingIsFalse()
     QCOMPARE(translators->findChildren<QTranslator*>().size(), 2);
 }
 
+void TranslatorsTest::laterPatternsComeFirst()
+{
+    const QString chosen = QStringLiteral("uninstall_%1.qm");
+    const QString always = QStringLiteral("uninstall_fr.qm");
+    QVERIFY(make({chosen})->setLanguage(QStringLiteral("de")));
+    const QString german = selectAll();
+    owner = std::make_unique<QObject>();
+    QVERIFY(make({always})->setLanguage(QStringLiteral("de")));
+    const QString french = selectAll();
+    QVERIFY(french != german);
+
+    owner = std::make_unique<QObject>();
+    auto* translators = make({chosen, always});
+    QVERIFY(translators->setLanguage(QStringLiteral("de")));
+    QCOMPARE(selectAll(), french);
+    QVERIFY(translators->setLanguage(QStringLiteral("ja")));
+    QCOMPARE(selectAll(), french);
+    owner = std::make_unique<QObject>();
+    QVERIFY(make({always, chosen})->setLanguage(QStringLiteral("de")));
+    QCOMPARE(selectAll(), german);
+}
+
+void TranslatorsTest::missingCatalogueAfterAGoodOneIsEnglish()
+{
+    auto* translators = make();
+    QVERIFY(translators->setLanguage(QStringLiteral("de")));
+    const QString german = selectAll();
+    QVERIFY(!translators->setLanguage(QStringLiteral("xx")));
+    QCOMPARE(selectAll(), english);
+    QCOMPARE(translators->findChildren<QTranslator*>().size(), 1);
+    QVERIFY(translators->setLanguage(QStringLiteral("de")));
+    QCOMPARE(selectAll(), german);
+}
+
+void TranslatorsTest::countryIsCutOffBehindAnUnderscore()
+{
+    auto* translators = make();
+    QVERIFY(translators->setLanguage(QStringLiteral("de")));
+    const QString german = selectAll();
+    QVERIFY(translators->setLanguage(QStringLiteral("fr")));
+    QVERIFY(translators->setLanguage(QStringLiteral("de_AT")));
+    QCOMPARE(selectAll(), german);
+}
+
 void TranslatorsTest::windowTakesItsLanguageFromTheSettings()
 {
     writeLanguageSetting("de");
@@ -156,6 +203,11 @@ void TranslatorsTest::windowTakesItsLanguageFromTheSettings()
         QCOMPARE(under.select->text(), QCoreApplication::translate("Widget", "Select all"));
         QVERIFY(under.select->text() != english);
         QVERIFY(under.deleteSettings->text() != QStringLiteral("Delete settings and history"));
+        QCOMPARE(under.uninstall->text(), QStringLiteral("Deinstallieren"));
+        QCOMPARE(under.deleteSettings->toolTip(),
+                 QCoreApplication::translate(
+                     "Widget", "Delete program settings, custom presets and history"));
+        QVERIFY(!under.deleteSettings->toolTip().startsWith(QStringLiteral("Delete")));
         // The title is the same in every language.
         QCOMPARE(under.window.windowTitle(), QStringLiteral("Uninstall"));
     }

@@ -242,6 +242,29 @@ TEST(FileIo, WritesWhileOthersHoldTheFileOpen)
     EXPECT_EQ(readBytes(scratch / L"file"), "new");
 }
 
+TEST(FileIo, OthersOpenTheFileWhileItIsWritten)
+{
+    const ScratchFolder scratch;
+    const std::wstring file = scratch / L"file";
+    const std::string text(64U << 20U, 'x');
+    bool seenUnfinished = false;
+    for (int round = 0; round < 20 && !seenUnfinished; ++round) {
+        writeBytes(file, "");
+        std::future<int> result =
+            std::async(std::launch::async, [&] { return sys::writeWholeFile(file, text); });
+        while (!seenUnfinished && result.wait_for(0s) == std::future_status::timeout) {
+            const win32::FileHandle other =
+                openFile(file, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
+            ASSERT_TRUE(other) << GetLastError();
+            LARGE_INTEGER size = {};
+            ASSERT_TRUE(GetFileSizeEx(other.get(), &size));
+            seenUnfinished = size.QuadPart > 0 && size.QuadPart < LONGLONG(text.size());
+        }
+        ASSERT_EQ(result.get(), 0);
+    }
+    EXPECT_TRUE(seenUnfinished);
+}
+
 TEST(FileIo, WriteThatFailsHasItsOwnCode)
 {
     const ScratchFolder scratch;

@@ -19,6 +19,7 @@ private slots:
     void controlsHaveTheirSizesFontsAndStyleSheets();
     void layoutsHaveTheirMarginsSpacingAndOrder();
     void metaObjectListsSignalAndSlotsInOrder();
+    void firstShowIsConnectedToItsSlot();
     void constructorLogsEntryAndBrandInOrder();
     void destructorLogsItsEntry();
     void listHoldsEveryRegisteredNameUnchecked();
@@ -42,7 +43,9 @@ void WidgetFormTest::windowHasItsFixedSizeTitleFlagsAndIcon()
     QCOMPARE(under.window.maximumSize(), fixed);
     QCOMPARE(under.window.windowTitle(), QStringLiteral("Uninstall"));
     QVERIFY(!under.window.property("animated").toBool());
-    QVERIFY(!under.window.windowIcon().pixmap(48, 48).isNull());
+    const QImage icon = QIcon(QStringLiteral(":/uninstall_ico_48x48.png")).pixmap(48, 48).toImage();
+    QVERIFY(!icon.isNull());
+    QCOMPARE(under.window.windowIcon().pixmap(48, 48).toImage(), icon);
     // Qt adds the system menu to every window with a close button.
     const Qt::WindowFlags hints =
         under.window.windowFlags() & ~(Qt::WindowType_Mask | Qt::WindowSystemMenuHint);
@@ -134,6 +137,15 @@ void WidgetFormTest::metaObjectListsSignalAndSlotsInOrder()
                                QStringLiteral("on_firstShow()")};
     QCOMPARE(own, expected);
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Signal);
+}
+
+void WidgetFormTest::firstShowIsConnectedToItsSlot()
+{
+    const SuiteRegistry registry;
+    WindowUnderTest under;
+    // A connection can be taken away only when there is one.
+    QVERIFY(QObject::disconnect(&under.window, &Widget::firstShow, &under.window,
+                                &Widget::on_firstShow));
 }
 
 void WidgetFormTest::constructorLogsEntryAndBrandInOrder()

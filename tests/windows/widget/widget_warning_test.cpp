@@ -2,6 +2,7 @@
 // mutexes.
 
 #include "support/win32/unique_handle.h"
+#include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
@@ -22,10 +23,12 @@ private slots:
     void closingTheWarningCountsAsCancel();
     void twoRunningApplicationsAskInRowOrder();
     void suiteRowWarnsAboutApplicationsThatAreNotListed();
+    void warningIsAWarningOfTheWindowWithTwoButtons();
     void warningNamesTheInstallFolder();
     void warningWithoutAPathBeginsWithIsRunning();
     void warningOfAForeignApplicationShowsItsName();
     void taskkillIsTheSystemsAndNamesTheIdString();
+    void taskkillIsNotWaitedFor();
     void mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning();
 };
 
@@ -145,6 +148,27 @@ void WidgetWarningTest::suiteRowWarnsAboutApplicationsThatAreNotListed()
     QCOMPARE(awaitedStartsOf(QStringLiteral("Tessera")).size(), 1);
 }
 
+void WidgetWarningTest::warningIsAWarningOfTheWindowWithTwoButtons()
+{
+    WindowUnderTest under;
+    QWidget* parent = nullptr;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButtons buttons = QMessageBox::NoButton;
+    DialogDriver driver;
+    driver.expect("QMessageBox", [&](QDialog& dialog) {
+        auto& box = static_cast<QMessageBox&>(dialog);
+        parent = box.parentWidget();
+        icon = box.icon();
+        buttons = box.standardButtons();
+        QTest::mouseClick(box.button(QMessageBox::Cancel), Qt::LeftButton);
+    });
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    QCOMPARE(driver.problem(), QString());
+    QCOMPARE(parent, &under.window);
+    QCOMPARE(icon, QMessageBox::Warning);
+    QCOMPARE(buttons, QMessageBox::Ok | QMessageBox::Cancel);
+}
+
 void WidgetWarningTest::warningNamesTheInstallFolder()
 {
     registry->addPath(QStringLiteral("ScreenTaker"),
@@ -192,6 +216,17 @@ void WidgetWarningTest::taskkillIsTheSystemsAndNamesTheIdString()
     const QStringList expected{QStringLiteral("/IM"), QStringLiteral("ScreenTaker.exe"),
                                QStringLiteral("/F")};
     QCOMPARE(taskkill->arguments(), expected);
+}
+
+void WidgetWarningTest::taskkillIsNotWaitedFor()
+{
+    answerBoxes({QMessageBox::Ok});
+    WindowUnderTest under;
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    const auto* taskkill = under.window.findChild<QProcess*>();
+    QVERIFY(taskkill != nullptr);
+    // Its end is noticed by an event loop or a wait only, and there has been neither since.
+    QCOMPARE(taskkill->state(), QProcess::Running);
 }
 
 void WidgetWarningTest::mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning()
