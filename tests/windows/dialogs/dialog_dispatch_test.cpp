@@ -258,6 +258,8 @@ void DialogDispatchTest::storeProductIsLoggedBeforeItsPageIsOpened()
     addApplication("Clip Saver 2026", "ClipSaver");
     const CapturedLog log;
     std::string lastBefore;
+    // cleanup() resets it.
+    // cppcheck-suppress danglingLifetime
     whenOpened = [&] { lastBefore = log.mainFormTexts().back(); };
     DialogDriver driver;
     driver.expect("QuestionDlg", clickButton("btnTwo"));
