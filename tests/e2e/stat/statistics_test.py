@@ -19,7 +19,7 @@ POST_TIMEOUT = 10
 LOOKUP_TIMEOUT = 15
 # Seconds that a busy machine may add to a time-out, and that queueing an event may take.
 TIMEOUT_SLACK = 4.0
-QUEUEING_LIMIT = 0.2
+QUEUEING_LIMIT = 2.0
 BIG = 50 * 1024 * 1024
 
 
