@@ -2,6 +2,8 @@
 
 // Operates modal dialogs while the program waits inside their exec().
 
+#include "tests/windows/qt_tests/window_waits.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -69,7 +71,7 @@ private:
         }
         const Step step = std::move(steps.front().step);
         steps.pop_front();
-        if (!QTest::qWaitForWindowActive(dialog, deadlineMs)) {
+        if (!windows_tests::becomesActive(*dialog)) {
             giveUp(*dialog, QStringLiteral("never active"));
             return;
         }

@@ -3,6 +3,7 @@
 
 #include "tests/windows/dialogs/recorded_events.h"
 #include "tests/windows/qt_tests/qt_test.h"
+#include "tests/windows/qt_tests/window_waits.h"
 #include "ui/uninstall/src/fvd_open_ms_dlg.h"
 #include "ui/uninstall/src/question_dlg.h"
 
@@ -61,7 +62,7 @@ void DialogOutcomeTest::surveyReportsNothingMoreDuringAReport()
         });
     shown = &survey;
     survey.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&survey));
+    QVERIFY(windows_tests::becomesVisible(survey));
     events.clear();
     if (button.isEmpty())
         survey.close();
@@ -94,7 +95,7 @@ void DialogOutcomeTest::offerReportsNothingMoreDuringAReport()
                        });
     shown = &offer;
     offer.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&offer));
+    QVERIFY(windows_tests::becomesVisible(offer));
     events.clear();
     if (button.isEmpty())
         offer.close();

@@ -3,6 +3,7 @@
 #include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/dialogs/recorded_events.h"
 #include "tests/windows/qt_tests/qt_test.h"
+#include "tests/windows/qt_tests/window_waits.h"
 #include "ui/common/config/common_config.h"
 #include "ui/uninstall/src/fvd_open_ms_dlg.h"
 #include "ui/uninstall/src/store_offer.h"
@@ -34,7 +35,7 @@ public:
     bool show()
     {
         dialog.show();
-        return QTest::qWaitForWindowActive(&dialog);
+        return windows_tests::becomesActive(dialog);
     }
 
     template <typename Type = QLabel>

@@ -3,6 +3,7 @@
 #include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/dialogs/recorded_events.h"
 #include "tests/windows/qt_tests/qt_test.h"
+#include "tests/windows/qt_tests/window_waits.h"
 #include "ui/uninstall/src/question_dlg.h"
 
 #include <QLabel>
@@ -33,7 +34,7 @@ public:
     bool show()
     {
         dialog.show();
-        return QTest::qWaitForWindowActive(&dialog);
+        return windows_tests::becomesActive(dialog);
     }
 
     QPushButton* button(const char* name) const

@@ -5,6 +5,7 @@
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/ipc/serving_peer.h"
 #include "tests/windows/qt_tests/qt_test.h"
+#include "tests/windows/qt_tests/window_waits.h"
 
 using namespace ipctest;
 
@@ -128,17 +129,18 @@ void LaterCopyTest::withAParentBringsItsNamesakeForward()
     namesake.show();
     QWidget front;
     front.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&namesake));
-    QVERIFY(QTest::qWaitForWindowExposed(&front));
+    QVERIFY(windows_tests::becomesVisible(namesake));
+    QVERIFY(windows_tests::becomesVisible(front));
     front.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&front));
+    QVERIFY(windows_tests::becomesActive(front));
 
     std::vector<std::string> arguments;
     if (!argument.isEmpty())
         arguments.push_back(argument.toStdString());
     const Window window(arguments, &parent);
     const QWidget& expected = forward ? namesake : front;
-    QTRY_COMPARE(GetForegroundWindow(), reinterpret_cast<HWND>(expected.winId()));
+    QTRY_COMPARE_WITH_TIMEOUT(GetForegroundWindow(), reinterpret_cast<HWND>(expected.winId()),
+                              windows_tests::patienceMs);
 }
 
 TESSERA_QT_TEST(LaterCopyTest)

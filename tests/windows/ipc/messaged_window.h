@@ -4,6 +4,7 @@
 
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
+#include "tests/windows/qt_tests/window_waits.h"
 #include "tests/windows/support/child_process.h"
 #include "ui/common/sys/interprocess_communication_app.h"
 
@@ -14,7 +15,7 @@
 
 namespace ipctest {
 
-constexpr int patienceMs = 30000;
+using windows_tests::patienceMs;
 
 // Records the texts that reach the hook.
 class Window : public CInterprocessCommunicationApp

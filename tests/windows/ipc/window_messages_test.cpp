@@ -2,6 +2,7 @@
 
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/qt_tests/qt_test.h"
+#include "tests/windows/qt_tests/window_waits.h"
 #include "tests/windows/support/unique_name.h"
 #include "tests/windows/widget/captured_log.h"
 
@@ -218,7 +219,7 @@ void WindowMessagesTest::showRestoresAMinimisedWindow()
 {
     Window window({}, nullptr, false);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(windows_tests::becomesVisible(window));
     const auto handle = reinterpret_cast<HWND>(window.winId());
     window.showMinimized();
     QTRY_VERIFY_WITH_TIMEOUT(minimised(window) && IsIconic(handle), patienceMs);
@@ -255,13 +256,13 @@ void WindowMessagesTest::showActivatesAndRaisesACoveredWindow()
     Window window({}, nullptr, false);
     window.setGeometry(100, 100, 300, 200);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(windows_tests::becomesVisible(window));
     QWidget cover;
     cover.setGeometry(window.geometry());
     cover.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&cover));
+    QVERIFY(windows_tests::becomesVisible(cover));
     cover.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&cover));
+    QVERIFY(windows_tests::becomesActive(cover));
     QVERIFY(!window.isActiveWindow());
 
     EventCounter raised(window, QEvent::ZOrderChange);
@@ -286,7 +287,7 @@ void WindowMessagesTest::showWithMinimizedMinimisesAndAnswersNothing()
     Window window({}, nullptr, false);
     window.reply = QStringLiteral("never");
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(windows_tests::becomesVisible(window));
     EventCounter raised(window, QEvent::ZOrderChange);
     window.receive(message);
     QTRY_VERIFY_WITH_TIMEOUT(minimised(window), patienceMs);
@@ -299,7 +300,7 @@ void WindowMessagesTest::minimizedAloneIsForTheHook()
 {
     Window window({}, nullptr, false);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(windows_tests::becomesVisible(window));
     window.receive(QStringLiteral("please /minimized"));
     QVERIFY(!minimised(window));
     QCOMPARE(window.hooked, QStringList{QStringLiteral("please ")});

@@ -1,5 +1,6 @@
 #include "tests/windows/languages/localised_windows.h"
 
+#include "tests/windows/qt_tests/window_waits.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "ui/common/config/common_config.h"
 #include "ui/uninstall/src/app_catalogue.h"
@@ -18,7 +19,6 @@
 namespace {
 
 constexpr int clipSaverId = 60;
-constexpr int deadlineMs = 30'000;
 
 void fillRegistry(SuiteRegistry& registry)
 {
@@ -34,7 +34,7 @@ void fillRegistry(SuiteRegistry& registry)
 bool visitShown(const QString& name, QWidget& window, const WindowVisitor& visit)
 {
     window.show();
-    if (!QTest::qWaitForWindowExposed(&window, deadlineMs))
+    if (!windows_tests::becomesVisible(window))
         return false;
     // Changed texts get their new sizes with the next events.
     QCoreApplication::processEvents();

@@ -1,6 +1,7 @@
 #include "tests/windows/qt_tests/qt_test.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 #include <algorithm>
 #include <cstdio>
@@ -54,6 +55,8 @@ int main(int argc, char** argv)
     std::rotate(argv + 1, argv + 2, argv + argc);
     --argc;
     argv[argc] = nullptr;
+    // Qt tells at every use that it does not know the style sheets' "font-color".
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     if (test->prepare != nullptr)
         test->prepare();
     QApplication application(argc, argv);

@@ -1,6 +1,7 @@
 // The list's check boxes and the controls that follow them, driven by mouse and keyboard.
 
 #include "tests/windows/qt_tests/qt_test.h"
+#include "tests/windows/qt_tests/window_waits.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/suite_registry.h"
 #include "tests/windows/widget/window_under_test.h"
@@ -194,10 +195,10 @@ void WidgetSelectionTest::spaceBarTogglesTheCurrentRowAndItsControls()
     under.list->setCurrentRow(0);
     QTest::keyClick(under.list, Qt::Key_Space);
     QVERIFY(under.isChecked(0));
-    QTRY_VERIFY(under.uninstall->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(under.uninstall->isEnabled(), windows_tests::patienceMs);
     QTest::keyClick(under.list, Qt::Key_Space);
     QVERIFY(!under.isChecked(0));
-    QTRY_VERIFY(!under.uninstall->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(!under.uninstall->isEnabled(), windows_tests::patienceMs);
 }
 
 // The release of the key then reaches another control.
@@ -212,7 +213,7 @@ void WidgetSelectionTest::controlsFollowASpaceBarHeldWhileTheFocusMovesOn()
     QWidget* next = under.window.focusWidget();
     QVERIFY(next != under.list);
     QTest::keyRelease(next, Qt::Key_Space);
-    QTRY_VERIFY(under.uninstall->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(under.uninstall->isEnabled(), windows_tests::patienceMs);
     QVERIFY(under.deleteSettings->isEnabled());
     QCOMPARE(under.checkedRows(), 4);
     QCOMPARE(under.selectState(), 0);
@@ -223,10 +224,10 @@ void WidgetSelectionTest::controlsFollowARowToggledWithoutAClick()
     WindowUnderTest under;
     QVERIFY(under.show());
     under.list->item(0)->setCheckState(Qt::Checked);
-    QTRY_VERIFY(under.uninstall->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(under.uninstall->isEnabled(), windows_tests::patienceMs);
     QVERIFY(under.deleteSettings->isEnabled());
     under.list->item(0)->setCheckState(Qt::Unchecked);
-    QTRY_VERIFY(!under.uninstall->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(!under.uninstall->isEnabled(), windows_tests::patienceMs);
     QVERIFY(!under.deleteSettings->isEnabled());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/windows/qt_tests/window_waits.h"
 #include "ui/uninstall/src/widget.h"
 
 #include <QCheckBox>
@@ -21,7 +22,7 @@ public:
     bool show()
     {
         window.show();
-        return QTest::qWaitForWindowExposed(&window);
+        return windows_tests::becomesVisible(window);
     }
 
     // Clicks the middle of the row's check box.
