@@ -17,7 +17,9 @@ foreach(library spdlog fmt)
 endforeach()
 add_library(tessera_spdlog INTERFACE)
 target_include_directories(tessera_spdlog SYSTEM INTERFACE "${header_links}")
+# The log formats no fractions; without them fmt is 50 KB smaller.
 target_compile_definitions(tessera_spdlog INTERFACE SPDLOG_FMT_EXTERNAL FMT_HEADER_ONLY
+    FMT_USE_FLOAT=0 FMT_USE_DOUBLE=0 FMT_USE_LONG_DOUBLE=0
     $<$<BOOL:${WIN32}>:SPDLOG_WCHAR_FILENAMES>)
 target_link_libraries(tessera_spdlog INTERFACE Threads::Threads)
 

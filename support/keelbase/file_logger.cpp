@@ -2,10 +2,10 @@
 
 #include "support/keelbase/log_line.h"
 
+#include <spdlog/details/os.h>
 #include <spdlog/pattern_formatter.h>
 #include <spdlog/sinks/rotating_file_sink.h>
 
-#include <system_error>
 #include <utility>
 
 namespace Keelbase {
@@ -58,8 +58,7 @@ void FileLogger::write(const LogRecord& record) noexcept
 // uninstaller that deletes the user's history, must not come back.
 bool FileLogger::folderWasRemoved() const
 {
-    std::error_code ignored;
-    return opened && !std::filesystem::is_directory(file.parent_path(), ignored);
+    return opened && !spdlog::details::os::path_exists(file.parent_path().native());
 }
 
 void FileLogger::append(const std::string& line)
