@@ -100,7 +100,7 @@ TEST(ConfigThreads, LoadNeverMixesTwoFiles)
         while (!finished)
             config.load();
     });
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 60; ++round) {
         config.setFileName(oldPath);
         config.load();
         config.setFileName(newPath);
