@@ -42,7 +42,6 @@ private:
     };
 
     static constexpr int intervalMs = 10;
-    static constexpr int deadlineMs = 30'000;
 
     // Each look has a new timer: a timer does not fire inside its own handler, where a dialog may
     // be open.
@@ -59,7 +58,7 @@ private:
             return;
         // A dialog whose step was called may still be open: below the next one, or about to close.
         if (seen.contains(dialog)) {
-            if (sinceStep.hasExpired(deadlineMs))
+            if (sinceStep.hasExpired(windows_tests::patienceMs))
                 giveUp(*dialog, QStringLiteral("does not close"));
             return;
         }
