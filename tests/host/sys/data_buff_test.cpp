@@ -240,6 +240,7 @@ TEST(DataBuff, WideStringTakesWholeUnits)
     };
     const Case cases[] = {
         {"three bytes are one unit", u"\u00e9x", 3, L"\u00e9"},
+        {"one unit", u"\u65e5", 2, L"\u65e5"},
         {"two units", u"a\u65e5", 4, L"a\u65e5"},
         {"a NUL is a unit", u"a\0b"s, 6, L"a\0b"s},
         {"one byte changes nothing", u"a", 1, L"before"},
