@@ -1,11 +1,10 @@
 #include "support/keelbase/keelbase.h"
 
 #include "support/keelbase/file_logger.h"
+#include "support/keelbase/log_level.h"
 #include "support/keelbase/platform.h"
 
-#include <charconv>
 #include <cstdlib>
-#include <cstring>
 #include <mutex>
 #include <new>
 
@@ -42,18 +41,6 @@ LoggerHandle silentLogger() noexcept
     return LoggerHandle(LoggerHandle(), &instance);
 }
 
-int levelFromEnvironment()
-{
-    const char* const text = std::getenv(levelVariable);
-    if (text == nullptr)
-        return defaultLevel;
-    const char* const end = text + std::strlen(text);
-    int level = 0;
-    const auto [next, error] = std::from_chars(text, end, level);
-    const bool isLevel = error == std::errc() && next == end && level >= 0;
-    return isLevel ? level : defaultLevel;
-}
-
 LoggerHandle makeLogger(const std::string& settingsName)
 {
     if (settingsName.empty())
@@ -61,7 +48,7 @@ LoggerHandle makeLogger(const std::string& settingsName)
     const std::filesystem::path file = logFilePath(settingsName);
     if (file.empty())
         return silentLogger();
-    return std::make_shared<FileLogger>(file, levelFromEnvironment());
+    return std::make_shared<FileLogger>(file, levelFromText(std::getenv(levelVariable)));
 }
 
 } // namespace
