@@ -41,11 +41,9 @@ TEST(TaskQueueStart, FailureIsThrownAndTheTaskIsDropped)
 TEST(TaskQueueStart, FailureIsOverWithTheNextTask)
 {
     stats::TaskQueue queue;
-    for (int round = 0; round < 3; ++round) {
-        postInVain(queue, std::make_shared<int>(0));
-        postInVain(queue, std::make_shared<int>(0));
-        expectTaskRuns(queue);
-    }
+    postInVain(queue, std::make_shared<int>(0));
+    postInVain(queue, std::make_shared<int>(0));
+    expectTaskRuns(queue);
 }
 
 TEST(TaskQueueStart, FailureOfOneQueueLeavesAnotherAlone)
