@@ -4,7 +4,6 @@
 #include "support/keelbase/log_level.h"
 #include "support/keelbase/platform.h"
 
-#include <cstdlib>
 #include <mutex>
 #include <new>
 
@@ -48,7 +47,7 @@ LoggerHandle makeLogger(const std::string& settingsName)
     const std::filesystem::path file = logFilePath(settingsName);
     if (file.empty())
         return silentLogger();
-    return std::make_shared<FileLogger>(file, levelFromText(std::getenv(levelVariable)));
+    return std::make_shared<FileLogger>(file, levelFromEnvironment());
 }
 
 } // namespace

@@ -3,12 +3,14 @@
 #include "support/keelbase/keelbase.h"
 
 #include <charconv>
+#include <cstdlib>
 #include <cstring>
 
 namespace Keelbase {
 
-int levelFromText(const char* text) noexcept
+int levelFromEnvironment() noexcept
 {
+    const char* const text = std::getenv(levelVariable);
     if (text == nullptr)
         return defaultLevel;
     const char* const end = text + std::strlen(text);

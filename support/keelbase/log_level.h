@@ -2,8 +2,8 @@
 
 namespace Keelbase {
 
-// The level that a value of levelVariable means; defaultLevel for null and for anything but a
-// decimal number that is not negative. Any thread.
-int levelFromText(const char* text) noexcept;
+// The level that the environment variable levelVariable sets; defaultLevel when it is missing or is
+// not a decimal number, or is negative. Any thread, as long as none changes the environment.
+int levelFromEnvironment() noexcept;
 
 } // namespace Keelbase

@@ -209,6 +209,7 @@ TEST_F(LogFile, FullDiskIsTolerated)
     const auto open = logger();
     for (int number = 0; number < 10; ++number)
         write(*open, "lost");
+    write(*open, std::string(100000, 'x')); // more than any buffer takes
     // With free space logging continues, however many messages were lost.
     std::filesystem::remove(folder.narrowPath("logs/Program.log"));
     write(*open, "written");
