@@ -20,7 +20,7 @@ protected:
 
 TEST_F(FileIo, ReadsTheExactBytes)
 {
-    const std::string bytes("a=1\r\nb\0c\xFF\n\n", 12);
+    const std::string bytes("a=1\r\nb\0c\xFF\n\n", 11);
     folder.write("\xE8\xA9\xA6.cfg", bytes);
     EXPECT_EQ(sys::readWholeFile(folder.path(L"\u8A66.cfg"), content), 0);
     EXPECT_EQ(content, bytes);
