@@ -361,6 +361,12 @@ class Proxies(unittest.TestCase):
             self.assertEqual(len(proxy.connects), 1)
         self.assertEqual(outcome.code, RECEIVE_ERROR)
 
+    def test_the_lowest_and_the_highest_port_are_possible(self):
+        for port in (1, 65535):
+            with self.subTest(port):
+                outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=port)
+                self.assertEqual(outcome.code, COULD_NOT_CONNECT)
+
     def test_impossible_ports_are_refused(self):
         for port in (0, -1, 65536):
             with self.subTest(port):
