@@ -322,6 +322,26 @@ TEST_F(AppEventStat, ReturnsBeforeTheServiceAnswers)
     EXPECT_TRUE(counter.waitFor(3));
 }
 
+TEST_F(AppEventStat, OtherThreadsNeedNotWaitForASynchronousPost)
+{
+    std::future<int> other;
+    AnswerCounter counter;
+    scripted::setServer([&](const netpull::Request& request) {
+        if (memberOf(request, "event_number") == "1") {
+            other = std::async(std::launch::async, [&] {
+                return helper.sendEvent("click", "source", "", "", false, 0);
+            });
+            EXPECT_EQ(other.wait_for(deadline), std::future_status::ready);
+        }
+        counter.count();
+        return status(200);
+    });
+    helper.init(params, true, 0);
+    EXPECT_EQ(sendNow(), 1);
+    EXPECT_EQ(other.get(), 2);
+    EXPECT_TRUE(counter.waitFor(2));
+}
+
 TEST_F(AppEventStat, SendsEventsOfManyThreadsOneByOneAndInOrder)
 {
     constexpr int threadCount = 8;

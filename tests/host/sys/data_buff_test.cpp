@@ -178,6 +178,13 @@ TEST(DataBuff, AssignCopiesBytes)
     EXPECT_TRUE(buffer.empty());
 }
 
+TEST(DataBuff, OneByteIsCopiedInAndOut)
+{
+    DataBuff buffer;
+    ASSERT_TRUE(buffer.assignString("x"));
+    EXPECT_EQ(buffer.toString(), "x");
+}
+
 TEST(DataBuff, AssignFromNullOnlyResizes)
 {
     DataBuff buffer;
