@@ -77,7 +77,6 @@ void FileLogger::append(const std::string& line)
             "%Y-%m-%d %H:%M:%S.%e %P:%t %v", spdlog::pattern_time_type::local, "\n"));
         try {
             sink.log(message);
-            sink.flush();
             return;
         } catch (const spdlog::spdlog_ex&) {
             // Tried once more.

@@ -1,11 +1,9 @@
 #include "support/keelbase/keelbase.h"
 
 #include "support/keelbase/file_logger.h"
+#include "support/keelbase/log_level.h"
 #include "support/keelbase/platform.h"
 
-#include <charconv>
-#include <cstdlib>
-#include <cstring>
 #include <mutex>
 #include <new>
 
@@ -40,18 +38,6 @@ LoggerHandle silentLogger() noexcept
     alignas(SilentLogger) static unsigned char storage[sizeof(SilentLogger)];
     static SilentLogger& instance = *new (storage) SilentLogger;
     return LoggerHandle(LoggerHandle(), &instance);
-}
-
-int levelFromEnvironment()
-{
-    const char* const text = std::getenv(levelVariable);
-    if (text == nullptr)
-        return defaultLevel;
-    const char* const end = text + std::strlen(text);
-    int level = 0;
-    const auto [next, error] = std::from_chars(text, end, level);
-    const bool isLevel = error == std::errc() && next == end && level >= 0;
-    return isLevel ? level : defaultLevel;
 }
 
 LoggerHandle makeLogger(const std::string& settingsName)

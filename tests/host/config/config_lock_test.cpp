@@ -10,6 +10,7 @@
 #include <chrono>
 #include <functional>
 #include <future>
+#include <system_error>
 
 namespace fs {
 
@@ -111,6 +112,41 @@ TEST_F(ConfigLock, OtherThreadsWaitWhileASaveMerges)
     EXPECT_EQ(config.save(), sys::success);
     EXPECT_EQ(duringMerge.get(), "own");
     EXPECT_EQ(duringWriting.get(), "own");
+}
+
+TEST_F(ConfigLock, SameThreadMayUseTheObjectWhileTheFileIsRead)
+{
+    duringRead = [this] { config.setValue("b", "own"); };
+    EXPECT_EQ(config.load(), sys::success);
+    EXPECT_EQ(config.getValue("b", "absent"), "own");
+}
+
+TEST_F(ConfigLock, UseByTheSameThreadInTheMiddleOfASaveIsAnErrorAndNoDeadlock)
+{
+    const std::function<void()> uses[] = {
+        [this] { config.getValue("a", ""); },
+        [this] { config.has("a"); },
+        [this] { config.getBool("a", false); },
+        [this] { config.isModified(); },
+        [this] { config.setValue("a", "late"); },
+        [this] { config.setFileName(L"other.cfg"); },
+        [this] { config.save(); },
+        [this] { config.load(); },
+        [this] { config.reload(); },
+    };
+    for (std::function<void()>* moment : {&duringRead, &duringWrite}) {
+        for (const std::function<void()>& use : uses) {
+            config.setValue("a", "own");
+            *moment = use;
+            try {
+                config.save();
+                ADD_FAILURE() << "it was not an error";
+            } catch (const std::system_error& error) {
+                EXPECT_EQ(error.code(), std::errc::resource_deadlock_would_occur);
+            }
+            *moment = nullptr;
+        }
+    }
 }
 
 } // namespace fs

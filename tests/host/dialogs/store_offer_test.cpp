@@ -1,3 +1,4 @@
+#include "ui/common/config/common_config.h"
 #include "ui/uninstall/src/app_catalogue.h"
 #include "ui/uninstall/src/store_offer.h"
 
@@ -9,6 +10,7 @@ using uninstall::choosePartner;
 using uninstall::musicOfferFlag;
 using uninstall::offerEventName;
 using uninstall::OfferText;
+using uninstall::partnerFor;
 using uninstall::storeAddress;
 
 TEST(StoreOffer, TheFlagIsNamedByBothShortCodes)
@@ -47,6 +49,24 @@ TEST(StoreOffer, OtherApplicationsAreOfferedTheVideoPartnerWhateverTheFlag)
         EXPECT_EQ(choosePartner(id, true).id, 64) << id;
         EXPECT_EQ(choosePartner(id, false).id, 64) << id;
     }
+}
+
+TEST(StoreOffer, TheFlagIsReadFromTheSettingsForEachOffer)
+{
+    fs::CConfig& common = fs::commonConfig();
+    common.setFileName(L"");
+    EXPECT_EQ(partnerFor(60, false).id, 64);
+    common.setValue("clsv_uninst_ms_msldl_enabled", "1");
+    common.setValue("", "1");
+    EXPECT_EQ(partnerFor(60, false).id, 65);
+    EXPECT_EQ(partnerFor(60, true).id, 64);
+    EXPECT_EQ(partnerFor(61, false).id, 64);
+    EXPECT_EQ(partnerFor(2, false).id, 64);
+    common.setValue("clsv_uninst_ms_msldl_enabled", "0");
+    common.setValue("trksv_t149_exit_ms_msldl_enabled", "1");
+    EXPECT_EQ(partnerFor(60, false).id, 64);
+    EXPECT_EQ(partnerFor(61, true).id, 65);
+    common.setFileName(L"");
 }
 
 TEST(StoreOffer, EachPartnerHasItsProductAndText)

@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -176,32 +175,29 @@ TEST_F(LogFile, RecoversFromAFewMessagesThatCouldNotBeWritten)
     EXPECT_EQ(texts(), std::vector<std::string>{"written"});
 }
 
-TEST_F(LogFile, GivesUpSoonWhenTheFileNeverOpens)
+TEST_F(LogFile, GivesUpAfterThreeMessagesForWhichTheFileDidNotOpen)
 {
     folder.write("logs", "");
     const auto open = logger();
     for (int number = 0; number < 3; ++number)
         write(*open, "lost");
-    const auto start = std::chrono::steady_clock::now();
-    for (int number = 0; number < 1000; ++number)
-        write(*open, "lost");
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
     folder.remove("logs");
     write(*open, "still silent");
     EXPECT_FALSE(folder.holds("logs/Program.log"));
 }
 
-TEST_F(LogFile, RotationThatFailsKeepsTheNewestMessages)
+TEST_F(LogFile, RotationThatFailsLosesOlderMessagesOnly)
 {
     // A folder that is not empty, in the place of an older file, cannot be replaced.
     std::filesystem::create_directories(folder.narrowPath("logs/Program.1.log/occupied"));
     const auto open = logger({500, 1});
-    for (int number = 0; number < 20; ++number)
+    for (int number = 0; number < 20; ++number) {
         write(*open, std::to_string(number) + std::string(100, '.'));
+        const std::vector<std::string> kept = texts();
+        ASSERT_FALSE(kept.empty());
+        EXPECT_EQ(std::stoi(kept.back()), number);
+    }
     EXPECT_LE(folder.read("logs/Program.log").size(), 500U);
-    const std::vector<std::string> kept = texts();
-    ASSERT_FALSE(kept.empty());
-    EXPECT_EQ(std::stoi(kept.back()), 19);
 }
 
 TEST_F(LogFile, FullDiskIsTolerated)
@@ -213,6 +209,7 @@ TEST_F(LogFile, FullDiskIsTolerated)
     const auto open = logger();
     for (int number = 0; number < 10; ++number)
         write(*open, "lost");
+    write(*open, std::string(100000, 'x')); // more than any buffer takes
     // With free space logging continues, however many messages were lost.
     std::filesystem::remove(folder.narrowPath("logs/Program.log"));
     write(*open, "written");

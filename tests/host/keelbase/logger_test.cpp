@@ -20,12 +20,17 @@ constexpr Keelbase::LogSource source{"c", "s"};
 
 TEST(Logger, CreateLoggerSucceedsWithoutALogFolder)
 {
-    Keelbase::setLogger(nullptr);
-    Keelbase::LoggerHandle logger;
-    EXPECT_EQ(Keelbase::createLogger(logger), 0);
-    ASSERT_NE(logger, nullptr);
-    EXPECT_LT(logger->level(), Keelbase::levelError);
-    logger->write({6, "category", "source", 1, "goes nowhere"});
+    for (const char* const name : {"", "SomeSuite"}) {
+        SCOPED_TRACE(name);
+        Keelbase::setSettingsName(name);
+        Keelbase::setLogger(nullptr);
+        Keelbase::LoggerHandle logger;
+        EXPECT_EQ(Keelbase::createLogger(logger), 0);
+        ASSERT_NE(logger, nullptr);
+        EXPECT_EQ(logger->level(), 0);
+        logger->write({6, "category", "source", 1, "goes nowhere"});
+    }
+    Keelbase::setSettingsName("");
 }
 
 TEST(Logger, CreateLoggerReturnsTheLoggerOfTheProcess)

@@ -3,16 +3,21 @@
 //   netpull_probe METHOD URL [name=value ...]
 //
 // Names are data, dataSize (a text of "x"), header, proxy, proxyPort, proxyUser, proxyPassword,
-// timeout, connect, longest, httpVersion and largestBlock (operator new fails for larger blocks).
-// Prints transport code, HTTP status, milliseconds and size of the body, then the body itself.
+// timeout, connect, longest, httpVersion, verify (0 accepts any server), urlSize (the address grows
+// to it), largestBlock (operator new fails for larger blocks), headersLeft and handlesLeft (libcurl
+// has memory for so many). Prints transport code, HTTP status, milliseconds and size of the body,
+// then the body itself. Ends with 3 when there is no memory for the request.
 
 #include "support/netpull/netpull.h"
+
+#include <curl/curl.h>
 
 #include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <dlfcn.h>
 #include <iostream>
 #include <new>
 #include <string>
@@ -20,6 +25,8 @@
 namespace {
 
 std::atomic<std::size_t> largestBlock{SIZE_MAX};
+int headersLeft = 1000;
+int handlesLeft = 1000;
 
 bool apply(const std::string& name, const std::string& value, netpull::Request& request)
 {
@@ -45,6 +52,14 @@ bool apply(const std::string& name, const std::string& value, netpull::Request& 
         request.longestSeconds = std::stoi(value);
     else if (name == "httpVersion")
         request.httpVersion = std::stoi(value);
+    else if (name == "verify")
+        request.verifyServer = value != "0";
+    else if (name == "urlSize")
+        request.url.resize(std::stoul(value), 'x');
+    else if (name == "headersLeft")
+        headersLeft = std::stoi(value);
+    else if (name == "handlesLeft")
+        handlesLeft = std::stoi(value);
     else if (name == "largestBlock")
         largestBlock = std::stoul(value);
     else
@@ -72,8 +87,23 @@ void operator delete(void* block, std::size_t) noexcept
     std::free(block);
 }
 
-int main(int argc, char** argv)
+// These two stand before libcurl's own.
+extern "C" curl_slist* curl_slist_append(curl_slist* list, const char* data)
 {
+    static const auto next =
+        reinterpret_cast<decltype(&curl_slist_append)>(dlsym(RTLD_NEXT, "curl_slist_append"));
+    return --headersLeft < 0 ? nullptr : next(list, data);
+}
+
+extern "C" CURL* curl_easy_init()
+{
+    static const auto next =
+        reinterpret_cast<decltype(&curl_easy_init)>(dlsym(RTLD_NEXT, "curl_easy_init"));
+    return --handlesLeft < 0 ? nullptr : next();
+}
+
+int main(int argc, char** argv)
+try {
     if (argc < 3)
         return 2;
     netpull::Request request;
@@ -95,4 +125,6 @@ int main(int argc, char** argv)
               << response.body.size() << '\n'
               << response.body << std::flush;
     return 0;
+} catch (const std::bad_alloc&) {
+    return 3;
 }

@@ -21,7 +21,10 @@ PROBE = os.environ["NETPULL_PROBE"]
 HANGING_PROBE = os.environ["NETPULL_HANGING_PROBE"]
 ANSWER_LIMIT = 1024 * 1024
 
+PROBE_OUT_OF_MEMORY = 3
+
 # libcurl's error codes
+FAILED_INIT = 2
 COULD_NOT_RESOLVE_HOST = 6
 COULD_NOT_CONNECT = 7
 PARTIAL_FILE = 18
@@ -207,8 +210,33 @@ class Limits(unittest.TestCase):
             with self.subTest(option):
                 self.assertEqual(get(1, **{option: 0}).code, BAD_ARGUMENT)
 
+    def test_one_second_is_enough_for_each_limit(self):
+        with HttpService(answer(200)) as service:
+            self.assertEqual(get(service.port, timeout=1, longest=1, connect=1).code, 0)
+
     def test_an_unknown_version_of_http_is_refused(self):
         self.assertEqual(get(1, httpVersion=2).code, BAD_ARGUMENT)
+
+    def test_an_address_too_long_for_the_library_is_refused(self):
+        with HttpService(answer(200)) as service:
+            outcome = get(service.port, urlSize=10_000_000)
+        self.assertEqual((outcome.code, outcome.status), (BAD_ARGUMENT, 0))
+        self.assertEqual(service.received, [])
+
+
+class Memory(unittest.TestCase):
+    def test_a_request_without_memory_for_its_headers_is_not_sent(self):
+        with HttpService(answer(200)) as service:
+            for left in (0, 1):
+                with self.subTest(left), self.assertRaises(subprocess.CalledProcessError) as error:
+                    fetch("POST", f"http://127.0.0.1:{service.port}/", header="A: b",
+                          headersLeft=left)
+                self.assertEqual(error.exception.returncode, PROBE_OUT_OF_MEMORY)
+        self.assertEqual(service.received, [])
+
+    def test_a_request_without_memory_at_all_fails(self):
+        outcome = get(1, handlesLeft=0)
+        self.assertEqual((outcome.code, outcome.status), (FAILED_INIT, 0))
 
 
 class Encryption(unittest.TestCase):
@@ -249,6 +277,21 @@ CipherString = DEFAULT@SECLEVEL=0
         for version in (ssl.TLSVersion.TLSv1_2, ssl.TLSVersion.TLSv1_3):
             with self.subTest(version):
                 self.assertEqual(self.code_for(version), UNTRUSTED)
+
+
+    def test_any_server_is_accepted_when_it_need_not_be_verified(self):
+        with tempfile.TemporaryDirectory() as name:
+            context = Authority(Path(name) / "authority", "nobody's").server_context(["other"])
+            context.set_alpn_protocols(["h2", "http/1.1"])
+            spoken = []
+
+            def behave(connection, stopping):
+                spoken.append(connection.selected_alpn_protocol())
+                answer(200, b"text")(connection, stopping)
+            with HttpService(behave, tls=context) as service:
+                outcome = fetch("GET", f"https://localhost:{service.port}/", verify=0)
+            self.assertEqual((outcome.code, outcome.body), (0, b"text"))
+            self.assertNotIn("h2", spoken, "only HTTP/1.1 is offered")
 
 
 class Connections(unittest.TestCase):
@@ -317,6 +360,12 @@ class Proxies(unittest.TestCase):
                             environment={"no_proxy": "*"})
             self.assertEqual(len(proxy.connects), 1)
         self.assertEqual(outcome.code, RECEIVE_ERROR)
+
+    def test_the_lowest_and_the_highest_port_are_possible(self):
+        for port in (1, 65535):
+            with self.subTest(port):
+                outcome = fetch("GET", self.URL, proxy="127.0.0.1", proxyPort=port)
+                self.assertEqual(outcome.code, COULD_NOT_CONNECT)
 
     def test_impossible_ports_are_refused(self):
         for port in (0, -1, 65536):

@@ -1,92 +1,17 @@
-#include "tests/host/stat/stat_fixture.h"
-#include "ui/common/stat/app_event_stat.h"
+#include "tests/host/stat/event_sender.h"
 
-#include <chrono>
-#include <condition_variable>
-#include <future>
 #include <limits>
 #include <map>
 #include <memory>
-#include <set>
-#include <thread>
+#include <vector>
 
-using namespace std::chrono_literals;
+using event_sender::memberOf;
+using event_sender::status;
 
 namespace {
 
-constexpr auto deadline = 60s;
-
-// A helper of the test's own, independent of the process-wide one.
-class Helper : public stats::AppStatHelper
-{};
-
-// Counts answered requests and waits for them.
-class AnswerCounter
-{
-public:
-    void count()
-    {
-        const std::lock_guard lock(mutex);
-        ++answers;
-        changed.notify_all();
-    }
-    bool waitFor(int expected)
-    {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, deadline, [&] { return answers >= expected; });
-    }
-
-private:
-    std::mutex mutex;
-    std::condition_variable changed;
-    int answers = 0;
-};
-
-// The event's body, decoded.
-std::string bodyOf(const netpull::Request& request)
-{
-    std::string body;
-    for (std::size_t index = std::string("data=").size(); index < request.postData.size();
-         ++index) {
-        if (request.postData[index] == '%') {
-            body +=
-                static_cast<char>(std::stoi(request.postData.substr(index + 1, 2), nullptr, 16));
-            index += 2;
-        } else {
-            body += request.postData[index];
-        }
-    }
-    return body;
-}
-
-std::string memberOf(const std::string& body, const std::string& name)
-{
-    const std::string start = "\"" + name + "\":\"";
-    const std::size_t begin = body.find(start) + start.size();
-    return body.substr(begin, body.find('"', begin) - begin);
-}
-
-std::string memberOf(const netpull::Request& request, const std::string& name)
-{
-    return memberOf(bodyOf(request), name);
-}
-
-netpull::Response status(int httpStatus, const std::string& body = {})
-{
-    return {0, httpStatus, body};
-}
-
-class AppEventStat : public StatTest
-{
-protected:
-    std::shared_ptr<stats::TemplateParams> params = std::make_shared<stats::TemplateParams>();
-    Helper helper;
-
-    int sendNow(const std::string& type = "click")
-    {
-        return helper.sendEvent(type, "source", "", "", true, 0);
-    }
-};
+using AppEventStat = event_sender::EventSender;
+using Helper = event_sender::Helper;
 
 } // namespace
 
@@ -301,93 +226,6 @@ TEST_F(AppEventStat, LogsOnlyTheRejectionAtTheUsualLevel)
     sendNow();
     ASSERT_EQ(log().size(), 1U);
     EXPECT_NE(log()[0].find("rejected: http 500 | no"), std::string::npos);
-}
-
-TEST_F(AppEventStat, ReturnsBeforeTheServiceAnswers)
-{
-    std::promise<void> gate;
-    std::shared_future<void> opened = gate.get_future().share();
-    AnswerCounter counter;
-    scripted::setServer([&](const netpull::Request&) {
-        opened.wait_for(deadline);
-        counter.count();
-        return status(200);
-    });
-    helper.init(params, true, 0);
-    for (int number = 1; number <= 3; ++number)
-        EXPECT_EQ(helper.sendEvent("click", "source", "", "", false, 0), number);
-    EXPECT_LE(scripted::requests().size(), 1U);
-    gate.set_value();
-    EXPECT_TRUE(counter.waitFor(3));
-}
-
-TEST_F(AppEventStat, SendsEventsOfManyThreadsOneByOneAndInOrder)
-{
-    constexpr int threadCount = 8;
-    constexpr int eventsEach = 125;
-    AnswerCounter counter;
-    std::atomic<int> inFlight{0};
-    std::atomic<int> mostInFlight{0};
-    scripted::setServer([&](const netpull::Request&) {
-        mostInFlight = std::max(mostInFlight.load(), ++inFlight);
-        std::this_thread::yield();
-        --inFlight;
-        counter.count();
-        return status(200);
-    });
-    helper.init(params, true, 0);
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < threadCount; ++thread) {
-        threads.emplace_back([&, thread] {
-            for (int index = 0; index < eventsEach; ++index)
-                helper.sendEvent("t", std::to_string(thread), "", "", false, 0);
-        });
-    }
-    for (std::thread& thread : threads)
-        thread.join();
-    ASSERT_TRUE(counter.waitFor(threadCount * eventsEach));
-
-    EXPECT_EQ(mostInFlight, 1);
-    std::set<int> numbers;
-    std::map<std::string, int> lastOfThread;
-    for (const netpull::Request& request : scripted::requests()) {
-        const std::string body = bodyOf(request);
-        const int number = std::stoi(memberOf(body, "event_number"));
-        int& last = lastOfThread[memberOf(body, "src")];
-        EXPECT_GT(number, last) << "the events of one thread arrive in order";
-        last = number;
-        numbers.insert(number);
-    }
-    EXPECT_EQ(numbers.size(), 1000U);
-    EXPECT_EQ(*numbers.begin(), 1);
-    EXPECT_EQ(*numbers.rbegin(), 1000);
-}
-
-TEST_F(AppEventStat, CompletesThePostUnderWayAtTheEndAndDropsTheRest)
-{
-    std::atomic<int> completed{0};
-    std::atomic<bool> ending{false};
-    std::promise<void> firstStarted;
-    scripted::setServer([&](const netpull::Request&) {
-        if (completed == 0)
-            firstStarted.set_value();
-        while (!ending)
-            std::this_thread::yield();
-        // All 101 posts take longer than the helper's end needs to stop the queue.
-        std::this_thread::sleep_for(10ms);
-        ++completed;
-        return status(200);
-    });
-    auto shortLived = std::make_unique<Helper>();
-    shortLived->init(params, true, 0);
-    for (int index = 0; index < 101; ++index)
-        shortLived->sendEvent("t", "s", "", "", false, 0);
-    ASSERT_EQ(firstStarted.get_future().wait_for(deadline), std::future_status::ready);
-    ending = true;
-    shortLived.reset();
-    EXPECT_GE(completed, 1);
-    EXPECT_LT(completed, 101);
-    EXPECT_EQ(scripted::requests().size(), static_cast<std::size_t>(completed));
 }
 
 TEST_F(AppEventStat, IsOneObjectForTheProcess)

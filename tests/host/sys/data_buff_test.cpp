@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 // By default the sanitizers' allocators end the process on a request that is too large; here they
@@ -36,6 +37,13 @@ void* newBlock(const std::string& bytes)
     void* const block = std::malloc(bytes.size());
     std::memcpy(block, bytes.data(), bytes.size());
     return block;
+}
+
+// What the program holds from malloc; nothing under a sanitizer, which finds leaks by itself.
+std::size_t heldBytes()
+{
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
 }
 
 } // namespace
@@ -138,6 +146,25 @@ TEST(DataBuff, ClearFrees)
     EXPECT_TRUE(buffer.empty());
 }
 
+TEST(DataBuff, EveryBlockIsFreedOnce)
+{
+    constexpr std::size_t size = 1U << 20U;
+    const std::size_t before = heldBytes();
+    for (int round = 0; round < 10; ++round) {
+        DataBuff first;
+        DataBuff second;
+        ASSERT_TRUE(first.resize(size) && second.resize(size));
+        first.attach(std::malloc(size), size);
+        first.attachFrom(&second);
+        ASSERT_TRUE(second.resize(size));
+        second.moveTo(first);
+        ASSERT_TRUE(second.resize(size));
+        second.clear();
+        ASSERT_TRUE(second.resize(size));
+    }
+    EXPECT_LT(heldBytes(), before + size);
+}
+
 TEST(DataBuff, AssignCopiesBytes)
 {
     DataBuff buffer;
@@ -149,6 +176,13 @@ TEST(DataBuff, AssignCopiesBytes)
     EXPECT_EQ(buffer.data(), nullptr);
     EXPECT_TRUE(buffer.assignString(""));
     EXPECT_TRUE(buffer.empty());
+}
+
+TEST(DataBuff, OneByteIsCopiedInAndOut)
+{
+    DataBuff buffer;
+    ASSERT_TRUE(buffer.assignString("x"));
+    EXPECT_EQ(buffer.toString(), "x");
 }
 
 TEST(DataBuff, AssignFromNullOnlyResizes)
@@ -240,6 +274,7 @@ TEST(DataBuff, WideStringTakesWholeUnits)
     };
     const Case cases[] = {
         {"three bytes are one unit", u"\u00e9x", 3, L"\u00e9"},
+        {"one unit", u"\u65e5", 2, L"\u65e5"},
         {"two units", u"a\u65e5", 4, L"a\u65e5"},
         {"a NUL is a unit", u"a\0b"s, 6, L"a\0b"s},
         {"one byte changes nothing", u"a", 1, L"before"},

@@ -1,24 +1,45 @@
+#include "tests/host/support/scoped_variable.h"
 #include "ui/common/sys/environment.h"
 
 #include <gtest/gtest.h>
 
-#include <stdlib.h>
+using host::ScopedVariable;
 
 namespace sys {
 
+namespace {
+
+constexpr const char* name = "TESSERA_TEST_VARIABLE";
+
+} // namespace
+
+TEST(Environment, MissingVariableReadsAsEmpty)
+{
+    const ScopedVariable variable(name, nullptr);
+    EXPECT_EQ(environmentVariable(name), "");
+    EXPECT_FALSE(environmentSwitch(name));
+}
+
 TEST(Environment, SwitchIsOnForTheTextOneOnly)
 {
-    constexpr const char* name = "TESSERA_TEST_SWITCH";
-    unsetenv(name);
-    EXPECT_FALSE(environmentSwitch(name));
     for (const char* value : {"", "0", "2", "11", "01", " 1", "1 ", "true", "yes"}) {
         SCOPED_TRACE(value);
-        setenv(name, value, 1);
+        const ScopedVariable variable(name, value);
         EXPECT_FALSE(environmentSwitch(name));
     }
-    setenv(name, "1", 1);
+    const ScopedVariable variable(name, "1");
     EXPECT_TRUE(environmentSwitch(name));
-    unsetenv(name);
+}
+
+TEST(Environment, LongestReadableValueHas2047Characters)
+{
+    const std::string longest(2047, 'x');
+    {
+        const ScopedVariable variable(name, longest.c_str());
+        EXPECT_EQ(environmentVariable(name), longest);
+    }
+    const ScopedVariable variable(name, (longest + "x").c_str());
+    EXPECT_EQ(environmentVariable(name), "");
 }
 
 } // namespace sys

@@ -73,78 +73,80 @@ int rememberMode(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
     return _wfopen_s(stream, path, mode);
 }
 
+class FileIo : public testing::Test
+{
+protected:
+    // Creates the file and holds it open for reading.
+    win32::FileHandle heldFile(DWORD sharing) const
+    {
+        writeBytes(file, "held");
+        win32::FileHandle lock = openFile(file, GENERIC_READ, sharing);
+        EXPECT_TRUE(lock);
+        return lock;
+    }
+
+    const ScratchFolder scratch;
+    const std::wstring file = scratch / L"file";
+    std::string content = "before";
+};
+
 } // namespace
 
-TEST(FileIo, ReadsTheExactBytes)
+TEST_F(FileIo, ReadsTheExactBytes)
 {
-    const ScratchFolder scratch;
     const std::string bytes("a=1\r\nb\0c\x1A"
                             "d\xFF\n\n",
                             14);
     writeBytes(scratch / L"\u8A66 \u00E9.cfg", bytes);
-    std::string content = "before";
     EXPECT_EQ(sys::readWholeFile(scratch / L"\u8A66 \u00E9.cfg", content), 0);
     EXPECT_EQ(content, bytes);
 }
 
-TEST(FileIo, ZeroLengthFileReadsAsTheEmptyString)
+TEST_F(FileIo, ZeroLengthFileReadsAsTheEmptyString)
 {
-    const ScratchFolder scratch;
     writeBytes(scratch / L"empty", "");
-    std::string content = "before";
     EXPECT_EQ(sys::readWholeFile(scratch / L"empty", content), 0);
     EXPECT_EQ(content, "");
 }
 
-TEST(FileIo, ReadOpensInBinary)
+TEST_F(FileIo, ReadOpensInBinary)
 {
-    const ScratchFolder scratch;
-    writeBytes(scratch / L"file", "x");
-    std::string content;
-    EXPECT_EQ(sys::readWholeFile(scratch / L"file", content, &rememberMode), 0);
+    writeBytes(file, "x");
+    EXPECT_EQ(sys::readWholeFile(file, content, &rememberMode), 0);
     EXPECT_EQ(requestedMode, L"rb");
 }
 
-TEST(FileIo, OpenErrorsAreReturnedAndKeepTheContent)
+TEST_F(FileIo, OpenErrorsAreReturnedAndKeepTheContent)
 {
-    const ScratchFolder scratch;
-    std::string content = "before";
     EXPECT_EQ(sys::readWholeFile(scratch / L"missing", content), ENOENT);
     EXPECT_EQ(sys::readWholeFile(scratch / L"no folder\\missing", content), ENOENT);
     EXPECT_EQ(sys::readWholeFile(scratch.path(), content), EACCES);
-    writeBytes(scratch / L"locked", "x");
-    const win32::FileHandle lock = openFile(scratch / L"locked", GENERIC_READ, 0);
-    ASSERT_TRUE(lock);
-    EXPECT_EQ(sys::readWholeFile(scratch / L"locked", content), EACCES);
+    const win32::FileHandle lock = heldFile(0);
+    EXPECT_EQ(sys::readWholeFile(file, content), EACCES);
     EXPECT_EQ(content, "before");
 }
 
-TEST(FileIo, OpenWithoutAStreamHasItsOwnCode)
+TEST_F(FileIo, OpenWithoutAStreamHasItsOwnCode)
 {
-    std::string content = "before";
     EXPECT_EQ(sys::readWholeFile(L"any", content, &openNothing), 100007);
     EXPECT_EQ(content, "before");
 }
 
-TEST(FileIo, FailedReadHasItsOwnCode)
+TEST_F(FileIo, FailedReadHasItsOwnCode)
 {
-    const ScratchFolder scratch;
-    writeBytes(scratch / L"file", "bytes");
-    std::string content = "before";
-    EXPECT_EQ(sys::readWholeFile(scratch / L"file", content, &openForAppending), 100004);
+    writeBytes(file, "bytes");
+    EXPECT_EQ(sys::readWholeFile(file, content, &openForAppending), 100004);
     EXPECT_EQ(content, "before");
 }
 
-TEST(FileIo, ReadsOnceOthersHaveClosedTheFile)
+TEST_F(FileIo, ReadsOnceOthersHaveClosedTheFile)
 {
-    const ScratchFolder scratch;
-    const std::wstring file = scratch / L"file";
     writeBytes(file, "bytes");
     for (const Hold& hold : refusedHolds) {
         SCOPED_TRACE(hold.how);
         win32::FileHandle other = openFile(file, hold.access, hold.sharing);
         ASSERT_TRUE(other);
-        std::string content;
+        content.clear();
         std::promise<void> begun;
         std::future<int> result = std::async(std::launch::async, [&] {
             begun.set_value();
@@ -160,10 +162,8 @@ TEST(FileIo, ReadsOnceOthersHaveClosedTheFile)
     }
 }
 
-TEST(FileIo, ReadIsRepeatedAfterEverySharingViolation)
+TEST_F(FileIo, ReadIsRepeatedAfterEverySharingViolation)
 {
-    const ScratchFolder scratch;
-    const std::wstring file = scratch / L"file";
     writeBytes(file, "bytes");
     for (const Hold& hold : refusedHolds) {
         SCOPED_TRACE(hold.how);
@@ -171,32 +171,26 @@ TEST(FileIo, ReadIsRepeatedAfterEverySharingViolation)
         ASSERT_TRUE(holder);
         attempts = 0;
         closedAt = 5;
-        std::string content;
+        content.clear();
         EXPECT_EQ(sys::readWholeFile(file, content, &openSecurely), 0);
         EXPECT_EQ(attempts, closedAt);
         EXPECT_EQ(content, "bytes");
     }
 }
 
-TEST(FileIo, ReadGivesUpAfterHalfASecond)
+TEST_F(FileIo, ReadGivesUpAfterHalfASecond)
 {
-    const ScratchFolder scratch;
-    writeBytes(scratch / L"locked", "x");
-    const win32::FileHandle lock = openFile(scratch / L"locked", GENERIC_READ, 0);
-    ASSERT_TRUE(lock);
-    std::string content = "before";
+    const win32::FileHandle lock = heldFile(0);
     const auto begun = std::chrono::steady_clock::now();
-    EXPECT_EQ(sys::readWholeFile(scratch / L"locked", content), EACCES);
+    EXPECT_EQ(sys::readWholeFile(file, content), EACCES);
     const auto spent = std::chrono::steady_clock::now() - begun;
     EXPECT_GE(spent, 450ms);
     EXPECT_LT(spent, 5s);
     EXPECT_EQ(content, "before");
 }
 
-TEST(FileIo, ReadIsNotRepeatedAfterOtherErrors)
+TEST_F(FileIo, ReadIsNotRepeatedAfterOtherErrors)
 {
-    const ScratchFolder scratch;
-    std::string content;
     attempts = 0;
     closedAt = 0;
     EXPECT_EQ(sys::readWholeFile(scratch / L"missing", content, &openSecurely), ENOENT);
@@ -205,47 +199,41 @@ TEST(FileIo, ReadIsNotRepeatedAfterOtherErrors)
     EXPECT_EQ(attempts, 2);
 }
 
-TEST(FileIo, WritesTheExactBytes)
+TEST_F(FileIo, WritesTheExactBytes)
 {
-    const ScratchFolder scratch;
     const std::string bytes = "a=1\nb\r\nc\x1A"
                               "d\xFF";
     EXPECT_EQ(sys::writeWholeFile(scratch / L"\u8A66 \u00E9.cfg", bytes), 0);
     EXPECT_EQ(readBytes(scratch / L"\u8A66 \u00E9.cfg"), bytes);
 }
 
-TEST(FileIo, WriteReplacesALongerFile)
+TEST_F(FileIo, WriteReplacesALongerFile)
 {
-    const ScratchFolder scratch;
-    writeBytes(scratch / L"file", std::string(100000, 'x'));
-    EXPECT_EQ(sys::writeWholeFile(scratch / L"file", "short"), 0);
-    EXPECT_EQ(readBytes(scratch / L"file"), "short");
-    EXPECT_EQ(sys::writeWholeFile(scratch / L"file", ""), 0);
-    EXPECT_EQ(readBytes(scratch / L"file"), "");
+    writeBytes(file, std::string(100000, 'x'));
+    EXPECT_EQ(sys::writeWholeFile(file, "short"), 0);
+    EXPECT_EQ(readBytes(file), "short");
+    EXPECT_EQ(sys::writeWholeFile(file, ""), 0);
+    EXPECT_EQ(readBytes(file), "");
 }
 
-TEST(FileIo, WriteEndsAtTheFirstNul)
+TEST_F(FileIo, WriteEndsAtTheFirstNul)
 {
-    const ScratchFolder scratch;
-    EXPECT_EQ(sys::writeWholeFile(scratch / L"file", std::string("a=1\0b=2\n", 8)), 0);
-    EXPECT_EQ(readBytes(scratch / L"file"), "a=1");
+    EXPECT_EQ(sys::writeWholeFile(file, std::string("a=1\0b=2\n", 8)), 0);
+    EXPECT_EQ(readBytes(file), "a=1");
 }
 
-TEST(FileIo, WritesWhileOthersHoldTheFileOpen)
+TEST_F(FileIo, WritesWhileOthersHoldTheFileOpen)
 {
-    const ScratchFolder scratch;
-    writeBytes(scratch / L"file", "old");
-    const win32::FileHandle other = openFile(scratch / L"file", GENERIC_READ | GENERIC_WRITE,
-                                             FILE_SHARE_READ | FILE_SHARE_WRITE);
+    writeBytes(file, "old");
+    const win32::FileHandle other =
+        openFile(file, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
     ASSERT_TRUE(other);
-    EXPECT_EQ(sys::writeWholeFile(scratch / L"file", "new"), 0);
-    EXPECT_EQ(readBytes(scratch / L"file"), "new");
+    EXPECT_EQ(sys::writeWholeFile(file, "new"), 0);
+    EXPECT_EQ(readBytes(file), "new");
 }
 
-TEST(FileIo, OthersOpenTheFileWhileItIsWritten)
+TEST_F(FileIo, OthersOpenTheFileWhileItIsWritten)
 {
-    const ScratchFolder scratch;
-    const std::wstring file = scratch / L"file";
     const std::string text(64U << 20U, 'x');
     bool seenUnfinished = false;
     for (int round = 0; round < 20 && !seenUnfinished; ++round) {
@@ -265,30 +253,23 @@ TEST(FileIo, OthersOpenTheFileWhileItIsWritten)
     EXPECT_TRUE(seenUnfinished);
 }
 
-TEST(FileIo, WriteThatFailsHasItsOwnCode)
+TEST_F(FileIo, WriteThatFailsHasItsOwnCode)
 {
-    const ScratchFolder scratch;
     EXPECT_EQ(sys::writeWholeFile(scratch.path(), "x"), 100004);
     EXPECT_EQ(sys::writeWholeFile(scratch / L"no folder\\file", "x"), 100004);
-    writeBytes(scratch / L"locked", "old");
     {
-        const win32::FileHandle lock = openFile(scratch / L"locked", GENERIC_READ, FILE_SHARE_READ);
-        ASSERT_TRUE(lock);
-        EXPECT_EQ(sys::writeWholeFile(scratch / L"locked", "new"), 100004);
+        const win32::FileHandle lock = heldFile(FILE_SHARE_READ);
+        EXPECT_EQ(sys::writeWholeFile(file, "new"), 100004);
     }
-    EXPECT_EQ(readBytes(scratch / L"locked"), "old");
+    EXPECT_EQ(readBytes(file), "held");
 }
 
-TEST(FileIo, FailureToOpenIsLogged)
+TEST_F(FileIo, FailureToOpenIsLogged)
 {
-    const ScratchFolder scratch;
-    writeBytes(scratch / L"locked", "x");
-    const win32::FileHandle lock = openFile(scratch / L"locked", GENERIC_READ, 0);
-    ASSERT_TRUE(lock);
+    const win32::FileHandle lock = heldFile(0);
     const testing_support::RecordedLog log;
-    std::string content;
-    sys::readWholeFile(scratch / L"locked", content);
-    sys::writeWholeFile(scratch / L"locked", "new");
+    sys::readWholeFile(file, content);
+    sys::writeWholeFile(file, "new");
     const std::vector<Keelbase::LogRecord> records = log.records();
     ASSERT_EQ(records.size(), 2U);
     for (const Keelbase::LogRecord& record : records) {
@@ -297,20 +278,17 @@ TEST(FileIo, FailureToOpenIsLogged)
     }
 }
 
-TEST(FileIo, FailureToReadIsLogged)
+TEST_F(FileIo, FailureToReadIsLogged)
 {
-    const ScratchFolder scratch;
-    writeBytes(scratch / L"file", "bytes");
+    writeBytes(file, "bytes");
     const testing_support::RecordedLog log;
-    std::string content;
-    sys::readWholeFile(scratch / L"file", content, &openForAppending);
+    sys::readWholeFile(file, content, &openForAppending);
     ASSERT_EQ(log.records().size(), 1U);
     EXPECT_EQ(log.records().front().text.rfind("ReadFile failed: ", 0), 0U);
 }
 
-TEST(FileIo, FoldersExistToo)
+TEST_F(FileIo, FoldersExistToo)
 {
-    const ScratchFolder scratch;
     writeBytes(scratch / L"\u8A66", "");
     EXPECT_TRUE(sys::fileExists(scratch / L"\u8A66"));
     EXPECT_TRUE(sys::fileExists(scratch.path()));

@@ -3,6 +3,7 @@
 #include "ui/common/sys/file_io.h"
 #include "ui/common/sys/result_codes.h"
 
+#include <mutex>
 #include <utility>
 
 namespace fs {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ui/common/config/config_text.h"
+#include "ui/common/config/owned_mutex.h"
 
-#include <mutex>
 #include <set>
 #include <string>
 
@@ -11,6 +11,7 @@ namespace fs {
 // One ".cfg" file: its pairs in memory, and the keys that this process changed.
 //
 // Any thread may call any operation; each is atomic with respect to the others on the same object.
+// A call from within a save() on the same thread is a programming error: std::system_error.
 // Between processes there is no lock: save() reads the file again and applies only this process's
 // changes, so that two processes that change different keys both keep theirs.
 //
@@ -62,7 +63,7 @@ private:
 
     ConfigValues values;
     std::set<std::string> changedKeys;
-    mutable std::mutex mutex;
+    mutable OwnedMutex mutex;
     bool modified = false;
     std::wstring filePath;
 };

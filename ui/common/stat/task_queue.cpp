@@ -18,13 +18,14 @@ void TaskQueue::post(std::function<void()> task)
     if (!accepting || !open)
         return;
     const std::lock_guard lock(mutex);
-    tasks.push_back(std::move(task));
-    if (workerRunning.exchange(true))
-        return;
-    // The previous worker has left its loop, so this does not block.
-    if (worker.joinable())
-        worker.join();
-    worker = std::thread([this] { runTasks(); });
+    if (!workerRunning) {
+        // The previous worker has left its loop, so this does not block.
+        if (worker.joinable())
+            worker.join();
+        worker = std::thread([this] { runTasks(); });
+        workerRunning = true;
+    }
+    tasks.push_back(std::move(task)); // the worker looks for it once the lock is free
 }
 
 void TaskQueue::runTasks()

@@ -22,7 +22,8 @@ public:
     TaskQueue(const TaskQueue&) = delete;
     TaskQueue& operator=(const TaskQueue&) = delete;
 
-    // Throws std::system_error when the worker cannot be started. A task must not throw.
+    // Throws std::system_error when the worker cannot be started; the task is dropped then, and a
+    // later one tries again. A task must not throw.
     void post(std::function<void()> task);
 
 private:

@@ -27,7 +27,7 @@ const StorePartner& choosePartner(int uninstalledId, bool musicOfferEnabled)
 const StorePartner& partnerFor(int uninstalledId, bool exitMode)
 {
     const std::string flag = musicOfferFlag(uninstalledId, exitMode);
-    return choosePartner(uninstalledId, !flag.empty() && fs::commonConfig().getBool(flag, false));
+    return choosePartner(uninstalledId, fs::commonConfig().getBool(flag, false));
 }
 
 std::string offerEventName(int partnerId, bool exitMode)
