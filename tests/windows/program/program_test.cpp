@@ -87,9 +87,9 @@ void runPrograms()
 {
     qAddPreRoutine(&watch);
     char program[] = "Uninstall.exe";
-    char app[] = "/app";
-    char id[] = "ScreenTaker";
     {
+        char app[] = "/app";
+        char id[] = "ScreenTaker";
         SuiteRegistry registry;
         registry.addApplication(QStringLiteral("Screen Taker"), QString());
         registry.addApplication(QStringLiteral("Wave Tuner"), QString());
