@@ -57,6 +57,8 @@ function(tessera_add_qt_test name class)
     cmake_parse_arguments(ARG "" "TIMEOUT;COST" "SOURCES;LIBRARIES" ${ARGN})
     list(TRANSFORM ARG_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
     target_sources(qt_tests PRIVATE ${ARG_SOURCES})
+    # Without this a build folder that knows the program already does not see the new class.
+    set_property(TARGET qt_tests APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${ARG_SOURCES})
     target_link_libraries(qt_tests PRIVATE ${ARG_LIBRARIES})
     tessera_add_windows_entry(${name} COMMAND qt_tests ${class}
         TIMEOUT ${ARG_TIMEOUT} COST ${ARG_COST})

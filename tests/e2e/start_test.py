@@ -2,6 +2,7 @@
 
 from tests.harness import screen
 from tests.harness.case import SuiteTestCase
+from tests.harness.shown_windows import ShownWindows
 from tests.harness.suite import MAIN_TITLE, PRODUCT_BRAND, START_OF_LOG, Suite
 from tests.sample_suite.applications import AWKWARD_FOLDER, CLIP_SAVER, PARTNER, SLIDESHOW
 
@@ -83,11 +84,14 @@ class Start(SuiteTestCase):
 
     def test_of_a_second_copy_shows_no_window(self):
         suite = self.install([PARTNER])
-        first = self.start_program(suite, rows=1)
         program_file = suite.prefix.unix_path(suite.program_folder) / "Uninstall.exe"
-        for arguments in ([], ["/app", "VidaloDownloader"]):
-            suite.prefix.run(program_file, *arguments)
-            self.assertEqual(screen.find_windows(MAIN_TITLE), [first.main_window.window])
+        with ShownWindows() as shown:
+            first = self.start_program(suite, rows=1)
+            self.assertNotEqual(shown.since_last_call(), [])
+            for arguments in ([], ["/app", "VidaloDownloader"]):
+                suite.prefix.run(program_file, *arguments)
+                self.assertEqual(shown.since_last_call(), [])
+        self.assertEqual(screen.find_windows(MAIN_TITLE), [first.main_window.window])
         self.assertTrue(first.running)
         first.main_window.close()
         self.assertEqual(first.exit_code(), 0)

@@ -1,6 +1,8 @@
 // The channel's client end against servers that behave unlike the program.
 
 #include "support/keelbase/keelbase.h"
+#include "tests/support/import_slot.h"
+#include "tests/support/recorded_log.h"
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
@@ -58,6 +60,37 @@ TEST(ChannelClient, WithoutAServerConnectingFailsAndSendingReturns10)
     EXPECT_EQ(client.channel.sendMessage("text"), 10);
     // A missing pipe takes precedence over a text that is too long.
     EXPECT_EQ(client.channel.sendMessage(std::string(70000, 'x')), 10);
+}
+
+// The beginnings of the messages that a futile attempt to connect logs.
+std::vector<std::string> loggedByConnecting()
+{
+    Client client;
+    const testing_support::RecordedLog log;
+    EXPECT_NE(client.channel.connectToServer(), 0);
+    std::vector<std::string> texts;
+    for (const Keelbase::LogRecord& record : log.records())
+        texts.push_back(record.text.substr(0, record.text.find(" failed: ")));
+    return texts;
+}
+
+BOOL WINAPI refuseComputerName(LPWSTR, LPDWORD)
+{
+    SetLastError(ERROR_ACCESS_DENIED);
+    return FALSE;
+}
+
+TEST(ChannelClient, ConnectingLogsExactlyTheCallsThatFailed)
+{
+    EXPECT_EQ(loggedByConnecting(), std::vector<std::string>{"CreateFileW"});
+
+    decltype(&GetComputerNameW) original = nullptr;
+    decltype(&GetComputerNameW) replaced = nullptr;
+    replaceImport("GetComputerNameW", &refuseComputerName, original);
+    // cppcheck-suppress knownConditionTrueFalse ; replaceImport sets it
+    ASSERT_NE(original, nullptr);
+    EXPECT_EQ(loggedByConnecting(), (std::vector<std::string>{"GetComputerNameW", "CreateFileW"}));
+    replaceImport("GetComputerNameW", original, replaced);
 }
 
 TEST(ChannelClient, SendingBeforeConnectingReturns10)

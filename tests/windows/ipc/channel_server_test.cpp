@@ -1,5 +1,6 @@
 // Starting and stopping the channel's server end.
 
+#include "tests/support/recorded_log.h"
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
@@ -15,6 +16,7 @@
 #include <future>
 #include <iterator>
 #include <new>
+#include <stdexcept>
 
 using namespace ipctest;
 
@@ -150,6 +152,33 @@ TEST(ChannelServer, FailureToOpenThePipeIsReturned)
     EXPECT_TRUE(result == ERROR_ACCESS_DENIED || result == ERROR_PIPE_BUSY) << result;
     EXPECT_FALSE(server.channel.isPipeOpen());
     EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
+}
+
+TEST(ChannelServer, ExchangeThatTheReceiverEndsIsLoggedAsAnError)
+{
+    class Thrower : public IMessageFromOtherProcess
+    {
+        void onMessageFromOtherProcess(unsigned long, const std::string& text) override
+        {
+            if (text == "1")
+                throw 1;
+            throw std::runtime_error("out of " + text);
+        }
+    } receiver;
+    CInterprocessCommunicationWin channel;
+    channel.claimMutex();
+    channel.receiver = &receiver;
+    ASSERT_EQ(serveForSure(channel), 0);
+    const testing_support::RecordedLog log(Keelbase::levelError);
+    for (const char* text : {"paper", "1"})
+        EXPECT_EQ(Stranger().transact(frame(1, text)), Bytes());
+    channel.close();
+    std::vector<std::string> texts;
+    for (const Keelbase::LogRecord& record : log.records())
+        texts.push_back(record.text);
+    EXPECT_EQ(texts,
+              (std::vector<std::string>{"An exchange was given up: out of paper",
+                                        "An exchange was given up: exception of an unknown type"}));
 }
 
 TEST(ChannelServerClose, IdleTwiceAndThenDestroyed)

@@ -2,15 +2,20 @@
 // not. Wine has no such right, so the test records the calls.
 
 #include "tests/support/import_slot.h"
+#include "tests/support/recorded_log.h"
 #include "tests/windows/ipc/messaged_window.h"
 #include "tests/windows/ipc/serving_peer.h"
 #include "tests/windows/qt_tests/qt_test.h"
+
+#include <algorithm>
 
 using namespace ipctest;
 
 namespace {
 
 QStringList calls;
+
+bool hasTheRight = true;
 
 decltype(&AllowSetForegroundWindow) systemAllow = nullptr;
 decltype(&TransactNamedPipe) systemTransact = nullptr;
@@ -19,7 +24,8 @@ BOOL WINAPI watchedAllow(DWORD process)
 {
     calls << QStringLiteral("allow ") +
                  (process == ASFW_ANY ? QStringLiteral("any") : QString::number(process));
-    return systemAllow(process);
+    SetLastError(ERROR_ACCESS_DENIED);
+    return hasTheRight ? TRUE : FALSE;
 }
 
 BOOL WINAPI watchedTransact(HANDLE pipe, LPVOID request, DWORD requestSize, LPVOID answer,
@@ -39,6 +45,7 @@ private slots:
     void initTestCase();
     void laterCopyPassesItsRightOnBeforeItSends_data();
     void laterCopyPassesItsRightOnBeforeItSends();
+    void onlyAMissingRightIsLogged();
 };
 
 void ForegroundTest::initTestCase()
@@ -71,6 +78,27 @@ void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends()
     QVERIFY(window.isAnotherInstanceRunning());
     const QStringList sent{QStringLiteral("send")};
     QCOMPARE(calls, passes ? QStringList{QStringLiteral("allow any")} + sent : sent);
+}
+
+void ForegroundTest::onlyAMissingRightIsLogged()
+{
+    for (const bool right : {true, false}) {
+        ServingPeer peer;
+        QVERIFY(peer.ready());
+        hasTheRight = right;
+        calls.clear();
+        const testing_support::RecordedLog log;
+        const Window window;
+        QVERIFY(calls.contains(QStringLiteral("send")));
+        const auto records = log.records();
+        const auto refusals =
+            std::count_if(records.begin(), records.end(), [](const Keelbase::LogRecord& record) {
+                return record.category == "IPC" &&
+                       record.text.rfind("AllowSetForegroundWindow failed: 5 ", 0) == 0;
+            });
+        QCOMPARE(refusals, right ? 0 : 1);
+    }
+    hasTheRight = true;
 }
 
 TESSERA_QT_TEST(ForegroundTest)

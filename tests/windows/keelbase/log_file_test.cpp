@@ -1,4 +1,6 @@
+#include "support/keelbase/platform.h"
 #include "support/win32/unique_handle.h"
+#include "tests/support/import_slot.h"
 #include "tests/support/lines.h"
 #include "tests/windows/support/child_process.h"
 #include "tests/windows/support/scoped_variable.h"
@@ -8,11 +10,18 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <cwchar>
 #include <filesystem>
 #include <map>
 #include <regex>
 #include <string>
 #include <vector>
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <shlobj.h>
 
 using testing_support::linesOf;
 using windows_tests::ChildProcess;
@@ -90,6 +99,28 @@ void expectInOrder(const std::vector<std::string>& lines, int messagesEach, std:
     EXPECT_EQ(next['b'], messagesEach);
 }
 
+// What the system answers when it is asked for the user's folder.
+HRESULT folderResult = S_OK;
+const wchar_t* folderText = nullptr;
+
+HRESULT WINAPI answerFolder(REFKNOWNFOLDERID, DWORD, HANDLE, PWSTR* path)
+{
+    *path = nullptr;
+    if (folderText != nullptr) {
+        const std::size_t size = (std::wcslen(folderText) + 1) * sizeof(wchar_t);
+        *path = static_cast<PWSTR>(CoTaskMemAlloc(size));
+        std::memcpy(*path, folderText, size);
+    }
+    return folderResult;
+}
+
+std::filesystem::path filePathFor(HRESULT result, const wchar_t* text)
+{
+    folderResult = result;
+    folderText = text;
+    return Keelbase::logFilePath("Settings");
+}
+
 } // namespace
 
 TEST_F(LogFile, IsInTheRoamingLogFolderNamedLikeTheProgram)
@@ -104,6 +135,21 @@ TEST_F(LogFile, IsInTheRoamingLogFolderNamedLikeTheProgram)
     ASSERT_TRUE(std::regex_match(line, parts, shape)) << line;
     EXPECT_EQ(parts[1].str(), std::to_string(process.pid()));
     EXPECT_NE(parts[2].str(), parts[1].str());
+}
+
+TEST(LogFilePath, IsEmptyWhenTheSystemHasNoRoamingFolder)
+{
+    decltype(&SHGetKnownFolderPath) original = nullptr;
+    decltype(&SHGetKnownFolderPath) replaced = nullptr;
+    replaceImport("SHGetKnownFolderPath", &answerFolder, original);
+    // cppcheck-suppress knownConditionTrueFalse ; replaceImport sets it
+    ASSERT_NE(original, nullptr);
+    EXPECT_EQ(filePathFor(S_OK, L"D:\\Roaming"),
+              L"D:\\Roaming\\Settings\\logs\\windows_keelbase.log");
+    EXPECT_EQ(filePathFor(E_FAIL, L"D:\\Roaming"), L"");
+    EXPECT_EQ(filePathFor(E_FAIL, nullptr), L"");
+    EXPECT_EQ(filePathFor(S_OK, nullptr), L"");
+    replaceImport("SHGetKnownFolderPath", original, replaced);
 }
 
 TEST_F(LogFile, LevelIsSixWithoutTheVariable)

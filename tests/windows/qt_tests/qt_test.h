@@ -32,7 +32,8 @@ int runQtTest(int argc, char** argv)
 
 #define TESSERA_QT_TEST(Class) TESSERA_PREPARED_QT_TEST(Class, nullptr)
 
-// For a test that needs other application attributes: `prepare` sets all of them.
+// For a test with work to do before there is an application object. `prepare` also sets all of that
+// object's attributes.
 #define TESSERA_PREPARED_QT_TEST(Class, prepare)                                                   \
     [[maybe_unused]] static const bool isRegistered##Class =                                       \
         windows_tests::registerQtTest({#Class, &windows_tests::runQtTest<Class>, prepare});

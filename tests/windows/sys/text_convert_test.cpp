@@ -27,12 +27,14 @@ const Pair pairs[] = {
 
 } // namespace
 
-TEST(TextConvert, ConvertsUtf8BothWays)
+TEST(TextConvert, ConvertsUtf8BothWaysWithoutALogLine)
 {
+    const testing_support::RecordedLog log;
     for (const Pair& pair : pairs) {
         EXPECT_EQ(sys::fromUtf8(pair.utf8), pair.wide);
         EXPECT_EQ(sys::toUtf8(pair.wide), pair.utf8);
     }
+    EXPECT_TRUE(log.records().empty());
 }
 
 TEST(TextConvert, InvalidUtf8GivesAnEmptyText)

@@ -1,7 +1,11 @@
 #include "tests/support/recorded_log.h"
+#include "ui/common/sys/text_convert.h"
 #include "ui/common/sys/win32_error.h"
 
 #include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
 
 #include <windows.h>
 
@@ -15,12 +19,14 @@ TEST(Win32Error, LogsApiNumberAndSystemTextWithTheCallersSource)
     EXPECT_EQ(record.category, "IPC");
     EXPECT_EQ(record.sourceFile, "ui/common/sys/somewhere");
     EXPECT_EQ(record.sourceLine, 42);
-    const std::string start = "CreateFileW failed: 2 (";
-    ASSERT_EQ(record.text.substr(0, start.size()), start);
-    EXPECT_GT(record.text.size(), start.size() + 5);
-    EXPECT_EQ(record.text.back(), ')');
-    EXPECT_EQ(record.text.find_first_of("\r\n"), std::string::npos);
-    EXPECT_NE(record.text[record.text.size() - 2], ' ');
+
+    wchar_t text[512] = {};
+    const DWORD size = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                      nullptr, ERROR_FILE_NOT_FOUND, 0, text, 512, nullptr);
+    const std::wstring_view line(text, size);
+    const std::wstring_view trimmed = line.substr(0, line.find_last_not_of(L"\r\n ") + 1);
+    ASSERT_FALSE(trimmed.empty());
+    EXPECT_EQ(record.text, "CreateFileW failed: 2 (" + sys::toUtf8(trimmed) + ")");
 }
 
 TEST(Win32Error, NumberWithoutSystemTextIsLogged)

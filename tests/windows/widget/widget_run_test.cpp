@@ -3,6 +3,7 @@
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
 #include "tests/windows/widget/run_test_base.h"
+#include "ui/uninstall/src/responsive_wait.h"
 
 #include <QElapsedTimer>
 
@@ -21,6 +22,7 @@ private slots:
     void emptyListQuits();
     void missingProgramDoesNotStopTheRun();
     void longAndQuotedCommandsArriveCompletely();
+    void waitForAnUninstallerEndsWithIt();
     void uninstallerOverTwoSecondsIsLeftRunning();
     void windowAnswersAndStaysOpenDuringAWait();
 };
@@ -161,11 +163,14 @@ void WidgetRunTest::missingProgramDoesNotStopTheRun()
     QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")).size(), 1);
     QCOMPARE(under.list->count(), 0);
     int failures = 0;
+    std::string textBefore;
     for (const Keelbase::LogRecord& record : log.records()) {
         if (record.text.rfind("DoUninsstall: not started: ", 0) == 0) {
             ++failures;
             QCOMPARE(record.level, Keelbase::levelDetail);
+            QCOMPARE(textBefore, std::string("DoUninsstall: C:\\no such folder\\Uninst.exe"));
         }
+        textBefore = record.text;
     }
     QCOMPARE(failures, 1);
 }
@@ -185,6 +190,18 @@ void WidgetRunTest::longAndQuotedCommandsArriveCompletely()
     QCOMPARE(awaitedStartsOf(QStringLiteral("ScreenTaker")),
              QStringList{QStringLiteral("/log=C:\\logs\\ScreenTaker_uninstall ") + filler +
                          QStringLiteral("|/SILENT|/SUPPRESSMSGBOXES")});
+}
+
+void WidgetRunTest::waitForAnUninstallerEndsWithIt()
+{
+    QProcess uninstaller;
+    uninstaller.start(addApplication(QStringLiteral("Screen Taker"), QStringLiteral("ScreenTaker")),
+                      QStringList());
+    QElapsedTimer timer;
+    timer.start();
+    uninstall::waitForFinished(uninstaller, deadlineMs);
+    QVERIFY(timer.elapsed() < deadlineMs);
+    QCOMPARE(uninstaller.state(), QProcess::NotRunning);
 }
 
 void WidgetRunTest::uninstallerOverTwoSecondsIsLeftRunning()

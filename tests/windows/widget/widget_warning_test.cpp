@@ -2,6 +2,7 @@
 // mutexes.
 
 #include "support/win32/unique_handle.h"
+#include "tests/support/import_slot.h"
 #include "tests/windows/dialogs/dialog_driver.h"
 #include "tests/windows/qt_tests/qt_test.h"
 #include "tests/windows/widget/captured_log.h"
@@ -11,6 +12,18 @@
 #include <QFile>
 
 #include <windows.h>
+
+namespace {
+
+UINT reportedLength = 0;
+
+UINT WINAPI reportLength(LPWSTR, UINT)
+{
+    SetLastError(ERROR_ACCESS_DENIED);
+    return reportedLength;
+}
+
+} // namespace
 
 class WidgetWarningTest : public RunTestBase
 {
@@ -29,6 +42,8 @@ private slots:
     void warningOfAForeignApplicationShowsItsName();
     void taskkillIsTheSystemsAndNamesTheIdString();
     void taskkillIsNotWaitedFor();
+    void nothingIsStartedWithoutTheSystemsFolder_data();
+    void nothingIsStartedWithoutTheSystemsFolder();
     void mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning();
 };
 
@@ -227,6 +242,41 @@ void WidgetWarningTest::taskkillIsNotWaitedFor()
     QVERIFY(taskkill != nullptr);
     // Its end is noticed by an event loop or a wait only, and there has been neither since.
     QCOMPARE(taskkill->state(), QProcess::Running);
+}
+
+void WidgetWarningTest::nothingIsStartedWithoutTheSystemsFolder_data()
+{
+    QTest::addColumn<unsigned>("lengthReported");
+    QTest::addColumn<QString>("logged");
+    QTest::newRow("unknown") << 0U << QStringLiteral("GetSystemDirectoryW failed: 5 ");
+    QTest::newRow("too long for the buffer")
+        << unsigned{MAX_PATH} << QStringLiteral("GetSystemDirectoryW failed: 122 ");
+}
+
+void WidgetWarningTest::nothingIsStartedWithoutTheSystemsFolder()
+{
+    QFETCH(unsigned, lengthReported);
+    QFETCH(QString, logged);
+    reportedLength = lengthReported;
+    decltype(&GetSystemDirectoryW) original = nullptr;
+    decltype(&GetSystemDirectoryW) replaced = nullptr;
+    const testing_support::RecordedLog log;
+    WindowUnderTest under;
+    DialogDriver driver;
+    driver.expect("QMessageBox", [&original](QDialog& box) {
+        // Qt calls the function too, so it is replaced as late as possible.
+        replaceImport("GetSystemDirectoryW", &reportLength, original);
+        QTest::mouseClick(static_cast<QMessageBox&>(box).button(QMessageBox::Ok), Qt::LeftButton);
+    });
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    // cppcheck-suppress knownConditionTrueFalse ; replaceImport sets it
+    QVERIFY(original != nullptr);
+    replaceImport("GetSystemDirectoryW", original, replaced);
+    QCOMPARE(driver.problem(), QString());
+    QVERIFY(under.window.findChild<QProcess*>() == nullptr);
+    const Keelbase::LogRecord last = log.records().back();
+    QCOMPARE(last.category, std::string("MainForm"));
+    QVERIFY2(QString::fromStdString(last.text).startsWith(logged), last.text.c_str());
 }
 
 void WidgetWarningTest::mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning()
