@@ -66,6 +66,9 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
         startup.hStdOutput = write;
         startup.hStdError = options.captureErrors ? write : GetStdHandle(STD_ERROR_HANDLE);
     }
+    // Uninstall.exe asks for the highest rights: without this an administrator who has not elevated
+    // the test could not start it.
+    SetEnvironmentVariableW(L"__COMPAT_LAYER", L"RunAsInvoker");
     PROCESS_INFORMATION information = {};
     if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, options.captureOutput,
                         CREATE_SUSPENDED, nullptr, nullptr, &startup, &information)) {
