@@ -25,9 +25,9 @@ SETTINGS = b"EventStatEnabled=1\nLanguage=en\nProxyType=1\nProxyAddress=127.0.0.
 def plant(folder: Path) -> None:
     folder.mkdir(parents=True, exist_ok=True)
     for name in LIBRARIES:
-        shutil.copy(layout.WINE_TOOLS / "planted_library.dll", folder / f"{name}.dll")
+        shutil.copy(layout.WINDOWS_TESTS / "planted_library.dll", folder / f"{name}.dll")
     for name in PROGRAMS:
-        shutil.copy(layout.WINE_TOOLS / "planted_program.exe", folder / f"{name}.exe")
+        shutil.copy(layout.WINDOWS_TESTS / "planted_program.exe", folder / f"{name}.exe")
 
 
 class PlantedFiles(SuiteTestCase):
