@@ -9,9 +9,9 @@ using ipctest::RunningProgram;
 
 namespace {
 
-// In the list, whose first row is below this point.
-constexpr int firstBoxX = 22;
-constexpr int firstBoxY = 23;
+// In the first row of the list, beside its check box.
+constexpr int firstRowX = 80;
+constexpr int firstRowY = 23;
 
 using Uninstallers = std::vector<std::wstring>;
 
@@ -19,9 +19,9 @@ TEST(Scenario, SelectiveRunRemovesExactlyTheCheckedApplications)
 {
     const InstalledSuite suite({beatGrid, photoStory, waveTuner});
     ASSERT_TRUE(suite.complete());
-    const RunningProgram program({}, suite.program());
+    const RunningProgram program({L"/app", beatGrid.idString}, suite.program());
     ASSERT_TRUE(program.ready());
-    program.click(firstBoxX, firstBoxY);
+    program.click(firstRowX, firstRowY);
     for (const WORD key : {WORD{VK_DOWN}, WORD{VK_DOWN}, WORD{VK_SPACE}})
         ipctest::pressKey(program.window(), key);
     program.clickUninstall();
