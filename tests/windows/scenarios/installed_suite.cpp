@@ -5,7 +5,6 @@
 #include "ui/common/sys/text_convert.h"
 
 #include <optional>
-#include <sstream>
 #include <system_error>
 
 #include <shellapi.h>
