@@ -18,6 +18,13 @@ LIBRARIES = [
     "uiautomationcore", "wintab32"]
 PROGRAMS = ["taskkill"]
 
+# Without the launcher, whose shims load libraries of these names. What the search finds comes before
+# Wine's own libraries, as on Windows; but Wine's user32 would then use a planted version.dll.
+ENVIRONMENT = {
+    "WINE_RUN_TOOLS": "",
+    "WINEDLLOVERRIDES": ",".join(f"*{name}" for name in LIBRARIES if name != "version")
+                        + "=native,builtin;mscoree,mshtml=;winemenubuilder.exe=d"}
+
 # Statistics and the country lookup run up to a proxy that does not answer.
 SETTINGS = b"EventStatEnabled=1\nLanguage=en\nProxyType=1\nProxyAddress=127.0.0.1\nProxyPort=9\n"
 
@@ -25,9 +32,9 @@ SETTINGS = b"EventStatEnabled=1\nLanguage=en\nProxyType=1\nProxyAddress=127.0.0.
 def plant(folder: Path) -> None:
     folder.mkdir(parents=True, exist_ok=True)
     for name in LIBRARIES:
-        shutil.copy(layout.WINE_TOOLS / "planted_library.dll", folder / f"{name}.dll")
+        shutil.copy(layout.WINDOWS_TESTS / "planted_library.dll", folder / f"{name}.dll")
     for name in PROGRAMS:
-        shutil.copy(layout.WINE_TOOLS / "planted_program.exe", folder / f"{name}.exe")
+        shutil.copy(layout.WINDOWS_TESTS / "planted_program.exe", folder / f"{name}.exe")
 
 
 class PlantedFiles(SuiteTestCase):
@@ -44,9 +51,8 @@ class PlantedFiles(SuiteTestCase):
         plant(self.prefix.unix_path(suite.program_folder))
         plant(current_folder)
 
-        # Without the launcher, whose shims load libraries of these names.
         program = self.start_program(suite, rows=2, folder=current_folder,
-                                     environment={"WINE_RUN_TOOLS": ""})
+                                     environment=ENVIRONMENT)
         program.main_window.toggle_row(0)
         program.main_window.toggle_row(1)
         program.main_window.press_uninstall()

@@ -25,7 +25,8 @@ constexpr UINT cannotPrepare = 126;
 constexpr UINT cannotStart = 127;
 constexpr DWORD largestUnixCode = 255;
 constexpr DWORD loadTimeoutMs = 60'000;
-constexpr const wchar_t* shims[] = {L"pipe_shim.dll", L"certificate_shim.dll", L"process_shim.dll"};
+constexpr const wchar_t* shims[] = {L"pipe_shim.dll", L"certificate_shim.dll", L"process_shim.dll",
+                                    L"file_shim.dll"};
 
 struct HandleCloser
 {

@@ -1,10 +1,13 @@
-// Adds to one process what Wine's CreateProcessW lacks: it refuses to start a program whose
-// manifest requires administrator rights when the user has none. Wine grants the rights and starts
-// it.
+// Adds to one process what Wine's CreateProcessW lacks. It refuses
+// - a program whose manifest asks for more rights, as for an administrator's process that is not
+//   elevated, unless the environment says RunAsInvoker;
+// - a command line that is too long.
+// Wine grants the rights and starts both.
 //
 // Loaded by launcher.exe before the program's first instruction.
 #include "tests/support/import_slot.h"
 
+#include <cwchar>
 #include <string>
 #include <string_view>
 
@@ -12,6 +15,9 @@ namespace {
 
 // The Windows SDK's ERROR_ELEVATION_REQUIRED, which MinGW's headers lack.
 constexpr DWORD elevationRequired = 740;
+
+// With the terminating null.
+constexpr std::size_t longestCommandLine = 32'767;
 
 decltype(&CreateProcessW) originalCreateProcess = nullptr;
 
@@ -25,8 +31,17 @@ std::wstring firstWord(std::wstring_view line)
     return std::wstring(line.substr(0, line.find_first_of(L" \t")));
 }
 
-bool asksForAdministrator(const std::wstring& program)
+bool runsAsInvoker()
 {
+    wchar_t layers[64] = {};
+    const DWORD length = GetEnvironmentVariableW(L"__COMPAT_LAYER", layers, 64);
+    return length < 64 && std::wstring_view(layers, length) == L"RunAsInvoker";
+}
+
+bool asksForMoreRights(const std::wstring& program)
+{
+    if (runsAsInvoker())
+        return false;
     const HMODULE module = LoadLibraryExW(program.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
     if (module == nullptr)
         return false;
@@ -37,7 +52,8 @@ bool asksForAdministrator(const std::wstring& program)
             manifest = {static_cast<const char*>(LockResource(loaded)),
                         SizeofResource(module, resource)};
     }
-    const bool asks = manifest.find("\"requireAdministrator\"") != std::string_view::npos;
+    const bool asks = manifest.find("\"requireAdministrator\"") != std::string_view::npos ||
+                      manifest.find("\"highestAvailable\"") != std::string_view::npos;
     FreeLibrary(module);
     return asks;
 }
@@ -47,7 +63,11 @@ BOOL WINAPI createProcess(LPCWSTR program, LPWSTR commandLine, LPSECURITY_ATTRIB
                           LPVOID environment, LPCWSTR folder, LPSTARTUPINFOW startup,
                           LPPROCESS_INFORMATION started)
 {
-    if (asksForAdministrator(program != nullptr ? std::wstring(program) : firstWord(commandLine))) {
+    if (commandLine != nullptr && std::wcslen(commandLine) >= longestCommandLine) {
+        SetLastError(ERROR_FILENAME_EXCED_RANGE);
+        return FALSE;
+    }
+    if (asksForMoreRights(program != nullptr ? std::wstring(program) : firstWord(commandLine))) {
         SetLastError(elevationRequired);
         return FALSE;
     }

@@ -105,7 +105,7 @@ class UninstallerFaults(SuiteTestCase):
         self.check_not_started(probes.place_text, "Unknown error 0x000000c1.")
 
     def test_one_that_needs_elevation_is_reported_in_the_detailed_log(self):
-        # process_shim.dll refuses as Windows does; Wine itself would start it.
+        # process_shim.dll refuses as Windows does.
         self.check_not_started(probes.place_elevated, "Unknown error 0x000002e4.")
 
     def test_a_full_run_over_all_of_them_reaches_the_suite(self):

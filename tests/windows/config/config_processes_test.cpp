@@ -89,8 +89,10 @@ TEST(ConfigProcesses, OverlappingSavesSucceedEventuallyAndWriteOnlyWholeLines)
     const std::wstring start = windows_tests::uniqueName(L"start");
     const win32::KernelHandle startEvent(CreateEventW(nullptr, TRUE, FALSE, start.c_str()));
     const std::wstring count = std::to_wstring(rounds);
-    const ChildProcess first(siblingProgram(L"config_writer"), {file, L"a", count, L"-", start});
-    const ChildProcess second(siblingProgram(L"config_writer"), {file, L"b", count, L"-", start});
+    const ChildProcess first(siblingProgram(L"config_writer"), {file, L"a", count, L"-", start},
+                             {true});
+    const ChildProcess second(siblingProgram(L"config_writer"), {file, L"b", count, L"-", start},
+                              {true});
     SetEvent(startEvent.get());
     EXPECT_EQ(first.waitForExit(), 0U);
     EXPECT_EQ(second.waitForExit(), 0U);

@@ -33,6 +33,13 @@ private:
     static void clear() { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Corvane"); }
 };
 
+// Whether a copy that the test starts may bring windows to the front: Windows gives that right only
+// to processes of the window in use and those that they start. Wine gives it to all.
+bool hasForegroundRight()
+{
+    return AllowSetForegroundWindow(GetCurrentProcessId()) != FALSE;
+}
+
 class Program : public testing::Test
 {
 protected:
@@ -65,9 +72,12 @@ protected:
 
 TEST_F(StartedProgram, SecondStartShowsTheFirstsWindowAndEnds)
 {
+    const bool comesToFront = hasForegroundRight();
     const SecondStart second = startSecond(first, {});
     expectPassedOn(second);
-    EXPECT_TRUE(becomesTrue([this] { return GetForegroundWindow() == first.window(); }));
+    if (comesToFront) {
+        EXPECT_TRUE(becomesTrue([this] { return GetForegroundWindow() == first.window(); }));
+    }
     EXPECT_EQ(programWindows(), std::vector<HWND>{first.window()});
     EXPECT_THAT(programLogs(), HasSubstr(". MSG: /show\n"));
 }
@@ -82,9 +92,12 @@ TEST_F(StartedProgram, SecondStartRestoresAMinimisedWindow)
 {
     ShowWindow(first.window(), SW_MINIMIZE);
     ASSERT_TRUE(becomesTrue([this] { return IsIconic(first.window()) != FALSE; }));
+    const bool comesToFront = hasForegroundRight();
     expectPassedOn(startSecond(first, {}));
     EXPECT_FALSE(IsIconic(first.window()));
-    EXPECT_TRUE(becomesTrue([this] { return GetForegroundWindow() == first.window(); }));
+    if (comesToFront) {
+        EXPECT_TRUE(becomesTrue([this] { return GetForegroundWindow() == first.window(); }));
+    }
 }
 
 TEST_F(StartedProgram, SecondStartCanMinimiseTheWindow)

@@ -107,8 +107,15 @@ std::wstring programPath()
     return nearestAbove(L"Uninstall.exe");
 }
 
-RunningProgram::RunningProgram(const std::vector<std::wstring>& arguments)
-    : process(programPath(), arguments)
+void pressKey(HWND window, WORD key)
+{
+    PostMessageW(window, WM_KEYDOWN, key, 1);
+    PostMessageW(window, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+}
+
+RunningProgram::RunningProgram(const std::vector<std::wstring>& arguments,
+                               const std::wstring& program, const ChildOptions& options)
+    : process(program, arguments, options)
 {
     if (!process.started() || WaitForInputIdle(process.handle(), waitTime(patience)) != 0)
         return;
@@ -123,7 +130,12 @@ RunningProgram::RunningProgram(const std::vector<std::wstring>& arguments)
 
 void RunningProgram::click(int x, int y) const
 {
-    const LPARAM point = MAKELPARAM(x, y);
+    constexpr int formWidth = 379;
+    RECT client = {};
+    SetProcessDPIAware(); // or the width would be that at 96 dpi
+    GetClientRect(mainWindow, &client);
+    const LPARAM point =
+        MAKELPARAM(MulDiv(x, client.right, formWidth), MulDiv(y, client.right, formWidth));
     PostMessageW(mainWindow, WM_MOUSEMOVE, 0, point);
     PostMessageW(mainWindow, WM_LBUTTONDOWN, MK_LBUTTON, point);
     PostMessageW(mainWindow, WM_LBUTTONUP, 0, point);

@@ -25,11 +25,19 @@ HWND modalBoxOf(DWORD pid);
 std::string programLogs();
 void clearLogs();
 
+// The program's path.
+std::wstring programPath();
+
+// Posts a key press to a window.
+void pressKey(HWND window, WORD key);
+
 // A first copy with its window.
 class RunningProgram
 {
 public:
-    explicit RunningProgram(const std::vector<std::wstring>& arguments = {});
+    explicit RunningProgram(const std::vector<std::wstring>& arguments = {},
+                            const std::wstring& program = programPath(),
+                            const ChildOptions& options = {});
 
     bool ready() const { return mainWindow != nullptr; }
     HWND window() const { return mainWindow; }
@@ -37,7 +45,7 @@ public:
     bool running() const { return !process.waitForExit(milliseconds(0)); }
     std::optional<DWORD> waitForExit() const { return process.waitForExit(); }
 
-    // Clicks a point of the window, in client coordinates.
+    // Clicks a point of the window, in client coordinates of a screen with 96 dpi.
     void click(int x, int y) const;
     void clickSelectAll() const { click(210, 279); }
     void clickUninstall() const { click(317, 279); }
@@ -57,8 +65,5 @@ struct SecondStart
 
 // Starts the program while `first` runs and waits for its end.
 SecondStart startSecond(const RunningProgram& first, const std::vector<std::wstring>& arguments);
-
-// The program's path.
-std::wstring programPath();
 
 } // namespace ipctest

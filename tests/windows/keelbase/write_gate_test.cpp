@@ -109,7 +109,7 @@ TEST_F(WriteGates, AfterAFailedWaitTheNextEntersDoNotWait)
     const Clock::time_point start = Clock::now();
     for (int round = 0; round < 100; ++round)
         timeToEnter(gate);
-    EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
+    EXPECT_LT(Clock::now() - start, std::chrono::seconds(30));
     // After a successful enter the next one waits.
     holder.letGo();
     timeToEnter(gate);

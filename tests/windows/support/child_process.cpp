@@ -24,6 +24,15 @@ std::wstring quoted(const std::wstring& argument)
     return text + L'"';
 }
 
+// NSIS finds a switch only if nothing but its value is in quotes.
+std::wstring quotedArgument(const std::wstring& argument)
+{
+    const std::size_t end = argument.find_first_of(L"= \t\"");
+    if (end == std::wstring::npos || argument[end] != L'=')
+        return quoted(argument);
+    return argument.substr(0, end + 1) + quoted(argument.substr(end + 1));
+}
+
 win32::KernelHandle jobThatEndsWithItsOwner()
 {
     win32::KernelHandle job(CreateJobObjectW(nullptr, nullptr));
@@ -41,7 +50,7 @@ DWORD waitTime(milliseconds time)
 }
 
 ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::wstring>& arguments,
-                           ChildOptions options)
+                           const ChildOptions& options)
     : job(jobThatEndsWithItsOwner())
 {
     std::wstring line;
@@ -50,7 +59,7 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
         line = quoted(launcher) + L' ';
     line += quoted(program);
     for (const std::wstring& argument : arguments)
-        line += L' ' + quoted(argument);
+        line += L' ' + quotedArgument(argument);
 
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
@@ -66,9 +75,14 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
         startup.hStdOutput = write;
         startup.hStdError = options.captureErrors ? write : GetStdHandle(STD_ERROR_HANDLE);
     }
+    // Uninstall.exe asks for the highest rights: without this an administrator who has not elevated
+    // the test could not start it.
+    SetEnvironmentVariableW(L"__COMPAT_LAYER", L"RunAsInvoker");
     PROCESS_INFORMATION information = {};
     if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, options.captureOutput,
-                        CREATE_SUSPENDED, nullptr, nullptr, &startup, &information)) {
+                        CREATE_SUSPENDED, nullptr,
+                        options.folder.empty() ? nullptr : options.folder.c_str(), &startup,
+                        &information)) {
         std::fprintf(stderr, "CreateProcessW(%ls): error %lu\n", line.c_str(), GetLastError());
         return;
     }

@@ -29,13 +29,15 @@ struct ChildOptions
     bool captureOutput = false;
     // Its standard error too.
     bool captureErrors = false;
+    // Its current folder; empty: the test's.
+    std::wstring folder = {};
 };
 
 class ChildProcess
 {
 public:
     ChildProcess(const std::wstring& program, const std::vector<std::wstring>& arguments,
-                 ChildOptions options = {});
+                 const ChildOptions& options = {});
     // Ends the process and its children if they still run.
     ~ChildProcess() = default;
     ChildProcess(ChildProcess&&) = default;

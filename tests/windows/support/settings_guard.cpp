@@ -19,10 +19,11 @@ bool endUnlessAllowed()
 {
     if (isAllowed())
         return true;
-    std::fprintf(stderr,
-                 "Not run: this test clears HKCU\\Software\\Corvane and the suite's log folder of "
-                 "the user who runs it.\nOn an account whose settings may be lost, set %ls=1.\n",
-                 windows_tests::settingsVariable);
+    std::fprintf(
+        stderr,
+        "Not run: this test clears HKCU\\Software\\Corvane and the suite's settings folder of "
+        "the user who runs it.\nOn an account whose settings may be lost, set %ls=1.\n",
+        windows_tests::settingsVariable);
     std::fflush(stderr);
     std::_Exit(windows_tests::refusedExitCode);
 }

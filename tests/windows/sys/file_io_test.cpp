@@ -10,7 +10,6 @@
 #include <cerrno>
 #include <chrono>
 #include <future>
-#include <share.h>
 #include <string>
 #include <vector>
 
@@ -39,7 +38,7 @@ int openForAppending(std::FILE** stream, const wchar_t* path, const wchar_t*)
     return _wfopen_s(stream, path, L"ab");
 }
 
-// Ways to hold a file open that make _wfopen_s fail on Windows.
+// Ways to hold a file open that make _wfopen_s fail.
 struct Hold
 {
     const char* how;
@@ -56,13 +55,11 @@ win32::FileHandle holder; // closed at attempt `closedAt`
 int attempts;
 int closedAt;
 
-// Shares like _wfopen_s on Windows. Wine's shares with everyone.
-int openSecurely(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
+int countAttempts(std::FILE** stream, const wchar_t* path, const wchar_t* mode)
 {
     if (++attempts == closedAt)
         holder.reset();
-    *stream = _wfsopen(path, mode, _SH_DENYWR);
-    return *stream != nullptr ? 0 : errno;
+    return _wfopen_s(stream, path, mode);
 }
 
 std::wstring requestedMode;
@@ -153,9 +150,7 @@ TEST_F(FileIo, ReadsOnceOthersHaveClosedTheFile)
             return sys::readWholeFile(file, content);
         });
         begun.get_future().wait();
-        if (hold.sharing == 0) {
-            EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it keeps trying";
-        }
+        EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it keeps trying";
         other.reset();
         EXPECT_EQ(result.get(), 0);
         EXPECT_EQ(content, "bytes");
@@ -172,7 +167,7 @@ TEST_F(FileIo, ReadIsRepeatedAfterEverySharingViolation)
         attempts = 0;
         closedAt = 5;
         content.clear();
-        EXPECT_EQ(sys::readWholeFile(file, content, &openSecurely), 0);
+        EXPECT_EQ(sys::readWholeFile(file, content, &countAttempts), 0);
         EXPECT_EQ(attempts, closedAt);
         EXPECT_EQ(content, "bytes");
     }
@@ -185,7 +180,7 @@ TEST_F(FileIo, ReadGivesUpAfterHalfASecond)
     EXPECT_EQ(sys::readWholeFile(file, content), EACCES);
     const auto spent = std::chrono::steady_clock::now() - begun;
     EXPECT_GE(spent, 450ms);
-    EXPECT_LT(spent, 5s);
+    EXPECT_LT(spent, 30s);
     EXPECT_EQ(content, "before");
 }
 
@@ -193,9 +188,9 @@ TEST_F(FileIo, ReadIsNotRepeatedAfterOtherErrors)
 {
     attempts = 0;
     closedAt = 0;
-    EXPECT_EQ(sys::readWholeFile(scratch / L"missing", content, &openSecurely), ENOENT);
+    EXPECT_EQ(sys::readWholeFile(scratch / L"missing", content, &countAttempts), ENOENT);
     EXPECT_EQ(attempts, 1);
-    EXPECT_EQ(sys::readWholeFile(scratch.path(), content, &openSecurely), EACCES);
+    EXPECT_EQ(sys::readWholeFile(scratch.path(), content, &countAttempts), EACCES);
     EXPECT_EQ(attempts, 2);
 }
 
