@@ -165,7 +165,7 @@ TEST_F(FileIo, ReadIsRepeatedAfterEverySharingViolation)
         holder = openFile(file, hold.access, hold.sharing);
         ASSERT_TRUE(holder);
         attempts = 0;
-        closedAt = 5;
+        closedAt = 3;
         content.clear();
         EXPECT_EQ(sys::readWholeFile(file, content, &countAttempts), 0);
         EXPECT_EQ(attempts, closedAt);
