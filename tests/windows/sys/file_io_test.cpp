@@ -39,6 +39,12 @@ int openForAppending(std::FILE** stream, const wchar_t* path, const wchar_t*)
     return _wfopen_s(stream, path, L"ab");
 }
 
+// A stream that gives fewer bytes than its size: one for each end of a line.
+int openForText(std::FILE** stream, const wchar_t* path, const wchar_t*)
+{
+    return _wfopen_s(stream, path, L"rt");
+}
+
 // Ways to hold a file open that make _wfopen_s fail on Windows.
 struct Hold
 {
@@ -133,6 +139,15 @@ TEST(FileIo, FailedReadHasItsOwnCode)
     std::string content = "before";
     EXPECT_EQ(sys::readWholeFile(scratch / L"file", content, &openForAppending), 100004);
     EXPECT_EQ(content, "before");
+}
+
+TEST(FileIo, ContentEndsWithTheLastByteThatCouldBeRead)
+{
+    const ScratchFolder scratch;
+    writeBytes(scratch / L"file", "a\r\nb\r\n");
+    std::string content;
+    EXPECT_EQ(sys::readWholeFile(scratch / L"file", content, &openForText), 0);
+    EXPECT_EQ(content, "a\nb\n");
 }
 
 TEST(FileIo, ReadsOnceOthersHaveClosedTheFile)
