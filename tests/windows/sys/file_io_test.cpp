@@ -38,6 +38,12 @@ int openForAppending(std::FILE** stream, const wchar_t* path, const wchar_t*)
     return _wfopen_s(stream, path, L"ab");
 }
 
+// A stream that gives fewer bytes than its size: one for each end of a line.
+int openForText(std::FILE** stream, const wchar_t* path, const wchar_t*)
+{
+    return _wfopen_s(stream, path, L"rt");
+}
+
 // Ways to hold a file open that make _wfopen_s fail.
 struct Hold
 {
@@ -134,6 +140,13 @@ TEST_F(FileIo, FailedReadHasItsOwnCode)
     writeBytes(file, "bytes");
     EXPECT_EQ(sys::readWholeFile(file, content, &openForAppending), 100004);
     EXPECT_EQ(content, "before");
+}
+
+TEST_F(FileIo, ContentEndsWithTheLastByteThatCouldBeRead)
+{
+    writeBytes(file, "a\r\nb\r\n");
+    EXPECT_EQ(sys::readWholeFile(file, content, &openForText), 0);
+    EXPECT_EQ(content, "a\nb\n");
 }
 
 TEST_F(FileIo, ReadsOnceOthersHaveClosedTheFile)
