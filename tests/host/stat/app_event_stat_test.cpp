@@ -185,6 +185,7 @@ TEST_F(AppEventStat, RepeatsARejectedPostOnceAndLogsNothingWhenThatIsAccepted)
     sendNow();
     ASSERT_EQ(scripted::requests().size(), 2U);
     EXPECT_EQ(scripted::requests()[0].postData, scripted::requests()[1].postData);
+    EXPECT_EQ(scripted::requests()[1].timeoutSeconds, 10);
     EXPECT_TRUE(log().empty());
 }
 

@@ -296,6 +296,9 @@ TEST(DataBuff, ByteStringTakesAllBytesAndEmptyChangesNothing)
     std::string text = "before";
     buffer.copyToString(text);
     EXPECT_EQ(text, "before");
+    buffer.attach(newBlock("x"), 0);
+    buffer.copyToString(text);
+    EXPECT_EQ(text, "before");
     ASSERT_TRUE(buffer.assignString("a\0b"s));
     buffer.copyToString(text);
     EXPECT_EQ(text, "a\0b"s);
