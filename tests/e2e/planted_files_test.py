@@ -18,8 +18,8 @@ LIBRARIES = [
     "uiautomationcore", "wintab32"]
 PROGRAMS = ["taskkill"]
 
-# Without the launcher, whose shims load libraries of these names. What the search finds comes before
-# Wine's own libraries, as on Windows; but Wine's user32 would then use a planted version.dll.
+# Without the launcher, whose shims load libraries of these names. What the search finds comes
+# before Wine's own libraries, as on Windows; but Wine's user32 would use a planted version.dll.
 ENVIRONMENT = {
     "WINE_RUN_TOOLS": "",
     "WINEDLLOVERRIDES": ",".join(f"*{name}" for name in LIBRARIES if name != "version")
