@@ -8,8 +8,11 @@
 
 #include <QLabel>
 #include <QLayout>
+#include <qpa/qwindowsysteminterface.h>
 #include <QPushButton>
 #include <QSpacerItem>
+
+#include <private/qguiapplication_p.h>
 
 namespace {
 
@@ -81,6 +84,7 @@ private slots:
     void answerReleasesTheCaller();
     void closingByTheTitleBarIsASkip();
     void systemCloseCommandIsASkip();
+    void deletedSurveyIsForgottenAlthoughTheMouseEnteredIt();
     void escapeReportsNothing();
     void enterDoesNothing_data();
     void enterDoesNothing();
@@ -266,6 +270,22 @@ void QuestionDlgTest::systemCloseCommandIsASkip()
     QCOMPARE(driver.problem(), QString());
     const RecordedEvents expected{shown, {6, "skip", ""}};
     QCOMPARE(survey.events, expected);
+}
+
+// Closing destroys the platform's window, and the mouse may have entered it just before. Qt would
+// read the deleted window when the next modal one opens.
+void QuestionDlgTest::deletedSurveyIsForgottenAlthoughTheMouseEnteredIt()
+{
+    {
+        Survey survey;
+        QVERIFY(survey.show());
+        QWindow* window = survey.dialog.windowHandle();
+        QVERIFY(window->close());
+        QWindowSystemInterface::handleEnterEvent(window);
+        QCoreApplication::processEvents();
+        QCOMPARE(QGuiApplicationPrivate::currentMouseWindow, window);
+    }
+    QCOMPARE(QGuiApplicationPrivate::currentMouseWindow, nullptr);
 }
 
 void QuestionDlgTest::escapeReportsNothing()
