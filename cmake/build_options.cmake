@@ -58,7 +58,7 @@ if(TESSERA_SANITIZE)
         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 
-# For code that spends its time waiting, where size matters more than speed.
+# For code that mostly waits or runs once, where size matters more than speed.
 add_library(tessera_small_code INTERFACE)
 if(MINGW)
     target_compile_options(tessera_small_code INTERFACE $<$<CONFIG:Release>:-Os>)
