@@ -83,10 +83,9 @@ std::vector<std::wstring> touched(const std::filesystem::path& folder)
 
 bool isRunning(const Application& application)
 {
-    return win32::KernelHandle(OpenMutexW(SYNCHRONIZE, FALSE,
-                                          (L"Global\\Lumacraft_" + application.idString).c_str()))
-        .
-        operator bool();
+    const std::wstring name = L"Global\\Lumacraft_" + application.idString;
+    const win32::KernelHandle mutex(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
+    return static_cast<bool>(mutex);
 }
 
 // Answers the modal box that the program shows next, once it is there.
