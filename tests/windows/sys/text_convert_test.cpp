@@ -1,4 +1,5 @@
 #include "tests/support/recorded_log.h"
+#include "tests/support/text_pairs.h"
 #include "ui/common/sys/text_convert.h"
 
 #include <gtest/gtest.h>
@@ -7,30 +8,10 @@
 
 #include <windows.h>
 
-namespace {
-
-struct Pair
-{
-    std::string utf8;
-    std::wstring wide;
-};
-
-const Pair pairs[] = {
-    {"", L""},
-    {"a", L"a"},
-    {"Gr\xC3\xBC\xC3\x9F", L"Gr\u00FC\u00DF"},
-    {"\xE8\xA9\xA6\xE9\xA8\x93", L"\u8A66\u9A13"},
-    {"\xF0\x9F\x98\x80", L"\xD83D\xDE00"},
-    {std::string("a\0b", 3), std::wstring(L"a\0b", 3)},
-    {std::string(100000, 'x'), std::wstring(100000, L'x')},
-};
-
-} // namespace
-
 TEST(TextConvert, ConvertsUtf8BothWaysWithoutALogLine)
 {
     const testing_support::RecordedLog log;
-    for (const Pair& pair : pairs) {
+    for (const testing_support::TextPair& pair : testing_support::textPairs) {
         EXPECT_EQ(sys::fromUtf8(pair.utf8), pair.wide);
         EXPECT_EQ(sys::toUtf8(pair.wide), pair.utf8);
     }
