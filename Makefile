@@ -2,6 +2,8 @@
 # CMakePresets.json and docs/building.md).
 
 SHELL := /bin/bash
+# Another Python in PATH does not have the modules that come as Debian's packages.
+PYTHON := /usr/bin/python3 -B
 .DEFAULT_GOAL := help
 .PHONY: help setup setup-packages setup-qt setup-curl setup-wine configure build build-demo run demo screenshots test stress package bench fuzz lint format clean soak windows-kit
 
@@ -34,10 +36,10 @@ build-demo: configure
 	@cmake --build --preset windows-cross --target Uninstall sample_suite wine_launcher trust_root
 
 run: build-demo ## use the program on a sample suite: in a window, or as "make demo" without a display
-	@if [[ -n "$$DISPLAY" ]]; then python3 -B -m demo.by_hand; else python3 -B -m demo.by_itself; fi
+	@if [[ -n "$$DISPLAY" ]]; then $(PYTHON) -m demo.by_hand; else $(PYTHON) -m demo.by_itself; fi
 
 demo: build-demo ## drive the program through a full run; transcript, screenshots in build/demo/
-	@python3 -B -m demo.by_itself
+	@$(PYTHON) -m demo.by_itself
 
 screenshots: configure ## picture every window in every language: contact sheets in build/screenshots/
 	@cmake --build --preset windows-cross --target wine_launcher

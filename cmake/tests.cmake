@@ -2,6 +2,11 @@
 # COST, roughly the seconds that an entry takes, makes CTest start the longest entries first. For
 # entries without it CTest uses the times of earlier runs.
 
+# Another Python in PATH does not have the modules that come as Debian's packages.
+if(CMAKE_HOST_UNIX)
+    set(Python3_EXECUTABLE "/usr/bin/python3")
+endif()
+
 # tessera_add_host_test(NAME SOURCES ... [LIBRARIES ...])
 #   One GoogleTest executable for this machine, and its entry.
 function(tessera_add_host_test name)
@@ -11,6 +16,17 @@ function(tessera_add_host_test name)
         ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# Entries with a screen run on one processor each (tools/wine/with-display), except these:
+# tessera_use_all_processors(NAME...)
+#   For entries whose subject is what processes or threads do to each other.
+set(one_processor "WINE_RUN_PROCESSORS=1")
+function(tessera_use_all_processors)
+    foreach(name ${ARGN})
+        set_property(TEST ${name} APPEND PROPERTY
+            ENVIRONMENT_MODIFICATION "WINE_RUN_PROCESSORS=unset:")
+    endforeach()
 endfunction()
 
 # tessera_add_windows_entry(NAME COMMAND program arguments... [ENVIRONMENT variable=value...]
@@ -33,7 +49,7 @@ function(tessera_add_windows_entry name)
     endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "WINEPREFIX=${PROJECT_BINARY_DIR}/prefixes/${name};${ARG_ENVIRONMENT}")
+        ENVIRONMENT "WINEPREFIX=${PROJECT_BINARY_DIR}/prefixes/${name};${one_processor};${ARG_ENVIRONMENT}")
     if(ARG_COST)
         set_tests_properties(${name} PROPERTIES COST ${ARG_COST})
     endif()
@@ -83,11 +99,11 @@ function(tessera_add_python_test name module)
         WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "TESSERA_BUILD_DIR=${PROJECT_BINARY_DIR};${ARG_ENVIRONMENT}")
+        ENVIRONMENT "TESSERA_BUILD_DIR=${PROJECT_BINARY_DIR};${one_processor};${ARG_ENVIRONMENT}")
     if(ARG_COST)
         set_tests_properties(${name} PROPERTIES COST ${ARG_COST})
     endif()
     if(ARG_DISPLAY)
-        set_tests_properties(${name} PROPERTIES ENVIRONMENT_MODIFICATION "DISPLAY=unset:")
+        set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT_MODIFICATION "DISPLAY=unset:")
     endif()
 endfunction()

@@ -1,4 +1,4 @@
 """The Python tests and their helpers, imported from the repository's root:
 
-    python3 -m unittest tests.e2e.start_test
+    /usr/bin/python3 -m unittest tests.e2e.start_test
 """

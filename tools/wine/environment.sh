@@ -29,8 +29,7 @@ export QT_FORCE_STDERR_LOGGING=${QT_FORCE_STDERR_LOGGING-1}
 # is below Z:.
 windowsPath() {
     local path drive
-    path=$(realpath -m -s -- "$1")
-    drive=$(realpath -m -s -- "$WINEPREFIX/drive_c")
+    { read -r path && read -r drive; } < <(realpath -m -s -- "$1" "$WINEPREFIX/drive_c")
     if [[ $path == "$drive"/* ]]; then
         path="C:${path#"$drive"}"
     else
