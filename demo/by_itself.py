@@ -50,8 +50,12 @@ class Demo:
         window = program.main_window
         for row in (0, 6):
             window.toggle_row(row)
+        window.move_mouse_aside()
+        window.settled_picture()
         self.picture(window.window, "main-window")
         window.select_all()
+        window.move_mouse_aside()
+        window.settled_picture()
         self.picture(window.window, "all-selected")
         print('  "Select all" was pressed, which also checks "Delete settings and history"; '
               'then "Uninstall".', flush=True)

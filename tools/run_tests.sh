@@ -3,7 +3,7 @@
 # stays in build/test_summary.txt, and with exit code 1 when anything failed. Without arguments:
 # every preset that runs on this machine.
 #
-#   TEST_JOBS   how many Windows tests run at once (default: two for each core; they mostly wait)
+#   TEST_JOBS   how many Windows tests run at once (default: three for each core; many wait)
 set -uo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -99,7 +99,7 @@ done) &
 hostTests=$!
 if [[ " ${built[*]} " == *" windows-cross "* ]]; then
     echo "== windows-cross: test"
-    testPreset windows-cross "${TEST_JOBS:-$((2 * $(nproc)))}" &
+    testPreset windows-cross "${TEST_JOBS:-$((3 * $(nproc)))}" &
     windowsTests=$!
     tail -n +1 --pid="$windowsTests" -F build/windows/test_output.txt 2>/dev/null
     wait "$windowsTests"

@@ -13,7 +13,7 @@ from tests.harness.main_window import VISIBLE_ROWS
 from tests.harness.registry import Value
 from tests.harness.suite import (EARLY, LATE, LIST_KEY, MAIN_TITLE, START_OF_LOG,
                                  UNINSTALLER_WAIT, RunningProgram, Suite)
-from tests.harness.waiting import PATIENCE
+from tests.harness.waiting import PATIENCE, wait_until
 from tests.sample_suite.applications import SUITE
 
 FOLDER = "C:\\Program Files\\Lumacraft\\Long run"
@@ -100,13 +100,14 @@ class LongRun(SuiteTestCase):
             lambda: window.window.press("space"),
         ]
         self.pictures: Set[bytes] = set()
+        wait_until(self.begun, "the run did not begin")
         for gesture in itertools.cycle(gestures):
             gesture()
+            self.pictures.add(window.settled_picture().points)
             if self.begun() > len(IN_ORDER) - LAST_ROWS:
                 return second_starts
             self.assertTrue(program.running)
             self.assertEqual(screen.find_windows(MAIN_TITLE), [window.window])
-            self.pictures.add(window.window.picture().points)
             rows = window.checked_rows()
             self.assertTrue(all(rows), rows)
 

@@ -5,7 +5,7 @@ import shutil
 import subprocess
 import unittest
 from pathlib import Path
-from typing import Dict, Iterable, List, Optional
+from typing import Dict, Iterable, List, Optional, Sequence
 
 from tests.harness import layout, screen
 from tests.harness.prefix import Prefix
@@ -16,8 +16,8 @@ from tests.sample_suite.applications import Application
 
 
 class SuiteTestCase(unittest.TestCase):
-    """Each test has its own computer (Wine prefix) below the build tree. After a failure it is kept,
-    with a picture of the screen; otherwise it is removed."""
+    """Each test has its own computer (Wine prefix) below the build tree, made when it is first used.
+    After a failure it is kept, with a picture of the screen; otherwise it is removed."""
 
     maxDiff = None
 
@@ -26,26 +26,29 @@ class SuiteTestCase(unittest.TestCase):
         problems = len(result.failures) + len(result.errors)
         name = self.id().rpartition(".")[0].rpartition(".")[2] + "." + self._testMethodName
         self.scratch: Path = layout.BUILD / "e2e" / f"{name}-{os.getpid()}"
+        self.scratch.mkdir(parents=True)
         self.prefix = Prefix(self.scratch / "prefix")
+        self.last_screen: Optional[screen.Picture] = None
         super().run(result)
         if len(result.failures) + len(result.errors) == problems:
             shutil.rmtree(self.scratch, ignore_errors=True)
         else:
+            if self.last_screen is not None:
+                self.last_screen.save(self.scratch / "screen.png")
             print(f"\nkept: {self.scratch}", flush=True)
         return result
 
     def setUp(self):
         self.programs: List[RunningProgram] = []
-        self.prefix.create()
         self.addCleanup(self.prefix.end)
-        self.addCleanup(self._save_last_screen)
+        self.addCleanup(self._keep_last_screen)
 
-    def _save_last_screen(self):
-        screen.save_screen(self.scratch / "screen.png")
+    def _keep_last_screen(self):
+        self.last_screen = screen.whole_screen().picture()
 
     # Steps that most tests begin with
 
-    def install(self, chosen: Iterable[Application], brand: str = PRODUCT_BRAND) -> Suite:
+    def install(self, chosen: Sequence[Application], brand: str = PRODUCT_BRAND) -> Suite:
         """Installs the applications, and the program in the suite's folder."""
         suite = Suite(self.prefix, brand)
         suite.install(chosen)

@@ -15,10 +15,13 @@ _BELOW_LIST = 210
 _DELETE_BOTTOM = 245
 # Rows that the list shows completely without scrolling.
 VISIBLE_ROWS = 10
+# Pictures in a row that must be the same: a fifth of a second.
+_SETTLED = 6
 _BOX_COLUMNS = 30  # check boxes begin left of this
 
-# A check box is a frame of 13 points with rounded corners and a dark tick inside. The limits are of
-# brightness; rounded corners shorten the straight part of a side.
+# A check box is a frame of 13 points with rounded corners and a dark tick inside; rounded corners
+# shorten the straight part of a side. The limits are of the red part of the colour, because a box
+# with the mouse on it is drawn in blue.
 _FRAME_LIMIT = 0xC8
 _TICK_LIMIT = 0x60
 _BOX_SIZE = 13
@@ -66,6 +69,9 @@ class MainWindow:
 
     def __init__(self, window: Window):
         self.window = window
+        # Beside the middle of a row's box, each time on the other side: two clicks on one point would
+        # be a double click, which toggles a row only once.
+        self._aside = 4
 
     def _picture(self) -> Picture:
         picture = self.window.picture()
@@ -81,15 +87,17 @@ class MainWindow:
         return wait_until(found, "the box 'Delete settings and history' is not shown")[0]
 
     def settled_picture(self) -> Picture:
-        """A picture of the window, once two in a row are the same; the mouse is out of the way."""
-        self.window.move_mouse(*_REST)
-        seen = [self._picture()]
+        """A picture of the window once several in a row are the same."""
+        seen: List[Picture] = []
 
         def same() -> bool:
             seen.append(self._picture())
-            return seen[-1] == seen[-2]
+            return len(seen) >= _SETTLED and len({picture.points for picture in seen[-_SETTLED:]}) == 1
         wait_until(same, "the window's picture did not settle")
         return seen[-1]
+
+    def move_mouse_aside(self) -> None:
+        self.window.move_mouse(*_REST)
 
     def checked_rows(self) -> List[bool]:
         return [row.checked for row in self._rows()]
@@ -108,8 +116,8 @@ class MainWindow:
     def toggle_row(self, row: int) -> None:
         """Clicks the row's check box and waits until it has changed."""
         box = wait_until(lambda: self._rows()[row:row + 1], f"row {row} is not shown")[0]
-        self.window.click(box.x, box.y)
-        self.window.move_mouse(*_REST)
+        self.window.click(box.x + self._aside, box.y)
+        self._aside = -self._aside
         wait_until(lambda: self._rows()[row].checked != box.checked,
                    f"row {row} did not change its state")
 
@@ -118,19 +126,16 @@ class MainWindow:
         box = wait_until(self._rows, "no row is shown")[0]
         self.window.click(box.x + _BOX_COLUMNS, box.y)
         self.window.press(*keys)
-        self.window.move_mouse(*_REST)
 
     def toggle_delete_settings(self) -> None:
         box = self._delete_box()
         self.window.click(box.x, box.y)
-        self.window.move_mouse(*_REST)
         wait_until(lambda: self._delete_box().checked != box.checked,
                    "'Delete settings and history' did not change its state")
 
     def press_select_button(self) -> None:
         """"Select all" or "Select none", whichever it is."""
         self.window.click(*_SELECT)
-        self.window.move_mouse(*_REST)
 
     def select_all(self) -> None:
         """Presses "Select all" and waits until all boxes, including the delete box, are checked."""
@@ -141,7 +146,6 @@ class MainWindow:
 
     def press_uninstall(self) -> None:
         self.window.click(*_UNINSTALL)
-        self.window.move_mouse(*_REST)
 
     def close(self) -> None:
         self.window.press("alt+F4")

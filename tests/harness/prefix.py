@@ -15,7 +15,8 @@ RUN_DEADLINE = 120.0
 
 
 class Prefix:
-    """Owns the folder: `create` makes it, `destroy` ends its processes and removes it.
+    """Owns the folder: `create` or its first program makes it, `destroy` ends its processes and
+    removes it.
 
     Its programs' output goes to a file beside the folder, never to a pipe: Wine's service processes
     inherit it, and a reader would wait until they end."""
@@ -24,9 +25,13 @@ class Prefix:
         self.folder = folder
         self.output = folder.with_suffix(".txt")
 
-    def create(self) -> None:
-        self.folder.mkdir(parents=True)
-        self._wine_run("--prepare")
+    @property
+    def exists(self) -> bool:
+        return (self.folder / "system.reg").exists()
+
+    def create(self, template: Optional[Path] = None) -> None:
+        """`template` is a prefix that it becomes a copy of."""
+        self._wine_run("--prepare", {"WINE_RUN_TEMPLATE": str(template or "")})
 
     def end(self) -> None:
         """Ends every Windows process of the prefix and writes its registry to disk."""
@@ -37,8 +42,8 @@ class Prefix:
             self.end()
             shutil.rmtree(self.folder)
 
-    def _wine_run(self, option: str) -> None:
-        subprocess.run([layout.WINE_RUN, option], env=self.environment(), check=True,
+    def _wine_run(self, option: str, environment: Optional[Dict[str, str]] = None) -> None:
+        subprocess.run([layout.WINE_RUN, option], env=self.environment(environment), check=True,
                        timeout=RUN_DEADLINE, stdin=subprocess.DEVNULL)
 
     def environment(self, extra: Optional[Dict[str, str]] = None) -> Dict[str, str]:
@@ -75,6 +80,7 @@ class Prefix:
     def start(self, program: Union[str, Path], *arguments: str,
               environment: Optional[Dict[str, str]] = None, **options) -> subprocess.Popen:
         """Starts a Windows program; `options` are those of Popen."""
+        self.folder.mkdir(parents=True, exist_ok=True)
         with self.output.open("ab") as output:
             return subprocess.Popen([layout.WINE_RUN, str(program), *arguments],
                                     env=self.environment(environment),

@@ -26,7 +26,7 @@ def command(name: str) -> str:
 
 def _target(prefix: Prefix, name: str) -> Path:
     file = prefix.unix_path(path(name))
-    file.parent.mkdir(exist_ok=True)
+    file.parent.mkdir(parents=True, exist_ok=True)
     return file
 
 

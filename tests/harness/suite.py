@@ -3,9 +3,9 @@
 import shutil
 import subprocess
 from pathlib import Path, PureWindowsPath
-from typing import Callable, Dict, Iterable, List, Optional
+from typing import Callable, Dict, Iterable, List, Optional, Sequence
 
-from tests.harness import layout, log_file, screen
+from tests.harness import computers, layout, log_file, screen
 from tests.harness.main_window import MainWindow
 from tests.harness.prefix import Prefix
 from tests.harness.records import Records
@@ -55,10 +55,13 @@ class Suite:
 
     # Installing
 
-    def install(self, chosen: Iterable[Application]) -> None:
-        for application in chosen:
-            self.prefix.run(layout.INSTALLERS / f"{application.id_string}_setup.exe", "/S",
-                            f"/BRAND={self.brand}")
+    def install(self, chosen: Sequence[Application]) -> None:
+        """Runs their installers. A missing computer is made as a copy of one on which they ran."""
+        if self.prefix.exists:
+            for application in chosen:
+                computers.run_installer(self.prefix, application, self.brand)
+        else:
+            self.prefix.create(computers.with_installed(chosen, self.brand))
         self.write_common_settings(COMMON_SETTINGS.encode())
 
     def place_program(self, folder: Optional[PureWindowsPath] = None) -> None:

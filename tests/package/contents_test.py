@@ -5,6 +5,7 @@ import json
 import re
 import stat
 import subprocess
+import tempfile
 import zipfile
 from pathlib import Path
 
@@ -23,11 +24,13 @@ def text_of(file: Path) -> str:
 
 class Package(ScratchTestCase):
 
-    def setUp(self):
-        super().setUp()
-        self.assert_packed(pack(self.scratch / "out"))
-        self.main = only(self.scratch / "out", "*-windows-x64.zip")
-        self.relink = only(self.scratch / "out", "*-relink.zip")
+    @classmethod
+    def setUpClass(cls):
+        cls.out = Path(cls.enterClassContext(tempfile.TemporaryDirectory())) / "out"
+        result = pack(cls.out)
+        assert result.returncode == 0, result.stdout
+        cls.main = only(cls.out, "*-windows-x64.zip")
+        cls.relink = only(cls.out, "*-relink.zip")
 
     def unpacked(self) -> Path:
         return unpack(self.main, self.scratch / "main")
@@ -48,7 +51,7 @@ class Package(ScratchTestCase):
         files = sorted(str(file.relative_to(folder)) for file in folder.rglob("*")
                        if file.is_file() and file.name != "SHA256SUMS")
         self.assertEqual([line[66:] for line in listed], files)
-        for place in (folder, self.scratch / "out"):
+        for place in (folder, self.out):
             subprocess.run(["sha256sum", "--check", "--strict", "SHA256SUMS"], cwd=place,
                            check=True, stdout=subprocess.PIPE)
 

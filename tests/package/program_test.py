@@ -1,6 +1,7 @@
 """The packaged program, unpacked into a download folder."""
 
-from pathlib import PureWindowsPath
+import tempfile
+from pathlib import Path, PureWindowsPath
 
 from tests.harness.case import SuiteTestCase
 from tests.harness.suite import START_OF_LOG
@@ -13,12 +14,16 @@ FOLDER = PureWindowsPath("C:/users/Public/Größere Downloads – 卸载")
 
 class PackagedProgram(SuiteTestCase):
 
+    @classmethod
+    def setUpClass(cls):
+        out = Path(cls.enterClassContext(tempfile.TemporaryDirectory())) / "out"
+        result = pack(out)
+        assert result.returncode == 0, result.stdout
+        cls.package = only(out, "*-windows-x64.zip")
+
     def unpacked_suite(self, chosen):
         suite = self.install(chosen)
-        result = pack(self.scratch / "package")
-        self.assertEqual(result.returncode, 0, result.stdout)
-        folder = unpack(only(self.scratch / "package", "*-windows-x64.zip"),
-                        self.prefix.unix_path(FOLDER))
+        folder = unpack(self.package, self.prefix.unix_path(FOLDER))
         suite.program_folder = FOLDER / folder.name
         return suite
 

@@ -21,7 +21,7 @@ packages=(
     g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 lld-19 qtbase5-dev-tools qt5-qmake-bin
     qttools5-dev-tools
     # running Windows programs, and looking at them
-    wine wine64 xvfb openbox xdotool imagemagick python3-xlib
+    wine wine64 xvfb openbox imagemagick python3-xlib
     # Tahoma; a substitute for Segoe UI; Chinese, Japanese and Korean letters in one face; Thai letters
     fonts-wine fonts-open-sans fonts-wqy-microhei fonts-tlwg-garuda-ttf
     # the sample suite's installers

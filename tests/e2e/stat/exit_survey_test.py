@@ -81,8 +81,7 @@ class ExitSurvey(SuiteWithServices):
     about the latter stays open until the service has all events: the program drops queued events
     when it ends."""
 
-    def setUp(self):
-        super().setUp()
+    def take_store_addresses(self):
         handler = PureWindowsPath("C:/handler") / f"{STORE_HANDLER}.exe"
         target = self.prefix.unix_path(handler)
         target.parent.mkdir()
@@ -97,6 +96,7 @@ class ExitSurvey(SuiteWithServices):
         """Runs with one reaction for each survey; the service must receive exactly `expected`."""
         statistics = self.service(answer(200))
         suite = self.install([CLIP_SAVER, TRACK_SAVER, PARTNER, SECOND_RUNNING])
+        self.take_store_addresses()
         self.start_application(suite, SECOND_RUNNING)
         store_settings(self.common_file,
                        {"EventStatEnabled": 1, "Language": "en", "Location": "NL",

@@ -16,6 +16,7 @@ from typing import Dict, List, Optional, Tuple
 from tests.harness import layout, log_file
 from tests.harness.case import SuiteTestCase
 from tests.harness.prefix import Prefix
+from tests.harness.suite import Suite
 from tests.services.certificates import Authority
 from tests.services.connect_proxy import ConnectProxy
 from tests.services.http_service import HttpService, Received
@@ -163,8 +164,12 @@ class SuiteWithServices(ServicesMixin, SuiteTestCase):
 
     def setUp(self):
         super().setUp()
-        self.trust_authority(self.prefix)
         self.common_file = self.prefix.unix_path(self.prefix.settings / "common.cfg")
+
+    def install(self, *arguments, **options) -> Suite:
+        suite = super().install(*arguments, **options)
+        self.trust_authority(self.prefix)
+        return suite
 
 
 class StatisticsCase(ServicesMixin, unittest.TestCase):
