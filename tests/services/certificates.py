@@ -35,7 +35,7 @@ class Authority:
         self._key = folder / "authority.key"
         self._certificate = folder / "authority.pem"
         self.der = folder / "authority.der"
-        _openssl("req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-days", 30, "-subj",
+        _openssl("req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", 30, "-subj",
                  f"/CN={name}", "-keyout", self._key, "-out", self._certificate,
                  "-addext", "keyUsage=critical,keyCertSign,cRLSign")
         _openssl("x509", "-in", self._certificate, "-outform", "DER", "-out", self.der)
@@ -56,7 +56,7 @@ class Authority:
         extensions = [f"subjectAltName={names}"]
         if revocation_list is not None:
             extensions.append(f"crlDistributionPoints=URI:{revocation_list}")
-        _openssl("req", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-subj", f"/CN={hosts[0]}",
+        _openssl("req", "-newkey", "rsa:2048", "-nodes", "-subj", f"/CN={hosts[0]}",
                  *(word for extension in extensions for word in ("-addext", extension)),
                  "-keyout", key, "-out", request)
         dates = ("-days", 30) if period is None else ("-startdate", period[0],

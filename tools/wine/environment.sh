@@ -21,6 +21,8 @@ export WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=;winemenubuilder.exe=d}
 # The locale decides Windows' ANSI code page; C.UTF-8 gives US English and 1252 on every machine.
 export LC_ALL=${WINE_RUN_LOCALE:-C.UTF-8}
+# Every program with a window would read X's long table of composed letters, which nobody types here.
+export XCOMPOSEFILE=/dev/null
 
 # Without a console Qt sends its messages, and Qt Test its results, to the debugger only.
 export QT_FORCE_STDERR_LOGGING=${QT_FORCE_STDERR_LOGGING-1}
