@@ -67,8 +67,10 @@ trap 'stopStage; exit 143' TERM HUP
 # progressOf LOG STEPS: "43 %, src/corelib" from the compiler lines in a log.
 progressOf() {
     local log=$1 steps=$2 count last percent=""
-    count=$(grep -cE '^(\[[0-9/]+\] )?[^ ]*(g\+\+|gcc)[^ ]* .*-c |^  CC ' "$log" || true)
-    last=$(grep -oE '[^ ]+\.(cpp|c|cc)( |$)' "$log" | tail -n 1 | sed 's,^\(\.\./\)*,,' || true)
+    # The whole log is read again and again, so the patterns are plain texts.
+    count=$(grep -cF -e ' -c ' -e '  CC ' "$log" || true)
+    last=$(tail -n 40 "$log" | grep -oE '[^ ]+\.(cpp|c|cc)( |$)' | tail -n 1 |
+        sed 's,^\(\.\./\)*,,' || true)
     if ((steps > 0)); then
         percent=$((count * 100 / steps))
         ((percent > 99)) && percent=99

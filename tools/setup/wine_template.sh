@@ -6,7 +6,7 @@
 #   tools/setup/wine_template.sh --print-prefix   prints where it is (or will be)
 #
 # The folders of Windows' own files are links in it, and so in every copy: nothing that runs here
-# writes to them, and a copy is 80 files instead of 930.
+# writes to them, and a copy is 100 files instead of 930.
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
