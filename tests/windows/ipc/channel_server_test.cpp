@@ -141,15 +141,18 @@ TEST(ChannelServer, MayBeRestartedAfterClose)
     }
 }
 
-TEST(ChannelServer, FailureToOpenThePipeIsReturned)
+TEST(ChannelServer, FailureToOpenThePipeIsReturnedAndLogged)
 {
     // A byte pipe has the name.
     const win32::FileHandle other(
         CreateNamedPipeW(pipePath, PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 100, 100, 0, nullptr));
     ASSERT_TRUE(other);
     Server server;
+    const testing_support::RecordedLog log;
     const int result = server.channel.createServer();
     EXPECT_TRUE(result == ERROR_ACCESS_DENIED || result == ERROR_PIPE_BUSY) << result;
+    ASSERT_EQ(log.records().size(), 1U);
+    EXPECT_EQ(log.records().front().text.rfind("CreateNamedPipeW failed: ", 0), 0U);
     EXPECT_FALSE(server.channel.isPipeOpen());
     EXPECT_TRUE(endsInTime([&] { server.channel.close(); }));
 }

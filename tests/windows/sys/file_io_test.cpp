@@ -295,6 +295,19 @@ TEST_F(FileIo, FailureToReadIsLogged)
     EXPECT_EQ(log.records().front().text.rfind("ReadFile failed: ", 0), 0U);
 }
 
+// The bytes fit into the stream's buffer, so the disk refuses them no earlier than at the end.
+TEST_F(FileIo, FullDiskFailsTheWriteAndIsLogged)
+{
+    const wchar_t* const alwaysFull = L"Z:\\dev\\full";
+    if (!win32::FileHandle(
+            CreateFileW(alwaysFull, GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr)))
+        GTEST_SKIP() << "there is no device here that is always full";
+    const testing_support::RecordedLog log;
+    EXPECT_EQ(sys::writeWholeFile(alwaysFull, "new"), 100004);
+    ASSERT_EQ(log.records().size(), 1U);
+    EXPECT_EQ(log.records().front().text.rfind("WriteFile failed: ", 0), 0U);
+}
+
 TEST_F(FileIo, FoldersExistToo)
 {
     writeBytes(scratch / L"\u8A66", "");
