@@ -11,6 +11,7 @@ _UNINSTALL = (317, 276)
 _SELECT = (210, 276)
 _REST = (60, 276)  # an empty place for the mouse
 _LIST_LEFT, _LIST_TOP, _LIST_BOTTOM = 14, 13, 203
+_LIST_MIDDLE = 300  # right of all names
 _BELOW_LIST = 210
 _DELETE_BOTTOM = 245
 # Rows that the list shows completely without scrolling.
@@ -26,6 +27,8 @@ _FRAME_LIMIT = 0xC8
 _TICK_LIMIT = 0x60
 _BOX_SIZE = 13
 _STRAIGHT_SIDE = range(8, _BOX_SIZE + 1)
+# The same of a chosen row below the mouse.
+_CHOSEN_LIMIT = 0xA0
 
 
 class CheckBox(NamedTuple):
@@ -122,10 +125,14 @@ class MainWindow:
                    f"row {row} did not change its state")
 
     def press_in_list(self, *keys: str) -> None:
-        """Focuses the list by a click on a row's text, and presses keys."""
+        """Chooses the first visible row, presses keys, and waits until they changed the picture."""
         box = wait_until(self._rows, "no row is shown")[0]
         self.window.click(box.x + _BOX_COLUMNS, box.y)
+        wait_until(lambda: self._picture().dark(_LIST_MIDDLE, box.y, _CHOSEN_LIMIT),
+                   "the first row was not chosen")
+        before = self.settled_picture()
         self.window.press(*keys)
+        wait_until(lambda: self.settled_picture() != before, f"{keys} had no effect")
 
     def toggle_delete_settings(self) -> None:
         box = self._delete_box()
