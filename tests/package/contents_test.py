@@ -5,12 +5,11 @@ import json
 import re
 import stat
 import subprocess
-import tempfile
 import zipfile
 from pathlib import Path
 
 from tests.harness.layout import BUILD, PROGRAM, REPOSITORY
-from tests.package.packing import ScratchTestCase, only, pack, unpack
+from tests.package.packing import ScratchTestCase, only, pack, pack_for_class, unpack
 
 TABLE = json.loads((REPOSITORY / "packaging" / "components.json").read_text(encoding="utf-8"))
 
@@ -26,9 +25,7 @@ class Package(ScratchTestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.out = Path(cls.enterClassContext(tempfile.TemporaryDirectory())) / "out"
-        result = pack(cls.out)
-        assert result.returncode == 0, result.stdout
+        cls.out = pack_for_class(cls)
         cls.main = only(cls.out, "*-windows-x64.zip")
         cls.relink = only(cls.out, "*-relink.zip")
 

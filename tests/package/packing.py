@@ -26,6 +26,14 @@ def pack(output: Path, build: Path = BUILD, repository: Path = REPOSITORY,
         stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, timeout=DEADLINE, check=False)
 
 
+def pack_for_class(cls) -> Path:
+    """Packs the build for all tests of a class, and returns the folder of the packages."""
+    output = Path(cls.enterClassContext(tempfile.TemporaryDirectory())) / "out"
+    result = pack(output)
+    assert result.returncode == 0, result.stdout
+    return output
+
+
 def only(folder: Path, pattern: str) -> Path:
     found = list(folder.glob(pattern))
     assert len(found) == 1, (pattern, found)

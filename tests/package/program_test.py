@@ -1,11 +1,10 @@
 """The packaged program, unpacked into a download folder."""
 
-import tempfile
 from pathlib import Path, PureWindowsPath
 
 from tests.harness.case import SuiteTestCase
 from tests.harness.suite import START_OF_LOG
-from tests.package.packing import only, pack, unpack
+from tests.package.packing import only, pack_for_class, unpack
 from tests.sample_suite.applications import AWKWARD_FOLDER, PARTNER, SECOND_RUNNING
 
 # A blank, German letters, an en dash and Chinese letters: no ANSI code page has all of them.
@@ -16,10 +15,7 @@ class PackagedProgram(SuiteTestCase):
 
     @classmethod
     def setUpClass(cls):
-        out = Path(cls.enterClassContext(tempfile.TemporaryDirectory())) / "out"
-        result = pack(out)
-        assert result.returncode == 0, result.stdout
-        cls.package = only(out, "*-windows-x64.zip")
+        cls.package = only(pack_for_class(cls), "*-windows-x64.zip")
 
     def unpacked_suite(self, chosen):
         suite = self.install(chosen)
