@@ -139,6 +139,15 @@ fetchDebianSource() {
     dpkg-source --no-check -x ./*.dsc "$folder/source"
 }
 
+# applyPatches FOLDER PATCH...
+applyPatches() {
+    local folder=$1 patch
+    shift
+    for patch in "$@"; do
+        patch -s -d "$folder" -p1 <"$patch"
+    done
+}
+
 # buildLibrary NAME TITLE SOURCE_PACKAGE VERSION COMPILER_CALLS [--print-prefix]: cross-builds a
 # library from Debian's source package by recipes/NAME.sh, once. The result is kept outside the
 # tree, in a folder named by the version and a hash of the recipe and of patches/NAME/*.patch; the
@@ -178,6 +187,7 @@ buildLibrary() {
 
     say "building $title $version for Windows once (log: $setupLog)"
     runStage "fetching the source" 0 fetchDebianSource "$package" "$version" "$work"
+    runStage "patching it" 0 applyPatches "$work/source" "${patches[@]}"
     runStage "configuring" 0 "${name}Configure"
     runStage "compiling" "$compilerCalls" "${name}Compile"
     runStage "installing" 0 "${name}Install"

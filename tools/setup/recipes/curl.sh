@@ -1,8 +1,8 @@
 # shellcheck shell=bash
 # How libcurl is built for 64-bit Windows: static, HTTP and HTTPS only, TLS through Schannel, so
-# that trust is the system's certificate store. The install is keyed by a hash of this file. The
-# functions are run as stages by tools/setup/curl.sh, which sets $curlSource, $curlBuild,
-# $curlPrefix and $curlStage.
+# that trust is the system's certificate store. The install is keyed by a hash of this file and of
+# the patches. The functions are run as stages by tools/setup/curl.sh, which sets $curlSource,
+# $curlBuild, $curlPrefix and $curlStage.
 
 # The expected number of compiler calls, for the progress display only.
 curlCompilerCalls=130
