@@ -24,9 +24,10 @@ class Demo:
         self.pictures = []
 
     def picture(self, window: Window, name: str) -> None:
-        """Taken once under each name."""
+        """Taken once under each name. A new window shows what was below it until it is painted."""
         if name not in self.pictures:
             self.pictures.append(name)
+            window.settled_picture()
             window.save(computer.FOLDER / f"{name}.png")
 
     def run(self) -> int:
@@ -51,11 +52,9 @@ class Demo:
         for row in (0, 6):
             window.toggle_row(row)
         window.move_mouse_aside()
-        window.settled_picture()
         self.picture(window.window, "main-window")
         window.select_all()
         window.move_mouse_aside()
-        window.settled_picture()
         self.picture(window.window, "all-selected")
         print('  "Select all" was pressed, which also checks "Delete settings and history"; '
               'then "Uninstall".', flush=True)

@@ -16,8 +16,6 @@ _BELOW_LIST = 210
 _DELETE_BOTTOM = 245
 # Rows that the list shows completely without scrolling.
 VISIBLE_ROWS = 10
-# Pictures in a row that must be the same: a fifth of a second.
-_SETTLED = 6
 _BOX_COLUMNS = 30  # check boxes begin left of this
 
 # A check box is a frame of 13 points with rounded corners and a dark tick inside; rounded corners
@@ -90,14 +88,7 @@ class MainWindow:
         return wait_until(found, "the box 'Delete settings and history' is not shown")[0]
 
     def settled_picture(self) -> Picture:
-        """A picture of the window once several in a row are the same."""
-        seen: List[Picture] = []
-
-        def same() -> bool:
-            seen.append(self._picture())
-            return len(seen) >= _SETTLED and len({picture.points for picture in seen[-_SETTLED:]}) == 1
-        wait_until(same, "the window's picture did not settle")
-        return seen[-1]
+        return self.window.settled_picture()
 
     def move_mouse_aside(self) -> None:
         self.window.move_mouse(*_REST)

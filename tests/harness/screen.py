@@ -22,6 +22,8 @@ from tests.harness.waiting import Timeout, wait_until
 # No call of a screen tool takes longer.
 _TOOL_DEADLINE = 30.0
 _MODIFIERS = {"alt": "Alt_L", "ctrl": "Control_L"}
+# Pictures in a row that must be the same: a fifth of a second.
+_SETTLED = 6
 # Window managers obey such a caller even while another window is in use.
 _PAGER = 2
 
@@ -130,6 +132,16 @@ class Window:
         size = self._window.get_geometry()
         image = self._window.get_image(0, 0, size.width, size.height, X.ZPixmap, 0xFFFFFFFF)
         return Picture(size.width, size.height, image.data)
+
+    def settled_picture(self) -> Picture:
+        """A picture of the window once several in a row are the same."""
+        seen: List[Picture] = []
+
+        def same() -> bool:
+            seen.append(self.picture())
+            return len(seen) >= _SETTLED and len({picture.points for picture in seen[-_SETTLED:]}) == 1
+        wait_until(same, "the window's picture did not settle")
+        return seen[-1]
 
     def save(self, file: Path) -> None:
         """Writes a picture of the window with its frame."""
