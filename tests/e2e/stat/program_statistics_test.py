@@ -80,6 +80,32 @@ class ProgramStatistics(SuiteWithServices):
                     "tc_build_num": installed["TCBuildNum"], "product_name": "",
                     "id_lmc_keys": ""})
 
+    def test_the_dialogs_do_not_wait_for_the_service(self):
+        answered = threading.Event()
+
+        def hold(connection, stopping):
+            answered.wait(60.0)
+            answer(200)(connection, stopping)
+        statistics = self.service(hold)
+        self.addCleanup(answered.set)
+        suite = self.install([CLIP_SAVER, PARTNER])
+        store_settings(self.common_file, {"EventStatEnabled": 1, "Location": "NL",
+                                          **proxy_values(self.proxy(statistics))})
+        store_settings(self.application_file(CLIP_SAVER), {"EventNumber": 41})
+        program = self.start_program(suite, rows=2)
+        program.main_window.toggle_row(0)
+        program.main_window.press_uninstall()
+        survey = screen.wait_for_window(SURVEY_TITLE)
+        statistics.wait_for(1)
+        survey.press("alt+F4")
+        offer = screen.wait_for_window(OFFER_TITLE)
+        # The service has seen only the first event so far, perhaps twice.
+        self.assertEqual({event_of(request)["event_number"] for request in statistics.received},
+                         {"42"})
+        answered.set()
+        offer.press("Escape")
+        self.assertEqual(program.exit_code(), 0)
+
     def test_the_window_stays_responsive_while_the_country_is_awaited(self):
         answered = threading.Event()
 
