@@ -1,6 +1,6 @@
 """The packaged program, unpacked into a download folder."""
 
-from pathlib import Path, PureWindowsPath
+from pathlib import PureWindowsPath
 
 from tests.harness.case import SuiteTestCase
 from tests.harness.suite import START_OF_LOG
