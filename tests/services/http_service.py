@@ -44,6 +44,16 @@ def stall(_, stopping: threading.Event) -> None:
     stopping.wait()
 
 
+def held(released: threading.Event, then: Behaviour) -> Behaviour:
+    """Does nothing until the event is set."""
+    def behave(connection: socket.socket, stopping: threading.Event) -> None:
+        while not released.wait(0.05):
+            if stopping.is_set():
+                return
+        then(connection, stopping)
+    return behave
+
+
 def slow_drip(connection: socket.socket, stopping: threading.Event) -> None:
     """Begins a long answer at once and sends one byte of it every 0.2 seconds."""
     connection.sendall(_head(200, "Content-Length: 100000"))

@@ -8,7 +8,7 @@ from tests.e2e.stat.statistics_world import (GUID, SuiteWithServices, event_of, 
 from tests.harness import screen
 from tests.harness.suite import OFFER_TITLE, SURVEY_TITLE, WARNING_TITLE
 from tests.sample_suite.applications import CLIP_SAVER, PARTNER, SECOND_RUNNING, TRACK_SAVER
-from tests.services.http_service import answer
+from tests.services.http_service import answer, held
 
 SECOND_START_LIMIT = 10.0
 
@@ -82,12 +82,7 @@ class ProgramStatistics(SuiteWithServices):
 
     def test_the_dialogs_do_not_wait_for_the_service(self):
         answered = threading.Event()
-
-        def hold(connection, stopping):
-            answered.wait(60.0)
-            answer(200)(connection, stopping)
-        statistics = self.service(hold)
-        self.addCleanup(answered.set)
+        statistics = self.service(held(answered, answer(200)))
         suite = self.install([CLIP_SAVER, PARTNER])
         store_settings(self.common_file, {"EventStatEnabled": 1, "Location": "NL",
                                           **proxy_values(self.proxy(statistics))})
@@ -108,11 +103,7 @@ class ProgramStatistics(SuiteWithServices):
 
     def test_the_window_stays_responsive_while_the_country_is_awaited(self):
         answered = threading.Event()
-
-        def hold(connection, stopping):
-            answered.wait(14.0)
-            answer(200, b"NL")(connection, stopping)
-        geo = self.service(hold)
+        geo = self.service(held(answered, answer(200, b"NL")))
         suite = self.install([CLIP_SAVER, PARTNER])
         store_settings(self.common_file, proxy_values(self.proxy(geo=geo)))
         program = self.start_program(suite, rows=2)
