@@ -15,7 +15,9 @@ function(tessera_link_program target)
         return()
     endif()
     find_program(TESSERA_LLD NAMES ld.lld-19 REQUIRED)
-    target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/support/win32/delay_load.cpp")
+    target_sources(${target} PRIVATE
+        "${PROJECT_SOURCE_DIR}/support/win32/delay_load.cpp"
+        "${PROJECT_SOURCE_DIR}/support/win32/uncaught_exception.cpp")
     list(TRANSFORM TESSERA_DELAYED_LIBRARIES PREPEND "-Wl,--delayload=" OUTPUT_VARIABLE delayed)
     list(TRANSFORM delayed APPEND ".dll")
     target_link_options(${target} PRIVATE

@@ -25,6 +25,7 @@ using bench::now;
 using bench::quantile;
 
 constexpr int warmUps = 3;
+constexpr DWORD quiet = 100; // ms
 
 struct Subject
 {
@@ -39,6 +40,30 @@ struct Subject
 void forget(Subject& subject)
 {
     subject = {subject.program, {}, {}, {}, {}, {}};
+}
+
+ULONGLONG processorTime(HANDLE process)
+{
+    FILETIME created = {};
+    FILETIME ended = {};
+    FILETIME system = {};
+    FILETIME user = {};
+    if (!GetProcessTimes(process, &created, &ended, &system, &user))
+        giveUp("GetProcessTimes failed");
+    const auto number = [](const FILETIME& time) {
+        return (ULONGLONG{time.dwHighDateTime} << 32) + time.dwLowDateTime;
+    };
+    return number(system) + number(user);
+}
+
+// Waits until the program has nothing to do: a window that is closed earlier is painted first.
+void waitForRest(HANDLE process)
+{
+    ULONGLONG before = 0;
+    for (ULONGLONG used = processorTime(process); used != before; used = processorTime(process)) {
+        before = used;
+        Sleep(quiet);
+    }
 }
 
 // The largest permitted ratios to the bare windows; 0: no goal.
@@ -72,6 +97,7 @@ void startOnce(Subject& subject)
     DWORD size = 0;
     if (!EnumProcessModules(process.handle(), modules.data(), sizeof(modules), &size))
         giveUp("EnumProcessModules failed");
+    waitForRest(process.handle());
     const double closed = now();
     PostMessageW(window, WM_CLOSE, 0, 0);
     if (process.waitForExit() != 0u)
@@ -81,6 +107,7 @@ void startOnce(Subject& subject)
     subject.workingSet.push_back(static_cast<double>(memory.PeakWorkingSetSize) / 1024);
     subject.committed.push_back(static_cast<double>(memory.PeakPagefileUsage) / 1024);
     subject.libraries.push_back(static_cast<double>(size / sizeof(HMODULE)));
+    Sleep(quiet); // the system still clears up after the process
 }
 
 // The number of rows is that of the sample suite.

@@ -1,4 +1,5 @@
-"""The program's headers: imported libraries and functions, requested rights, and protections."""
+"""The program's file: imported libraries and functions, requested rights, protections, and what must
+not be in it."""
 
 import re
 import subprocess
@@ -75,6 +76,12 @@ class Protections(unittest.TestCase):
     def test_are_random_64_bit_addresses_and_no_execution_of_data(self):
         self.assertEqual(Program(PROGRAM).protections(),
                          ["high entropy", "dynamic base", "no execution of data"])
+
+
+class UncaughtExceptions(unittest.TestCase):
+
+    def test_are_not_described_on_a_console_that_nobody_sees(self):
+        self.assertNotIn(b"terminate called", PROGRAM.read_bytes())
 
 
 if __name__ == "__main__":
