@@ -3,10 +3,9 @@
 // started in a download folder, is ignored.
 //
 // Only the linker refers to __delayLoadHelper2, so this file has no header.
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
+#include <string>
 
 #include <windows.h>
 
@@ -35,15 +34,14 @@ struct SystemFolderOnly
 
 HMODULE loadFromSystemFolder(const char* name)
 {
-    wchar_t path[MAX_PATH] = {};
-    const UINT length = GetSystemDirectoryW(path, MAX_PATH);
-    const std::size_t nameLength = std::strlen(name);
-    if (length == 0 || length + 1 + nameLength >= std::size(path))
+    wchar_t folder[MAX_PATH] = {};
+    const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH)
         return nullptr;
-    path[length] = L'\\';
-    std::copy_n(name, nameLength, path + length + 1);
+    const std::wstring path =
+        std::wstring(folder, length) + L'\\' + std::wstring(name, name + std::strlen(name));
     // The library's own imports are looked up beside it, not beside the program.
-    return LoadLibraryExW(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    return LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 
 template <typename Target>

@@ -54,11 +54,13 @@ def held(released: threading.Event, then: Behaviour) -> Behaviour:
     return behave
 
 
-def slow_drip(connection: socket.socket, stopping: threading.Event) -> None:
-    """Begins a long answer at once and sends one byte of it every 0.2 seconds."""
-    connection.sendall(_head(200, "Content-Length: 100000"))
-    while not stopping.wait(0.2):
-        connection.sendall(b"x")
+def slow_drip(at_once: int = 0) -> Behaviour:
+    """A long answer: some bytes of it at once, then one every 0.2 seconds."""
+    def behave(connection: socket.socket, stopping: threading.Event) -> None:
+        connection.sendall(_head(200) + b"x" * at_once)
+        while not stopping.wait(0.2):
+            connection.sendall(b"x")
+    return behave
 
 
 def declared_size(size: int) -> Behaviour:

@@ -42,3 +42,24 @@ void replaceImport(const char* name, Function replacement, Function& original)
         }
     }
 }
+
+// The same, while it exists.
+template <typename Function>
+class ReplacedImport
+{
+public:
+    ReplacedImport(const char* importName, Function replacement) : name(importName)
+    {
+        replaceImport(name, replacement, replaced);
+    }
+    ~ReplacedImport() { replaceImport(name, replaced, replaced); }
+    ReplacedImport(const ReplacedImport&) = delete;
+    ReplacedImport& operator=(const ReplacedImport&) = delete;
+
+    // Null when the program does not import the function.
+    Function original() const { return replaced; }
+
+private:
+    const char* const name;
+    Function replaced = nullptr;
+};

@@ -309,7 +309,7 @@ class Patience(StatisticsCase):
         self.assertIn(transport_error(28), self.log())
 
     def test_a_dripping_service_costs_its_timeout(self):
-        driver = self.start(slow_drip)
+        driver = self.start(slow_drip())
         self.check_bound(driver.post("x")[1], POST_TIMEOUT)
         self.assertEqual(self.log(), [transport_error(28)])
 

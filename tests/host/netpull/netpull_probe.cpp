@@ -2,11 +2,12 @@
 //
 //   netpull_probe METHOD URL [name=value ...]
 //
-// Names are data, dataSize (a text of "x"), header, proxy, proxyPort, proxyUser, proxyPassword,
-// timeout, connect, longest, httpVersion, verify (0 accepts any server), urlSize (the address grows
-// to it), largestBlock (operator new fails for larger blocks), headersLeft and handlesLeft (libcurl
-// has memory for so many). Prints transport code, HTTP status, milliseconds and size of the body,
-// then the body itself. Ends with 3 when there is no memory for the request.
+// Names are data, dataSize (a text of "x"), dataZeros (so many zero bytes), header, proxy,
+// proxyPort, proxyUser, proxyPassword, timeout, connect, longest, httpVersion, verify (0 accepts
+// any server), urlSize (the address grows to it), largestBlock (operator new fails for larger
+// blocks), headersLeft and handlesLeft (libcurl has memory for so many). Prints transport code,
+// HTTP status, milliseconds and size of the body, then the body itself. Ends with 3 when there is
+// no memory for the request.
 
 #include "support/netpull/netpull.h"
 
@@ -34,6 +35,8 @@ bool apply(const std::string& name, const std::string& value, netpull::Request& 
         request.postData = value;
     else if (name == "dataSize")
         request.postData.assign(std::stoul(value), 'x');
+    else if (name == "dataZeros")
+        request.postData.assign(std::stoul(value), '\0');
     else if (name == "header")
         request.headers.push_back(value);
     else if (name == "proxy")

@@ -92,6 +92,11 @@ class Requests(unittest.TestCase):
         self.assertNotIn("expect", header_names(request))
         self.assertEqual(request.body, b"x" * 2_000_000)
 
+    def test_a_post_may_hold_any_bytes(self):
+        with HttpService(answer(200)) as service:
+            fetch("POST", f"http://127.0.0.1:{service.port}/form", dataZeros=3)
+        self.assertEqual(service.received[0].body, b"\0\0\0")
+
     def test_an_empty_post_is_a_post(self):
         with HttpService(answer(204)) as service:
             outcome = fetch("POST", f"http://127.0.0.1:{service.port}/form")
@@ -145,6 +150,18 @@ class Answers(unittest.TestCase):
         self.assertLessEqual(len(outcome.body), ANSWER_LIMIT)
         self.assertLess(outcome.seconds, 5)
 
+    def test_an_undeclared_long_body_is_cut_off_at_its_first_byte_too_many(self):
+        with HttpService(slow_drip(at_once=ANSWER_LIMIT)) as service:
+            outcome = get(service.port)
+        self.assertEqual((outcome.code, len(outcome.body)), (TOO_LONG, ANSWER_LIMIT))
+        self.assertLess(outcome.seconds, 5)
+
+    def test_a_byte_too_large_for_memory_is_an_error(self):
+        # The text grows from 60 to 120 bytes.
+        with HttpService(slow_drip(at_once=60)) as service:
+            outcome = get(service.port, largestBlock=100)
+        self.assertEqual((outcome.code, len(outcome.body)), (WRITE_ERROR, 60))
+
     def test_an_answer_too_large_for_memory_is_an_error(self):
         with HttpService(answer(200, b"y" * ANSWER_LIMIT)) as service:
             outcome = get(service.port, largestBlock=ANSWER_LIMIT // 4)
@@ -179,7 +196,7 @@ class Limits(unittest.TestCase):
             self.check_time(get(service.port, timeout=1), 1)
 
     def test_a_dripping_server_costs_the_timeout(self):
-        with HttpService(slow_drip) as service:
+        with HttpService(slow_drip()) as service:
             self.check_time(get(service.port, timeout=1), 1)
 
     def test_the_longest_duration_applies_when_it_is_shorter(self):

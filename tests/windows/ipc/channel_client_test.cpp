@@ -84,13 +84,9 @@ TEST(ChannelClient, ConnectingLogsExactlyTheCallsThatFailed)
 {
     EXPECT_EQ(loggedByConnecting(), std::vector<std::string>{"CreateFileW"});
 
-    decltype(&GetComputerNameW) original = nullptr;
-    decltype(&GetComputerNameW) replaced = nullptr;
-    replaceImport("GetComputerNameW", &refuseComputerName, original);
-    // cppcheck-suppress knownConditionTrueFalse ; replaceImport sets it
-    ASSERT_NE(original, nullptr);
+    const ReplacedImport refused("GetComputerNameW", &refuseComputerName);
+    ASSERT_NE(refused.original(), nullptr);
     EXPECT_EQ(loggedByConnecting(), (std::vector<std::string>{"GetComputerNameW", "CreateFileW"}));
-    replaceImport("GetComputerNameW", original, replaced);
 }
 
 TEST(ChannelClient, SendingBeforeConnectingReturns10)

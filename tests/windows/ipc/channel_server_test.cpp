@@ -96,7 +96,12 @@ TEST(ChannelServer, ThreadThatDoesNotStartLeavesNoPipeBehind)
 {
     Server server;
     win32::setBeginThread(&beginNoThread);
-    EXPECT_EQ(server.channel.createServer(), 10);
+    {
+        const testing_support::RecordedLog log;
+        EXPECT_EQ(server.channel.createServer(), 10);
+        ASSERT_EQ(log.records().size(), 1U);
+        EXPECT_EQ(log.records().front().text.rfind("_beginthreadex failed: ", 0), 0U);
+    }
     win32::setBeginThread(nullptr);
     expectNoPipe(server.channel);
     // Another start succeeds.

@@ -21,7 +21,7 @@ public:
     explicit ClaimingPeer(const std::vector<std::wstring>& more = {})
         : name(uniqueName(L"tessera_ipc_claiming")), first(name + L"_first"),
           later(name + L"_later"), stopEvent(name + L"_stop"),
-          process(siblingProgram(L"ipc_peer"), arguments(name, more))
+          process(siblingProgram(L"ipc_peer"), arguments(name, more), {false, true})
     {
         const HANDLE any[] = {first.handle(), later.handle(), process.handle()};
         WaitForMultipleObjects(3, any, FALSE, waitTime(patience));
@@ -37,6 +37,13 @@ public:
     {
         stopEvent.set();
         return process.waitForExit() == 0u;
+    }
+
+    // Lets the child end; what claiming the mutex logged.
+    std::string log()
+    {
+        stop();
+        return process.output();
     }
 
 private:

@@ -19,6 +19,15 @@ bool hasTheRight = true;
 
 decltype(&AllowSetForegroundWindow) systemAllow = nullptr;
 decltype(&TransactNamedPipe) systemTransact = nullptr;
+decltype(&SetForegroundWindow) systemForeground = nullptr;
+
+QVector<HWND> activated;
+
+BOOL WINAPI watchedForeground(HWND window)
+{
+    activated << window;
+    return systemForeground(window);
+}
 
 BOOL WINAPI watchedAllow(DWORD process)
 {
@@ -46,6 +55,7 @@ private slots:
     void laterCopyPassesItsRightOnBeforeItSends_data();
     void laterCopyPassesItsRightOnBeforeItSends();
     void onlyAMissingRightIsLogged();
+    void minimisedWindowIsActivated();
 };
 
 void ForegroundTest::initTestCase()
@@ -99,6 +109,19 @@ void ForegroundTest::onlyAMissingRightIsLogged()
         QCOMPARE(refusals, right ? 0 : 1);
     }
     hasTheRight = true;
+}
+
+void ForegroundTest::minimisedWindowIsActivated()
+{
+    Window window({}, nullptr, false);
+    window.show();
+    QVERIFY(windows_tests::becomesActive(window));
+    const ReplacedImport watched("SetForegroundWindow", &watchedForeground);
+    systemForeground = watched.original();
+    QVERIFY(systemForeground != nullptr);
+    window.receive(QStringLiteral("/show/minimized"));
+    QVERIFY(window.isMinimized());
+    QVERIFY(activated.contains(reinterpret_cast<HWND>(window.winId())));
 }
 
 TESSERA_QT_TEST(ForegroundTest)

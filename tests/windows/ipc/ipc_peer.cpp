@@ -7,12 +7,13 @@
 //   ipc_peer send TEXT
 //       sends TEXT and prints the answer. Exit code: the result of connectToServer or sendMessage.
 //   ipc_peer claim NAME [forget]
-//       claims the mutex, signals NAME_first or NAME_later, and ends on NAME_stop. With "forget" it
-//       destroys its channel before it signals.
+//       claims the mutex, prints what that logged, signals NAME_first or NAME_later, and ends on
+//       NAME_stop. With "forget" it destroys its channel before it signals.
 //
 // With TESSERA_IPC_UNINSTALLER=NAME in its environment it is a slow uninstaller, whatever its
 // arguments: it signals NAME_removing and ends on NAME_removed.
 
+#include "tests/support/recorded_log.h"
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/peer_events.h"
 #include "tests/windows/ipc/pipe_stranger.h"
@@ -172,7 +173,12 @@ int claim(const std::wstring& name, bool forget)
 {
     const NamedEvent stop(name + L"_stop");
     auto channel = std::make_unique<CInterprocessCommunicationWin>();
-    channel->claimMutex();
+    {
+        const testing_support::RecordedLog log;
+        channel->claimMutex();
+        for (const Keelbase::LogRecord& record : log.records())
+            std::puts(record.text.c_str());
+    }
     const NamedEvent role(name + (channel->firstInstance ? L"_first" : L"_later"));
     if (forget)
         channel.reset();

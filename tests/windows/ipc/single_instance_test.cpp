@@ -37,6 +37,8 @@ TEST(SingleInstance, LaterCopiesFindTheMutex)
     ClaimingPeer third;
     EXPECT_TRUE(second.isLater());
     EXPECT_TRUE(third.isLater());
+    EXPECT_EQ(third.log(), "");
+    EXPECT_EQ(first.log(), "");
 }
 
 TEST(SingleInstance, ALaterCopyKeepsTheNameTakenWhenTheFirstEnds)
@@ -100,6 +102,7 @@ TEST(SingleInstance, MutexWithoutAccessMeansALaterCopy)
     ClaimingPeer copy;
     EXPECT_TRUE(copy.isLater());
     EXPECT_TRUE(copy.stop());
+    EXPECT_EQ(copy.log().rfind("OpenMutexW failed: 5 ", 0), 0U);
 }
 
 TEST(SingleInstance, AnotherKindOfObjectWithTheNameDoesNotStopTheProgram)
@@ -109,6 +112,7 @@ TEST(SingleInstance, AnotherKindOfObjectWithTheNameDoesNotStopTheProgram)
     ClaimingPeer copy;
     EXPECT_TRUE(copy.isFirst());
     EXPECT_TRUE(copy.stop());
+    EXPECT_EQ(copy.log().rfind("CreateMutexW failed: 6 ", 0), 0U);
 }
 
 } // namespace

@@ -1,8 +1,12 @@
 #include "ui/common/sys/thread.h"
+#include "ui/common/sys/thread_start.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <thread>
+
+#include <process.h>
 
 namespace {
 
@@ -60,6 +64,45 @@ TEST(BaseThread, IsBusyWhileItRunsAndMayBeRestartedAfterwards)
     EXPECT_EQ(owner.start(), 0);
     owner.waitUntilFinished();
     EXPECT_EQ(body.runs, 2);
+}
+
+std::atomic<bool> lateThreadRuns{false};
+std::thread waker;
+unsigned stackSizeGiven = 1;
+unsigned flagsGiven = 1;
+
+// Begins a thread that runs only some time later.
+std::uintptr_t beginLate(void* security, unsigned stackSize, unsigned(__stdcall* entry)(void*),
+                         void* argument, unsigned flags, unsigned* id)
+{
+    stackSizeGiven = stackSize;
+    flagsGiven = flags;
+    const std::uintptr_t begun =
+        _beginthreadex(security, stackSize, entry, argument, CREATE_SUSPENDED, id);
+    waker = std::thread([begun] {
+        Sleep(200);
+        lateThreadRuns = true;
+        ResumeThread(reinterpret_cast<HANDLE>(begun));
+    });
+    return begun;
+}
+
+TEST(BaseThread, StartReturnsWhenTheThreadRunsThoughOneRanBefore)
+{
+    Body body;
+    SetEvent(body.gate.get());
+    win32::CBaseThread<100> owner;
+    owner.setFunction(&body);
+    ASSERT_EQ(owner.start(), 0);
+    owner.waitUntilFinished();
+    win32::setBeginThread(&beginLate);
+    EXPECT_EQ(owner.start(), 0);
+    EXPECT_TRUE(lateThreadRuns);
+    win32::setBeginThread(nullptr);
+    waker.join();
+    owner.waitUntilFinished();
+    EXPECT_EQ(stackSizeGiven, 0U);
+    EXPECT_EQ(flagsGiven, 0U);
 }
 
 } // namespace

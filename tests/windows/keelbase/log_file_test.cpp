@@ -114,6 +114,11 @@ HRESULT WINAPI answerFolder(REFKNOWNFOLDERID, DWORD, HANDLE, PWSTR* path)
     return folderResult;
 }
 
+HRESULT WINAPI failForWantOfMemory(REFKNOWNFOLDERID, DWORD, HANDLE, PWSTR*)
+{
+    throw std::bad_alloc();
+}
+
 std::filesystem::path filePathFor(HRESULT result, const wchar_t* text)
 {
     folderResult = result;
@@ -139,17 +144,27 @@ TEST_F(LogFile, IsInTheRoamingLogFolderNamedLikeTheProgram)
 
 TEST(LogFilePath, IsEmptyWhenTheSystemHasNoRoamingFolder)
 {
-    decltype(&SHGetKnownFolderPath) original = nullptr;
-    decltype(&SHGetKnownFolderPath) replaced = nullptr;
-    replaceImport("SHGetKnownFolderPath", &answerFolder, original);
-    // cppcheck-suppress knownConditionTrueFalse ; replaceImport sets it
-    ASSERT_NE(original, nullptr);
+    const ReplacedImport answered("SHGetKnownFolderPath", &answerFolder);
+    ASSERT_NE(answered.original(), nullptr);
     EXPECT_EQ(filePathFor(S_OK, L"D:\\Roaming"),
               L"D:\\Roaming\\Settings\\logs\\windows_keelbase.log");
     EXPECT_EQ(filePathFor(E_FAIL, L"D:\\Roaming"), L"");
     EXPECT_EQ(filePathFor(E_FAIL, nullptr), L"");
     EXPECT_EQ(filePathFor(S_OK, nullptr), L"");
-    replaceImport("SHGetKnownFolderPath", original, replaced);
+}
+
+TEST(LogFilePath, ThatThereIsNoMemoryForLeavesTheProgramWithoutALog)
+{
+    const std::string before = Keelbase::settingsName();
+    const ReplacedImport failing("SHGetKnownFolderPath", &failForWantOfMemory);
+    ASSERT_NE(failing.original(), nullptr);
+    Keelbase::setSettingsName("Settings");
+    Keelbase::setLogger(nullptr);
+    Keelbase::LoggerHandle logger;
+    EXPECT_EQ(Keelbase::createLogger(logger), 0);
+    ASSERT_TRUE(logger);
+    EXPECT_EQ(logger->level(), 0);
+    Keelbase::setSettingsName(before.c_str());
 }
 
 TEST_F(LogFile, LevelIsSixWithoutTheVariable)

@@ -1,5 +1,6 @@
 #include "support/keelbase/platform.h"
 #include "support/win32/unique_handle.h"
+#include "tests/support/import_slot.h"
 #include "tests/windows/support/unique_name.h"
 
 #include <gtest/gtest.h>
@@ -73,6 +74,17 @@ bool isFree(const std::filesystem::path& file)
     return !isHeld(file) || !isHeld(file) || !isHeld(file);
 }
 
+decltype(&WaitForSingleObject) wait = nullptr;
+std::vector<DWORD> waits; // of the watching thread, in ms
+const DWORD watchingThread = GetCurrentThreadId();
+
+DWORD WINAPI recordedWait(HANDLE object, DWORD milliseconds)
+{
+    if (GetCurrentThreadId() == watchingThread)
+        waits.push_back(milliseconds);
+    return wait(object, milliseconds);
+}
+
 class WriteGates : public testing::Test
 {
 protected:
@@ -115,6 +127,22 @@ TEST_F(WriteGates, AfterAFailedWaitTheNextEntersDoNotWait)
     timeToEnter(gate);
     const Holder next(file);
     EXPECT_GE(timeToEnter(gate), std::chrono::milliseconds(400));
+}
+
+TEST_F(WriteGates, WaitHalfASecondAtMostAndOnlyWhileTheGateOpens)
+{
+    Holder holder(file);
+    WriteGate gate(file);
+    const ReplacedImport watched("WaitForSingleObject", &recordedWait);
+    wait = watched.original();
+    ASSERT_NE(wait, nullptr);
+    waits.clear();
+    for (int round = 0; round < 3; ++round)
+        timeToEnter(gate);
+    holder.letGo();
+    for (int round = 0; round < 2; ++round)
+        timeToEnter(gate);
+    EXPECT_EQ(waits, (std::vector<DWORD>{500, 0, 0, 0, 500}));
 }
 
 TEST_F(WriteGates, LeavingAGateThatWasNotEnteredHasNoEffect)

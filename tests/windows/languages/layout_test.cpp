@@ -41,6 +41,7 @@ private slots:
     void windowsGrowWithTheResolution();
     void everyTextFits_data();
     void everyTextFits();
+    void offerHasSharpPictures();
     void offerIsDividedByALine();
     void focusIsVisible();
     void cutTextIsNoticed();
@@ -103,6 +104,19 @@ void LayoutTest::everyTextFits()
     }));
     QCOMPARE(seen.size(), 6);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void LayoutTest::offerHasSharpPictures()
+{
+    QVector<QSize> sizes;
+    QVERIFY(visitWindows(QStringLiteral("en"), [&sizes](const QString& name, QWidget& window) {
+        if (name != QStringLiteral("offer_video"))
+            return;
+        for (const char* label : {"info1Img", "info2Img", "info3Img", "info4Img"})
+            sizes.append(
+                window.findChild<QLabel*>(QLatin1String(label))->pixmap(Qt::ReturnByValue).size());
+    }));
+    QCOMPARE(sizes, QVector<QSize>(4, screenDpi() > 96 ? QSize(46, 44) : QSize(23, 22)));
 }
 
 // On the screen: QWidget::grab() draws it at scales at which the window does not.

@@ -1,5 +1,9 @@
-// stack_smasher [LENGTH]: writes LENGTH bytes (default 8) into an array of 8, and ends with 0.
+// stack_smasher LENGTH: writes LENGTH bytes into an array of 8, and ends with 0. Without LENGTH
+// ends with the lower half of the guard value.
+#include <cstdint>
 #include <cstdlib>
+
+extern "C" std::uintptr_t __stack_chk_guard;
 
 namespace {
 
@@ -20,5 +24,7 @@ namespace {
 
 int main(int argc, char** argv)
 {
-    return filled(argc > 1 ? std::atoi(argv[1]) : 8) == 'x' ? 0 : 1;
+    if (argc < 2)
+        return static_cast<int>(__stack_chk_guard);
+    return filled(std::atoi(argv[1])) == 'x' ? 0 : 1;
 }

@@ -1,3 +1,5 @@
+#include "tests/support/import_slot.h"
+#include "tests/support/recorded_log.h"
 #include "ui/common/stat/guid.h"
 
 #include <gtest/gtest.h>
@@ -5,6 +7,34 @@
 #include <regex>
 #include <set>
 #include <string>
+
+#include <rpc.h>
+
+namespace {
+
+RPC_STATUS RPC_ENTRY refuseUuid(UUID*)
+{
+    return RPC_S_OUT_OF_MEMORY;
+}
+
+RPC_STATUS RPC_ENTRY refuseText(const UUID*, RPC_WSTR*)
+{
+    return RPC_S_OUT_OF_MEMORY;
+}
+
+int freedTexts = 0;
+
+RPC_STATUS RPC_ENTRY countFreed(RPC_WSTR*)
+{
+    ++freedTexts;
+    return RPC_S_OK;
+}
+
+void expectLogged(const testing_support::RecordedLog& log, const std::string& start)
+{
+    ASSERT_EQ(log.records().size(), 1U);
+    EXPECT_EQ(log.records()[0].text.rfind(start, 0), 0U) << log.records()[0].text;
+}
 
 TEST(CreateGuid, ReturnsRandomUuidsInLowerCase)
 {
@@ -17,3 +47,32 @@ TEST(CreateGuid, ReturnsRandomUuidsInLowerCase)
     }
     EXPECT_EQ(guids.size(), 1000U);
 }
+
+TEST(CreateGuid, FreesTheSystemsText)
+{
+    freedTexts = 0;
+    const ReplacedImport counted("RpcStringFreeW", &countFreed);
+    stats::createGuid();
+    EXPECT_EQ(freedTexts, 1);
+}
+
+TEST(CreateGuid, IsEmptyAndLogsTheErrorWhenTheSystemGivesNone)
+{
+    freedTexts = 0;
+    const testing_support::RecordedLog log;
+    const ReplacedImport refused("UuidCreate", &refuseUuid);
+    const ReplacedImport counted("RpcStringFreeW", &countFreed);
+    EXPECT_EQ(stats::createGuid(), "");
+    EXPECT_EQ(freedTexts, 0);
+    expectLogged(log, "UuidCreate failed: 14 ");
+}
+
+TEST(CreateGuid, IsEmptyAndLogsTheErrorWhenTheSystemHasNoTextForIt)
+{
+    const testing_support::RecordedLog log;
+    const ReplacedImport refused("UuidToStringW", &refuseText);
+    EXPECT_EQ(stats::createGuid(), "");
+    expectLogged(log, "UuidToStringW failed: 14 ");
+}
+
+} // namespace

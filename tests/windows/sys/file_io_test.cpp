@@ -142,6 +142,15 @@ TEST_F(FileIo, FailedReadHasItsOwnCode)
     EXPECT_EQ(content, "before");
 }
 
+TEST_F(FileIo, ReadWithoutABeginningHasTheSameCode)
+{
+    writeBytes(file, "\x1A"
+                     "abc");
+    // In a text the first byte means its end.
+    EXPECT_EQ(sys::readWholeFile(file, content, &openForText), 100004);
+    EXPECT_EQ(content, "before");
+}
+
 TEST_F(FileIo, ContentEndsWithTheLastByteThatCouldBeRead)
 {
     writeBytes(file, "a\r\nb\r\n");
@@ -189,11 +198,15 @@ TEST_F(FileIo, ReadIsRepeatedAfterEverySharingViolation)
 TEST_F(FileIo, ReadGivesUpAfterHalfASecond)
 {
     const win32::FileHandle lock = heldFile(0);
+    attempts = 0;
+    closedAt = 0;
     const auto begun = std::chrono::steady_clock::now();
-    EXPECT_EQ(sys::readWholeFile(file, content), EACCES);
+    EXPECT_EQ(sys::readWholeFile(file, content, &countAttempts), EACCES);
     const auto spent = std::chrono::steady_clock::now() - begun;
     EXPECT_GE(spent, 450ms);
     EXPECT_LT(spent, 30s);
+    EXPECT_GT(attempts, 1);
+    EXPECT_LT(attempts, 100) << "it pauses between two attempts";
     EXPECT_EQ(content, "before");
 }
 

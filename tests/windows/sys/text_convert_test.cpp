@@ -1,12 +1,27 @@
+#include "tests/support/import_slot.h"
 #include "tests/support/recorded_log.h"
 #include "tests/support/text_pairs.h"
 #include "ui/common/sys/text_convert.h"
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 
 #include <windows.h>
+
+namespace {
+
+decltype(&MultiByteToWideChar) convert = nullptr;
+std::set<DWORD> flagsUsed;
+
+int WINAPI recordFlags(UINT codePage, DWORD flags, LPCCH text, int size, LPWSTR wide, int wideSize)
+{
+    flagsUsed.insert(flags);
+    return convert(codePage, flags, text, size, wide, wideSize);
+}
+
+} // namespace
 
 TEST(TextConvert, ConvertsUtf8BothWaysWithoutALogLine)
 {
@@ -52,6 +67,17 @@ TEST(TextConvert, CodePagesAreChosenByTheCaller)
     EXPECT_EQ(sys::fromCodePage("\xE9", 1251), L"\u0439");
     EXPECT_EQ(sys::fromCodePage("\x82\xA0", 932), L"\u3042");
     EXPECT_EQ(sys::fromCodePage("", 1252), L"");
+}
+
+TEST(TextConvert, OnlyUtf8IsCheckedForInvalidSequences)
+{
+    const ReplacedImport watched("MultiByteToWideChar", &recordFlags);
+    convert = watched.original();
+    sys::fromCodePage("text", 1252);
+    EXPECT_EQ(flagsUsed, std::set<DWORD>{0});
+    flagsUsed.clear();
+    sys::fromUtf8("text");
+    EXPECT_EQ(flagsUsed, std::set<DWORD>{MB_ERR_INVALID_CHARS});
 }
 
 TEST(TextConvert, CodePageVariantAcceptsInvalidSequences)

@@ -232,6 +232,7 @@ void WidgetFormTest::namesThatAreNoCatalogueEntriesAreListedToo()
     const WindowUnderTest under;
     QCOMPARE(under.list->count(), 1);
     QCOMPARE(under.list->item(0)->text(), QStringLiteral("Somebody Else's Tool"));
+    QVERIFY(under.select->isEnabled());
 }
 
 void WidgetFormTest::valuesThatAreNoTextAreListedToo()

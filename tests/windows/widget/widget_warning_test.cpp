@@ -11,6 +11,8 @@
 
 #include <QFile>
 
+#include <optional>
+
 #include <windows.h>
 
 namespace {
@@ -21,6 +23,13 @@ UINT WINAPI reportLength(LPWSTR, UINT)
 {
     SetLastError(ERROR_ACCESS_DENIED);
     return reportedLength;
+}
+
+BOOL WINAPI refuseProcess(LPCWSTR, LPWSTR, LPSECURITY_ATTRIBUTES, LPSECURITY_ATTRIBUTES, BOOL,
+                          DWORD, LPVOID, LPCWSTR, LPSTARTUPINFOW, LPPROCESS_INFORMATION)
+{
+    SetLastError(ERROR_FILE_NOT_FOUND);
+    return FALSE;
 }
 
 } // namespace
@@ -42,6 +51,7 @@ private slots:
     void warningOfAForeignApplicationShowsItsName();
     void taskkillIsTheSystemsAndNamesTheIdString();
     void taskkillIsNotWaitedFor();
+    void taskkillThatDoesNotStartIsLogged();
     void nothingIsStartedWithoutTheSystemsFolder_data();
     void nothingIsStartedWithoutTheSystemsFolder();
     void mutexThatCannotBeOpenedIsLoggedAndCountsAsNotRunning();
@@ -244,6 +254,20 @@ void WidgetWarningTest::taskkillIsNotWaitedFor()
     QCOMPARE(taskkill->state(), QProcess::Running);
 }
 
+void WidgetWarningTest::taskkillThatDoesNotStartIsLogged()
+{
+    answerBoxes({QMessageBox::Ok});
+    const testing_support::RecordedLog log;
+    WindowUnderTest under;
+    const ReplacedImport refused("CreateProcessW", &refuseProcess);
+    QVERIFY(refused.original() != nullptr);
+    under.window.showWarningAndKillApp("ScreenTaker", true);
+    const Keelbase::LogRecord last = log.records().back();
+    QVERIFY2(QString::fromStdString(last.text).startsWith(
+                 QStringLiteral("showWarningAndKillApp: not started: ")),
+             last.text.c_str());
+}
+
 void WidgetWarningTest::nothingIsStartedWithoutTheSystemsFolder_data()
 {
     QTest::addColumn<unsigned>("lengthReported");
@@ -258,21 +282,19 @@ void WidgetWarningTest::nothingIsStartedWithoutTheSystemsFolder()
     QFETCH(unsigned, lengthReported);
     QFETCH(QString, logged);
     reportedLength = lengthReported;
-    decltype(&GetSystemDirectoryW) original = nullptr;
-    decltype(&GetSystemDirectoryW) replaced = nullptr;
+    std::optional<ReplacedImport<decltype(&GetSystemDirectoryW)>> replaced;
     const testing_support::RecordedLog log;
     WindowUnderTest under;
     DialogDriver driver;
-    driver.expect("QMessageBox", [&original](QDialog& box) {
+    driver.expect("QMessageBox", [&replaced](QDialog& box) {
         // Qt calls the function too, so it is replaced as late as possible.
-        replaceImport("GetSystemDirectoryW", &reportLength, original);
+        replaced.emplace("GetSystemDirectoryW", &reportLength);
         QTest::mouseClick(static_cast<QMessageBox&>(box).button(QMessageBox::Ok), Qt::LeftButton);
     });
     under.window.showWarningAndKillApp("ScreenTaker", true);
-    // cppcheck-suppress knownConditionTrueFalse ; replaceImport sets it
-    QVERIFY(original != nullptr);
-    replaceImport("GetSystemDirectoryW", original, replaced);
     QCOMPARE(driver.problem(), QString());
+    QVERIFY(replaced->original() != nullptr);
+    replaced.reset();
     QVERIFY(under.window.findChild<QProcess*>() == nullptr);
     const Keelbase::LogRecord last = log.records().back();
     QCOMPARE(last.category, std::string("MainForm"));

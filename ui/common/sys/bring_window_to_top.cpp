@@ -3,6 +3,7 @@
 #include "ui/common/sys/win32_error.h"
 
 #include <exception>
+#include <iterator>
 #include <string>
 
 namespace sys {
@@ -30,7 +31,7 @@ BOOL CALLBACK visitWindow(HWND window, LPARAM parameter)
 std::wstring titleOf(HWND window)
 {
     wchar_t title[512] = {};
-    GetWindowTextW(window, title, 512);
+    GetWindowTextW(window, title, static_cast<int>(std::size(title)));
     return title;
 }
 
