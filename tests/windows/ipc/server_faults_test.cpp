@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstring>
 #include <functional>
 #include <new>
 
@@ -16,18 +17,25 @@ using namespace ipctest;
 
 namespace {
 
-// The error of the next replaced function that a server's thread calls; 0 lets it succeed.
-std::atomic<DWORD> nextError{0};
+// The function whose next call by a server's thread fails; null: none.
+std::atomic<const char*> failing{nullptr};
+std::atomic<DWORD> errorOfFailure{0};
 const DWORD testThread = GetCurrentThreadId();
 
-bool fails()
+void failOnce(const char* function, DWORD error)
 {
-    if (GetCurrentThreadId() == testThread)
+    errorOfFailure = error;
+    failing = function;
+}
+
+bool fails(const char* function)
+{
+    const char* const next = failing;
+    if (GetCurrentThreadId() == testThread || next == nullptr || std::strcmp(next, function) != 0)
         return false;
-    const DWORD error = nextError.exchange(0);
-    if (error != 0)
-        SetLastError(error);
-    return error != 0;
+    failing = nullptr;
+    SetLastError(errorOfFailure);
+    return true;
 }
 
 const NamedEvent* listening = nullptr;
@@ -35,7 +43,7 @@ const NamedEvent* listening = nullptr;
 decltype(&ConnectNamedPipe) systemConnect = nullptr;
 BOOL WINAPI connectOrFail(HANDLE pipe, LPOVERLAPPED overlapped)
 {
-    const BOOL done = fails() ? FALSE : systemConnect(pipe, overlapped);
+    const BOOL done = fails("ConnectNamedPipe") ? FALSE : systemConnect(pipe, overlapped);
     const DWORD error = GetLastError();
     listening->set();
     SetLastError(error);
@@ -45,26 +53,27 @@ BOOL WINAPI connectOrFail(HANDLE pipe, LPOVERLAPPED overlapped)
 decltype(&ReadFile) systemRead = nullptr;
 BOOL WINAPI readOrFail(HANDLE file, LPVOID bytes, DWORD size, LPDWORD read, LPOVERLAPPED overlapped)
 {
-    return fails() ? FALSE : systemRead(file, bytes, size, read, overlapped);
+    return fails("ReadFile") ? FALSE : systemRead(file, bytes, size, read, overlapped);
 }
 
 decltype(&WriteFile) systemWrite = nullptr;
 BOOL WINAPI writeOrFail(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written,
                         LPOVERLAPPED overlapped)
 {
-    return fails() ? FALSE : systemWrite(file, bytes, size, written, overlapped);
+    return fails("WriteFile") ? FALSE : systemWrite(file, bytes, size, written, overlapped);
 }
 
 decltype(&GetOverlappedResult) systemResult = nullptr;
 BOOL WINAPI resultOrFail(HANDLE file, LPOVERLAPPED overlapped, LPDWORD size, BOOL wait)
 {
-    return fails() ? FALSE : systemResult(file, overlapped, size, wait);
+    return fails("GetOverlappedResult") ? FALSE : systemResult(file, overlapped, size, wait);
 }
 
 decltype(&WaitForMultipleObjects) systemWait = nullptr;
 DWORD WINAPI waitOrFail(DWORD count, const HANDLE* objects, BOOL all, DWORD milliseconds)
 {
-    return fails() ? WAIT_FAILED : systemWait(count, objects, all, milliseconds);
+    return fails("WaitForMultipleObjects") ? WAIT_FAILED
+                                           : systemWait(count, objects, all, milliseconds);
 }
 
 // Echoes each text.
@@ -131,7 +140,7 @@ TEST_F(ServerFaults, WithoutOneNothingIsLogged)
 
 TEST_F(ServerFaults, FailureToListenEndsServingAndIsLogged)
 {
-    nextError = ERROR_PIPE_CONNECTED;
+    failOnce("ConnectNamedPipe", ERROR_PIPE_CONNECTED);
     serve();
     EXPECT_EQ(logged(), Texts{"ConnectNamedPipe failed: 535"});
 }
@@ -141,7 +150,7 @@ TEST_F(ServerFaults, FailureToReadCostsOneAnswerAndIsLogged)
     const ReplacedImport read("ReadFile", &readOrFail);
     systemRead = read.original();
     serve();
-    nextError = ERROR_BROKEN_PIPE;
+    failOnce("ReadFile", ERROR_BROKEN_PIPE);
     EXPECT_EQ(answerTo("lost"), Bytes());
     EXPECT_EQ(answerTo("next"), echo("next"));
     EXPECT_EQ(logged(), Texts{"ReadFile failed: 109"});
@@ -152,7 +161,7 @@ TEST_F(ServerFaults, RequestThatCannotBeFetchedCostsOneAnswerAndIsLogged)
     const ReplacedImport result("GetOverlappedResult", &resultOrFail);
     systemResult = result.original();
     serve();
-    nextError = ERROR_BROKEN_PIPE;
+    failOnce("GetOverlappedResult", ERROR_BROKEN_PIPE);
     EXPECT_EQ(answerTo("lost"), Bytes());
     EXPECT_EQ(answerTo("next"), echo("next"));
     EXPECT_EQ(logged(), Texts{"GetOverlappedResult failed: 109"});
@@ -163,7 +172,7 @@ TEST_F(ServerFaults, FailureToAnswerCostsOneAnswerAndIsLogged)
     const ReplacedImport write("WriteFile", &writeOrFail);
     systemWrite = write.original();
     serve();
-    nextError = ERROR_NO_DATA;
+    failOnce("WriteFile", ERROR_NO_DATA);
     EXPECT_EQ(answerTo("lost"), Bytes());
     EXPECT_EQ(answerTo("next"), echo("next"));
     EXPECT_EQ(logged(), Texts{"WriteFile failed: 232"});
@@ -175,7 +184,7 @@ TEST_F(ServerFaults, FailureToWaitForAClientIsLoggedAndTheNextIsServed)
     systemWait = wait.original();
     serve();
     // During a delivery, so that it is the wait for the next client that fails.
-    receiver.beforeAnswer = [] { nextError = ERROR_INVALID_HANDLE; };
+    receiver.beforeAnswer = [] { failOnce("WaitForMultipleObjects", ERROR_INVALID_HANDLE); };
     EXPECT_EQ(answerTo("one"), echo("one"));
     receiver.beforeAnswer = nullptr;
     // A client that is quicker than the failure is let go.

@@ -1,3 +1,4 @@
+#include "support/keelbase/keelbase.h"
 #include "support/keelbase/platform.h"
 #include "support/win32/unique_handle.h"
 #include "tests/support/import_slot.h"

@@ -75,12 +75,12 @@ bool isFree(const std::filesystem::path& file)
 }
 
 decltype(&WaitForSingleObject) wait = nullptr;
-std::vector<DWORD> waits; // of the watching thread, in ms
+std::vector<DWORD> waits; // of the watching thread with a limit, in ms
 const DWORD watchingThread = GetCurrentThreadId();
 
 DWORD WINAPI recordedWait(HANDLE object, DWORD milliseconds)
 {
-    if (GetCurrentThreadId() == watchingThread)
+    if (GetCurrentThreadId() == watchingThread && milliseconds != INFINITE)
         waits.push_back(milliseconds);
     return wait(object, milliseconds);
 }
