@@ -49,7 +49,7 @@ class SecondBuild(ScratchTestCase):
                     for name, kind, value in settings_of(BUILD, _SETTING)]
         for command in (
                 ["cmake", "--preset", "windows-cross", *settings, "-DBUILD_TESTING=OFF"],
-                ["nice", "cmake", "--build", folder, "-j1", "--target", "Uninstall.exe"]):
+                ["nice", "cmake", "--build", folder, "-j2", "--target", "Uninstall.exe"]):
             done = subprocess.run(command, cwd=sources, env=environment, text=True, check=False,
                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
             self.assertEqual(done.returncode, 0, done.stdout)

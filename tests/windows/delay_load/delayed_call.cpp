@@ -3,7 +3,8 @@
 // reports that length for its folder's path.
 //
 // Ends with 0 when the function was found and the tables hold it, with 1 when they do not, with 2
-// when the library is not the system folder's, and with the exception's code when there was one.
+// when the library is not the system folder's, with 4 when one was loaded in spite of LENGTH, and
+// with the exception's code when there was one.
 #include "tests/support/import_slot.h"
 
 #include <cstdlib>
@@ -48,6 +49,12 @@ UINT WINAPI reportLength(LPWSTR, UINT)
     return reportedLength;
 }
 
+HMODULE WINAPI endInsteadOfLoading(LPCWSTR, HANDLE, DWORD)
+{
+    TerminateProcess(GetCurrentProcess(), 4);
+    return nullptr;
+}
+
 LONG CALLBACK endWithItsCode(EXCEPTION_POINTERS* exception)
 {
     TerminateProcess(GetCurrentProcess(), exception->ExceptionRecord->ExceptionCode);
@@ -88,7 +95,8 @@ int main(int argc, char** argv)
     FARPROC found = nullptr;
     if (argc > 3) {
         reportedLength = static_cast<UINT>(std::atoi(argv[3]));
-        const ReplacedImport shortened("GetSystemDirectoryW", &reportLength);
+        const ReplacedImport reported("GetSystemDirectoryW", &reportLength);
+        const ReplacedImport loading("LoadLibraryExW", &endInsteadOfLoading);
         found = __delayLoadHelper2(&descriptor, &tables.functions[1]);
     } else {
         found = __delayLoadHelper2(&descriptor, &tables.functions[1]);
