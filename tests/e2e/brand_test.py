@@ -94,6 +94,11 @@ class Brand(SuiteTestCase):
             with self.subTest(content=content):
                 self.check_brand(neutral, expected, content)
 
+    def test_by_global_settings_in_the_root_of_a_drive(self):
+        self.install_both()
+        self.check_brand("C:/Tessera", PRODUCT_BRAND)
+        self.check_brand("C:/Tessera", COMPANY_BRAND, b"CompanyBrandMode=1\n")
+
     def test_by_folder_name_wins_over_global_settings_and_is_exact(self):
         self.install_both()
         opposite = {COMPANY_BRAND: b"CompanyBrandMode=0\n", PRODUCT_BRAND: b"CompanyBrandMode=1\n"}

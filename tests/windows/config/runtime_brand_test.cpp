@@ -118,6 +118,16 @@ TEST_F(RuntimeBrand, FolderWithoutAParentLeavesTheDefault)
         EXPECT_EQ(runtimeBrandFor(folder), "Lumacraft");
 }
 
+TEST_F(RuntimeBrand, FolderInADrivesRootDoesNotUseTheCurrentFolder)
+{
+    writeBytes(scratch / L"global.cfg", "CompanyBrandMode=1\n");
+    const std::filesystem::path previous = std::filesystem::current_path();
+    std::filesystem::current_path(scratch.path());
+    EXPECT_EQ(runtimeBrandFor(std::filesystem::current_path().root_name().native() + L"\\bin"),
+              "Lumacraft");
+    std::filesystem::current_path(previous);
+}
+
 TEST_F(RuntimeBrand, IsThatOfTheProgramsFolderAndConstant)
 {
     EXPECT_EQ(fs::runtimeBrandName(), runtimeBrandFor(sys::moduleFolder()));

@@ -25,6 +25,7 @@ QVector<HWND> activated;
 
 BOOL WINAPI watchedForeground(HWND window)
 {
+    calls << QStringLiteral("activate");
     activated << window;
     return systemForeground(window);
 }
@@ -54,6 +55,7 @@ private slots:
     void initTestCase();
     void laterCopyPassesItsRightOnBeforeItSends_data();
     void laterCopyPassesItsRightOnBeforeItSends();
+    void laterCopyActivatesItsNamesakeBeforeItSends();
     void onlyAMissingRightIsLogged();
     void minimisedWindowIsActivated();
 };
@@ -62,6 +64,7 @@ void ForegroundTest::initTestCase()
 {
     replaceImport("AllowSetForegroundWindow", &watchedAllow, systemAllow);
     replaceImport("TransactNamedPipe", &watchedTransact, systemTransact);
+    replaceImport("SetForegroundWindow", &watchedForeground, systemForeground);
 }
 
 void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends_data()
@@ -90,6 +93,24 @@ void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends()
     QCOMPARE(calls, passes ? QStringList{QStringLiteral("allow any")} + sent : sent);
 }
 
+void ForegroundTest::laterCopyActivatesItsNamesakeBeforeItSends()
+{
+    ServingPeer peer;
+    QVERIFY(peer.ready());
+    QWidget parent;
+    parent.setWindowTitle(QStringLiteral("Namesake"));
+    QWidget namesake;
+    namesake.setWindowTitle(QStringLiteral("Namesake"));
+    namesake.show();
+    QVERIFY(windows_tests::becomesVisible(namesake));
+    calls.clear();
+    activated.clear();
+    const Window window({}, &parent);
+    QCOMPARE(calls, (QStringList{QStringLiteral("allow any"), QStringLiteral("activate"),
+                                 QStringLiteral("send")}));
+    QCOMPARE(activated, QVector<HWND>{reinterpret_cast<HWND>(namesake.winId())});
+}
+
 void ForegroundTest::onlyAMissingRightIsLogged()
 {
     for (const bool right : {true, false}) {
@@ -116,9 +137,7 @@ void ForegroundTest::minimisedWindowIsActivated()
     Window window({}, nullptr, false);
     window.show();
     QVERIFY(windows_tests::becomesActive(window));
-    const ReplacedImport watched("SetForegroundWindow", &watchedForeground);
-    systemForeground = watched.original();
-    QVERIFY(systemForeground != nullptr);
+    activated.clear();
     window.receive(QStringLiteral("/show/minimized"));
     QVERIFY(window.isMinimized());
     QVERIFY(activated.contains(reinterpret_cast<HWND>(window.winId())));

@@ -38,7 +38,8 @@ std::string runtimeBrandFor(const std::wstring& moduleFolder)
     if (const auto brand = brandFromFolderName(sys::toNarrow(name)))
         return *brand;
 
-    const std::wstring globalConfig = sys::joinedPath(std::wstring(parent), L"global.cfg");
+    // The separator matters for a drive: "D:" is its current folder, "D:/" its root.
+    const std::wstring globalConfig = sys::joinedPath(std::wstring(parent) + L'/', L"global.cfg");
     std::string content;
     if (!sys::fileExists(globalConfig) || sys::readWholeFile(globalConfig, content) != sys::success)
         return defaultBrand;
