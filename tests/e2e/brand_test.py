@@ -28,7 +28,9 @@ class Brand(SuiteTestCase):
         beside.unlink(missing_ok=True)
         if global_settings is not None:
             beside.write_bytes(global_settings)
-        program = self.start_program(suite)
+        # Its own folder is current, as when it is started by a double click.
+        program = self.start_program(suite,
+                                     folder=self.prefix.unix_path(suite.program_folder))
         # Logged before the window is shown.
         logged = [message.text for message in suite.log()
                   if message.text.startswith("Try to fill list widget")]
