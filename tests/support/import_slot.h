@@ -7,18 +7,19 @@
 
 // Redirects the running program's calls of one system function to `replacement`. Only the main
 // module's import is replaced; libraries, and addresses from GetProcAddress, are not affected.
-// `original` receives the replaced function; it is unchanged when the program does not import it.
+// Returns the replaced function, null when the program does not import it.
 template <typename Function>
-void replaceImport(const char* name, Function replacement, Function& original)
+Function replaceImport(const char* name, Function replacement)
 {
     static_assert(std::is_pointer_v<Function>);
+    Function original = nullptr;
     auto* const base = reinterpret_cast<BYTE*>(GetModuleHandleW(nullptr));
     const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
     const auto* const nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
     const IMAGE_DATA_DIRECTORY& imports =
         nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
     if (imports.VirtualAddress == 0)
-        return;
+        return nullptr;
     const auto* library =
         reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + imports.VirtualAddress);
     for (; library->Name != 0; ++library) {
@@ -41,6 +42,7 @@ void replaceImport(const char* name, Function replacement, Function& original)
             VirtualProtect(slot, sizeof *slot, protection, &protection);
         }
     }
+    return original;
 }
 
 // The same, while it exists.
@@ -48,11 +50,10 @@ template <typename Function>
 class ReplacedImport
 {
 public:
-    ReplacedImport(const char* importName, Function replacement) : name(importName)
-    {
-        replaceImport(name, replacement, replaced);
-    }
-    ~ReplacedImport() { replaceImport(name, replaced, replaced); }
+    ReplacedImport(const char* importName, Function replacement)
+        : name(importName), replaced(replaceImport(importName, replacement))
+    {}
+    ~ReplacedImport() { replaceImport(name, replaced); }
     ReplacedImport(const ReplacedImport&) = delete;
     ReplacedImport& operator=(const ReplacedImport&) = delete;
 
@@ -61,5 +62,5 @@ public:
 
 private:
     const char* const name;
-    Function replaced = nullptr;
+    const Function replaced;
 };

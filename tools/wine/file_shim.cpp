@@ -32,7 +32,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
 {
     if (reason == DLL_PROCESS_ATTACH) {
         DisableThreadLibraryCalls(module);
-        replaceImport("_wfopen_s", &openSecurely, originalOpen);
+        originalOpen = replaceImport("_wfopen_s", &openSecurely);
     }
     return TRUE;
 }

@@ -58,7 +58,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
 {
     if (reason == DLL_PROCESS_ATTACH) {
         DisableThreadLibraryCalls(module);
-        replaceImport("CreateFileW", &createFile, originalCreateFile);
+        originalCreateFile = replaceImport("CreateFileW", &createFile);
     }
     return TRUE;
 }

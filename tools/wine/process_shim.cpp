@@ -81,7 +81,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
 {
     if (reason == DLL_PROCESS_ATTACH) {
         DisableThreadLibraryCalls(module);
-        replaceImport("CreateProcessW", &createProcess, originalCreateProcess);
+        originalCreateProcess = replaceImport("CreateProcessW", &createProcess);
     }
     return TRUE;
 }

@@ -62,9 +62,9 @@ private slots:
 
 void ForegroundTest::initTestCase()
 {
-    replaceImport("AllowSetForegroundWindow", &watchedAllow, systemAllow);
-    replaceImport("TransactNamedPipe", &watchedTransact, systemTransact);
-    replaceImport("SetForegroundWindow", &watchedForeground, systemForeground);
+    systemAllow = replaceImport("AllowSetForegroundWindow", &watchedAllow);
+    systemTransact = replaceImport("TransactNamedPipe", &watchedTransact);
+    systemForeground = replaceImport("SetForegroundWindow", &watchedForeground);
 }
 
 void ForegroundTest::laterCopyPassesItsRightOnBeforeItSends_data()

@@ -74,7 +74,7 @@ bool isFree(const std::filesystem::path& file)
     return !isHeld(file) || !isHeld(file) || !isHeld(file);
 }
 
-decltype(&WaitForSingleObject) wait = nullptr;
+decltype(&WaitForSingleObject) systemWait = nullptr;
 std::vector<DWORD> waits; // of the watching thread with a limit, in ms
 const DWORD watchingThread = GetCurrentThreadId();
 
@@ -82,7 +82,7 @@ DWORD WINAPI recordedWait(HANDLE object, DWORD milliseconds)
 {
     if (GetCurrentThreadId() == watchingThread && milliseconds != INFINITE)
         waits.push_back(milliseconds);
-    return wait(object, milliseconds);
+    return systemWait(object, milliseconds);
 }
 
 class WriteGates : public testing::Test
@@ -134,8 +134,8 @@ TEST_F(WriteGates, WaitHalfASecondAtMostAndOnlyWhileTheGateOpens)
     Holder holder(file);
     WriteGate gate(file);
     const ReplacedImport watched("WaitForSingleObject", &recordedWait);
-    wait = watched.original();
-    ASSERT_NE(wait, nullptr);
+    systemWait = watched.original();
+    ASSERT_NE(watched.original(), nullptr);
     waits.clear();
     for (int round = 0; round < 3; ++round)
         timeToEnter(gate);

@@ -47,8 +47,8 @@ private slots:
 
 void UninstallerStartTest::initTestCase()
 {
-    replaceImport("CreateProcessW", &recordAndCreate, createProcess);
-    // cppcheck-suppress knownConditionTrueFalse ; replaceImport sets it
+    createProcess = replaceImport("CreateProcessW", &recordAndCreate);
+    // cppcheck-suppress knownConditionTrueFalse ; it does not see what is written into the slots
     QVERIFY(createProcess != nullptr);
 }
 
