@@ -4,7 +4,7 @@
 //
 // The log: <roaming application data>\<settings name>\logs\<program>.log, UTF-8, one message a
 // line, each ended by a line feed:
-//   2026-11-21 01:39:46.123 1234:5678 6 MainForm ui/uninstall/src/widget:77 | text
+//   2026-11-21 01:39:46.123 1234:5678 6 MainForm ui/uninstall/src/widget:25 | text
 //   local time              pid :tid  level category  source file:line      | text
 // At 1 MiB the file is renamed to <program>.1.log, and so on up to .3.log; the oldest is deleted.
 // A folder that is removed while the program runs is not created again. Without a folder for

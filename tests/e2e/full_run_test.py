@@ -82,7 +82,7 @@ class FullRun(SuiteTestCase):
         self.assertEqual(suite.registered(), [])
         self.assertEqual(suite.registry()[SUITE_KEY]["UninstallMode"], 1)
 
-    def test_a_settings_folder_that_went_during_the_run_stays_away(self):
+    def test_does_not_recreate_a_settings_folder_that_was_deleted(self):
         suite = self.install([SUITE, PARTNER])
         program = self.start_program(suite, rows=2)
         self.assertTrue(suite.log())

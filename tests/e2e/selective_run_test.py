@@ -57,7 +57,7 @@ class SelectiveRun(SuiteTestCase):
         self.assert_removed(suite, TRACK_SAVER, with_settings=False)
         self.assert_untouched(suite, PARTNER)
 
-    def test_goes_on_after_an_uninstaller_that_is_missing(self):
+    def test_continues_after_an_uninstaller_that_is_missing(self):
         suite = self.install([DAMAGED, PARTNER, UNKNOWN])
         suite.damage(DAMAGED)
         self.remove_rows(suite, [0, 1], rows=3)
@@ -66,7 +66,7 @@ class SelectiveRun(SuiteTestCase):
         self.assertEqual(suite.registered(), ["Light Table", "Zebra Player"])
         self.assert_selective_log(suite, DAMAGED, PARTNER)
 
-    def test_goes_on_after_an_uninstaller_that_fails(self):
+    def test_continues_after_an_uninstaller_that_fails(self):
         suite = self.install([FAILING, PARTNER, UNKNOWN])
         self.remove_rows(suite, [0, 1], rows=3)
 

@@ -99,7 +99,7 @@ class SettingsFaults(SuiteWithServices):
                                      stderr=subprocess.DEVNULL)
             self.assertNotEqual(refused.returncode, 0, f"{item} can still be written")
 
-    def test_in_a_read_only_folder_stay_as_they_are(self):
+    def test_in_a_read_only_folder_stay_unchanged(self):
         self.install_with_services()
         before = self.common_file.read_bytes()
         self.write_protect(self.settings, self.common_file)
@@ -118,7 +118,7 @@ class SettingsFaults(SuiteWithServices):
         self.assertEqual(self.common_file.read_bytes(), before)
         self.assertEqual(list(logs.iterdir()), [])
 
-    def test_that_vanish_from_a_read_only_folder_are_not_made_anew(self):
+    def test_that_vanish_from_a_read_only_folder_are_not_recreated(self):
         def remove(connection, stopping):
             self.common_file.unlink()
             self.write_protect(self.settings)
@@ -130,7 +130,7 @@ class SettingsFaults(SuiteWithServices):
         self.assertFalse(self.common_file.exists())
         self.assertEqual(self.failures(), ["CreateFileW failed: 5 (Access denied.)"] * SAVES)
 
-    def test_on_a_full_disk_cost_the_run_nothing(self):
+    def test_on_a_full_disk_do_not_affect_the_run(self):
         def fill_disk(connection, stopping):
             # The device can be opened, reads as empty, and refuses every write.
             self.common_file.unlink()
@@ -175,7 +175,7 @@ class SettingsFaults(SuiteWithServices):
         self.remove_partner()
         self.assertEqual(self.common_file.read_bytes(), b"")
 
-    def test_are_torn_after_an_end_while_writing_and_serve_as_far_as_they_go(self):
+    def test_cut_off_by_an_end_while_writing_keep_their_complete_lines(self):
         self.install_for_an_end_in_the_save(Zoom="150")
         lines = [*self.common_file.read_bytes().splitlines(keepends=True), b"Location=NL\n"]
         torn = b"".join(sorted(line for line in lines if not line.endswith(b"=\n")))[:-2]

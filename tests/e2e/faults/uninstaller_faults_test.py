@@ -139,7 +139,7 @@ class UninstallerFaults(SuiteTestCase):
                           for text in self.removals()], lines)
         self.assert_removed(self.suite, SUITE, with_settings=False)
 
-    def test_the_key_deleted_in_between_leaves_the_rest_alone(self):
+    def test_one_that_deletes_the_registry_key_keeps_later_ones_from_starting(self):
         probes.place_misbehaving(self.prefix, "drops_key")
         probes.place_working(self.prefix, "works")
         self.install_rows(["works", "drops_key", "works", "stays"])
@@ -151,7 +151,7 @@ class UninstallerFaults(SuiteTestCase):
                                            "--> DoUninsstall: selective", "~Widget()"])
         self.assertEqual(self.suite.registry(), {})
 
-    def test_the_key_deleted_in_a_full_run_spares_the_suite_too(self):
+    def test_one_that_deletes_the_registry_key_in_a_full_run_spares_the_suite_too(self):
         probes.place_misbehaving(self.prefix, "drops_key")
         probes.place_working(self.prefix, "works")
         self.install_rows(["drops_key", "works"], [SUITE])

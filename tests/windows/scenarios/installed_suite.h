@@ -27,7 +27,7 @@ extern const Application photoStory;
 extern const Application waveTuner;
 
 // The sample suite on this computer, below a scratch folder. The user's settings of the suite are
-// emptied at the begin and the end of the scope.
+// emptied at the beginning and end of the scope.
 class InstalledSuite
 {
 public:

@@ -3,7 +3,7 @@
 #include <QSettings>
 #include <QString>
 
-// The suite's registry key, emptied at the begin and the end of its scope.
+// The suite's registry key, emptied at the beginning and end of its scope.
 class SuiteRegistry
 {
 public:

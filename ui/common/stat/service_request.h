@@ -8,7 +8,8 @@
 
 namespace stats {
 
-// A request to one of the suite's services.
+// A request to one of the suite's services, with the limits that all of them share: 10 seconds
+// until connected and 15 in all, or timeoutSeconds if that is more. Pure; any thread.
 inline netpull::Request serviceRequest(const std::string& url, const ProxySettings& proxy,
                                        int timeoutSeconds)
 {

@@ -7,8 +7,8 @@ class QProcess;
 namespace uninstall {
 
 // Waits for the GUI thread. Windows are painted and messages of the system and of other copies are
-// handled, but no mouse or key event reaches a widget, which the cursor shows. Timers and assistive
-// programs do reach widgets.
+// handled, but no mouse or key event reaches a widget; the wait cursor shows this. Timers and
+// assistive programs do reach widgets.
 
 // Waits until `process` has finished, at most `milliseconds`. Returns at once for a process that
 // did not start.
