@@ -6,6 +6,7 @@ from pathlib import Path, PureWindowsPath
 from typing import Callable, Dict, Iterable, List, Optional, Sequence
 
 from tests.harness import computers, layout, log_file, screen
+from tests.harness.announced_program import AnnouncedProgram
 from tests.harness.main_window import MainWindow
 from tests.harness.prefix import Prefix
 from tests.harness.records import Records
@@ -33,6 +34,9 @@ SELECTIVE = ["/SILENT", "/SUPPRESSMSGBOXES"]
 # in its log may make that wait appear on a busy machine.
 UNINSTALLER_WAIT = 2.0
 EARLY, LATE = 0.05, 8.0
+
+# Seconds for a run over the whole suite, with its windows, on a heavily loaded machine.
+LONGEST_RUN = 3 * PATIENCE
 
 # Variables that let the program log more than usual.
 DETAILED_LOG = {"KEELBASE_LOG_LEVEL": "7"}
@@ -133,12 +137,10 @@ class RunningApplication:
 
     def __init__(self, suite: Suite, application: Application):
         self.application = application
-        self.process = suite.prefix.start(suite.folder(application) / application.process_name,
-                                          stdout=subprocess.PIPE, text=True)
-        # The application prints the line once it holds its mutex.
-        line = self.process.stdout.readline().strip()
-        if line != "ready":
-            raise AssertionError(f"{application.process_name} said {line!r}")
+        # It is ready once it holds its mutex.
+        self.program = AnnouncedProgram(suite.prefix,
+                                        suite.folder(application) / application.process_name)
+        self.process = self.program.process
 
     @property
     def running(self) -> bool:
@@ -151,7 +153,7 @@ class RunningApplication:
         """Ends it. Must also be called when it has ended by itself."""
         self.process.terminate()
         self.process.wait(PATIENCE)
-        self.process.stdout.close()
+        self.program.close()
 
 
 class RunningProgram:
@@ -190,7 +192,7 @@ class RunningProgram:
                     wait_until(gone(window), f"'{answered[-1]}' did not close")
             meanwhile()
             return not self.running
-        wait_until(ended, "the program did not end")
+        wait_until(ended, "the program did not end", LONGEST_RUN)
         return answered
 
     def press_escape_on_surveys(self) -> List[str]:

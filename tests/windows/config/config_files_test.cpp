@@ -1,14 +1,12 @@
 #include "support/win32/unique_handle.h"
 #include "tests/windows/support/scratch_folder.h"
+#include "tests/windows/support/standing_clock.h"
 #include "ui/common/config/config.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <future>
 #include <string>
 
-using namespace std::chrono_literals;
 using fs::CConfig;
 using windows_tests::readBytes;
 using windows_tests::ScratchFolder;
@@ -103,19 +101,13 @@ TEST_F(ConfigFiles, SaveKeepsTheContentOfAFileThatIsBrieflyInUse)
           Hold{"for writing", GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE}}) {
         SCOPED_TRACE(hold.how);
         writeBytes(file, "a=1\nb=2\n");
-        win32::FileHandle other(CreateFileW(file.c_str(), hold.access, hold.sharing, nullptr,
-                                            OPEN_EXISTING, 0, nullptr));
+        static win32::FileHandle other;
+        other.reset(CreateFileW(file.c_str(), hold.access, hold.sharing, nullptr, OPEN_EXISTING, 0,
+                                nullptr));
         ASSERT_TRUE(other);
         config.setValue("c", "3");
-        std::promise<void> begun;
-        std::future<int> result = std::async(std::launch::async, [&] {
-            begun.set_value();
-            return config.save();
-        });
-        begun.get_future().wait();
-        EXPECT_EQ(result.wait_for(20ms), std::future_status::timeout) << "it keeps trying";
-        other.reset();
-        EXPECT_EQ(result.get(), 0);
+        const windows_tests::StandingClock clock([] { other.reset(); });
+        EXPECT_EQ(config.save(), 0);
         EXPECT_EQ(readBytes(file), "a=1\nb=2\nc=3\n");
     }
 }

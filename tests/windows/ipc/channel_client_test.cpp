@@ -13,7 +13,6 @@
 #include <algorithm>
 #include <atomic>
 #include <functional>
-#include <future>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -179,6 +178,42 @@ HANDLE pipeWithWaitingBytes(DWORD size)
     return INVALID_HANDLE_VALUE;
 }
 
+// Reads `size` waiting bytes in the client's place.
+void readWaitingBytes(DWORD size)
+{
+    Bytes bytes(size);
+    DWORD read = 0;
+    EXPECT_TRUE(ReadFile(pipeWithWaitingBytes(size), bytes.data(), size, &read, nullptr));
+}
+
+// Replaces the log, and calls `failed` on the sending thread after each failed transaction, before
+// the pause that follows.
+class FailedTransactions : public Keelbase::ILogger
+{
+public:
+    static std::shared_ptr<FailedTransactions> watch(std::function<void()> failed)
+    {
+        auto watcher = std::make_shared<FailedTransactions>();
+        watcher->failed = std::move(failed);
+        Keelbase::setLogger(watcher);
+        return watcher;
+    }
+
+    int level() const noexcept override { return Keelbase::levelDetail; }
+    void write(const Keelbase::LogRecord& record) noexcept override
+    {
+        if (record.text.rfind("TransactNamedPipe failed", 0) != 0)
+            return;
+        times.push_back(GetTickCount64());
+        failed();
+    }
+
+    std::vector<ULONGLONG> times;
+
+private:
+    std::function<void()> failed;
+};
+
 // An unsolicited message makes every transaction fail until it is read.
 class UnaskedMessage : public testing::Test
 {
@@ -215,48 +250,16 @@ TEST_F(UnaskedMessage, IsNotReturnedAsTheAnswer)
 
 TEST_F(UnaskedMessage, ErrorOfAnEarlierAttemptIsReturnedEvenIfALaterOneSucceeds)
 {
-    auto sent =
-        std::async(std::launch::async, [this] { return client.channel.sendMessage("text"); });
-    ASSERT_EQ(sent.wait_for(milliseconds(150)), std::future_status::timeout); // in the first pause
-    const HANDLE pipe = pipeWithWaitingBytes(static_cast<DWORD>(unasked.size()));
-    ASSERT_NE(pipe, INVALID_HANDLE_VALUE);
-    Bytes read(100);
-    DWORD size = 0;
-    ASSERT_TRUE(ReadFile(pipe, read.data(), 100, &size, nullptr));
-    EXPECT_EQ(sent.get(), ERROR_PIPE_BUSY);
+    const auto failures =
+        FailedTransactions::watch([this] { readWaitingBytes(static_cast<DWORD>(unasked.size())); });
+    EXPECT_EQ(client.channel.sendMessage("text"), ERROR_PIPE_BUSY);
+    Keelbase::setLogger(nullptr);
+    EXPECT_EQ(failures->times.size(), 1u);
     EXPECT_EQ(client.channel.getAnswer(), "in time");
     client.channel.close();
     server.join();
     EXPECT_EQ(requests, 1);
 }
-
-// Replaces the log, and calls `failed` on the sending thread after each failed transaction, before
-// the pause that follows.
-class FailedTransactions : public Keelbase::ILogger
-{
-public:
-    static std::shared_ptr<FailedTransactions> watch(std::function<void()> failed)
-    {
-        auto watcher = std::make_shared<FailedTransactions>();
-        watcher->failed = std::move(failed);
-        Keelbase::setLogger(watcher);
-        return watcher;
-    }
-
-    int level() const noexcept override { return Keelbase::levelDetail; }
-    void write(const Keelbase::LogRecord& record) noexcept override
-    {
-        if (record.text.rfind("TransactNamedPipe failed", 0) != 0)
-            return;
-        times.push_back(GetTickCount64());
-        failed();
-    }
-
-    std::vector<ULONGLONG> times;
-
-private:
-    std::function<void()> failed;
-};
 
 // The server's answers are too long for the client, which makes each transaction fail. The test
 // reads the rest of an answer, which would otherwise disturb the next transaction.
@@ -273,12 +276,7 @@ TEST(ChannelClient, TriesSevenTransactionsWithPausesBetweenThem)
     });
     Client client;
     ASSERT_EQ(client.connect(), 0);
-    const auto failures = FailedTransactions::watch([] {
-        const HANDLE pipe = pipeWithWaitingBytes(tooMuch);
-        Bytes rest(tooMuch);
-        DWORD size = 0;
-        ReadFile(pipe, rest.data(), tooMuch, &size, nullptr);
-    });
+    const auto failures = FailedTransactions::watch([] { readWaitingBytes(tooMuch); });
     const ULONGLONG start = GetTickCount64();
     EXPECT_EQ(client.channel.sendMessage("text"), ERROR_MORE_DATA);
     const ULONGLONG took = GetTickCount64() - start;
@@ -346,6 +344,31 @@ TEST(ChannelClient, SendsNothingAfterAStopRequest)
     }
     server.join();
     EXPECT_EQ(received, Bytes());
+}
+
+std::wstring awaitedPipe;
+DWORD longestWait;
+
+BOOL WINAPI findPipe(const wchar_t* name, DWORD milliseconds)
+{
+    awaitedPipe = name;
+    longestWait = milliseconds;
+    SetLastError(ERROR_SEM_TIMEOUT); // any code
+    return TRUE;
+}
+
+TEST(ChannelClient, ConnectsOnlyIfWaitingForTheBareNameFails)
+{
+    const ServerThread server([](StrangeServer&) {});
+    Client client;
+    {
+        const ReplacedImport waited("WaitNamedPipeW", &findPipe);
+        EXPECT_EQ(client.channel.connectToServer(), ERROR_SEM_TIMEOUT);
+    }
+    EXPECT_FALSE(client.channel.isPipeOpen());
+    EXPECT_EQ(awaitedPipe, L"DF467A07-9FF8-46A9-B701-2D3ADDD9BE3B_Uninstall");
+    EXPECT_EQ(longestWait, 15000U);
+    EXPECT_EQ(client.connect(), 0);
 }
 
 TEST(ChannelClient, CloseDropsTheConnectionAndMayBeRepeated)

@@ -139,7 +139,7 @@ void LayoutTest::offerIsDividedByALine()
                 }
                 return false;
             },
-            settleMs);
+            windows_tests::patienceMs);
     }));
     QVERIFY(drawn);
 }
@@ -148,7 +148,9 @@ void LayoutTest::focusIsVisible()
 {
     QStringList faults;
     QVERIFY(visitWindows(QStringLiteral("en"), [&](const QString& name, QWidget& window) {
-        // Qt shows the focus only after the first use of the keyboard.
+        // No widget of an inactive window has the focus, and Qt shows it only after the first use
+        // of the keyboard.
+        QVERIFY(windows_tests::becomesActive(window));
         QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
         for (QWidget* widget : window.findChildren<QWidget*>()) {
             if (!widget->isVisible() || !widget->isEnabled() ||

@@ -54,11 +54,11 @@ QStringList RunTestBase::startsOf(const QString& idString, const QString& progra
     return lines;
 }
 
-QStringList RunTestBase::awaitedStartsOf(const QString& idString)
+QStringList RunTestBase::awaitedStartsOf(const QString& idString, const QString& program)
 {
     QStringList starts;
     const auto started = [&] {
-        starts = startsOf(idString);
+        starts = startsOf(idString, program);
         return !starts.isEmpty();
     };
     return QTest::qWaitFor(started, deadlineMs) ? starts : QStringList();

@@ -30,7 +30,8 @@ protected:
 
     // The same, once there is one: on a busy machine an uninstaller may record its start only after
     // the run has stopped waiting for it.
-    QStringList awaitedStartsOf(const QString& idString);
+    QStringList awaitedStartsOf(const QString& idString,
+                                const QString& program = QStringLiteral("Uninst.exe"));
 
     // Starts a program that holds the application's instance mutex, and waits until it does.
     std::unique_ptr<QProcess> startApplication(const QString& idString);

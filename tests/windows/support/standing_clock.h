@@ -1,0 +1,30 @@
+#pragma once
+
+#include "tests/support/import_slot.h"
+
+#include <windows.h>
+
+namespace windows_tests {
+
+// While it exists, no time passes for the code under test: GetTickCount64 stays the same, and
+// Sleep calls `whilePaused` and returns. At most one at a time; `whilePaused` captures nothing.
+class StandingClock
+{
+public:
+    using Pause = void (*)();
+    explicit StandingClock(Pause whilePaused) { pause() = whilePaused; }
+
+private:
+    static Pause& pause()
+    {
+        static Pause current;
+        return current;
+    }
+    static ULONGLONG WINAPI standingStill() { return 1; }
+    static void WINAPI pauseInstead(DWORD) { pause()(); }
+
+    const ReplacedImport<decltype(&standingStill)> clock{"GetTickCount64", &standingStill};
+    const ReplacedImport<decltype(&pauseInstead)> sleep{"Sleep", &pauseInstead};
+};
+
+} // namespace windows_tests
