@@ -114,8 +114,11 @@ class WindowsKit(SuiteTestCase):
         self.add_test("is_missing 60 missing.exe")
         self.add_test(f"writes 60 {CMD} /c reg add HKCU\\Software\\Corvane /v Text /d test")
         self.add_test(f"finds_nothing 60 {CMD} /c reg query HKCU\\Software\\Corvane")
-        code = self.run_tests("fails", "hangs", "is_missing", "writes", "finds_nothing")
-        self.assertEqual(self.lines()[-1:], ["1 passed, 4 failed"], self.report())
+        self.add_test(f"asks_for_no_rights 60 {CMD} /c "
+                      "if %__COMPAT_LAYER%==RunAsInvoker (exit 0) else exit 1")
+        code = self.run_tests("fails", "hangs", "is_missing", "writes", "finds_nothing",
+                              "asks_for_no_rights")
+        self.assertEqual(self.lines()[-1:], ["2 passed, 4 failed"], self.report())
         self.assertEqual(code, 1)
         self.assertRegex(self.report(), r"(?s)fails: FAILED with code 3 .*"
                                         r"hangs: FAILED: over its time limit .*"

@@ -1,5 +1,6 @@
 #include "tests/windows/support/child_process.h"
 
+#include "tests/windows/support/ending_job.h"
 #include "ui/common/sys/module_path.h"
 
 #include <cstdio>
@@ -33,15 +34,6 @@ std::wstring quotedArgument(const std::wstring& argument)
     return argument.substr(0, end + 1) + quoted(argument.substr(end + 1));
 }
 
-win32::KernelHandle jobThatEndsWithItsOwner()
-{
-    win32::KernelHandle job(CreateJobObjectW(nullptr, nullptr));
-    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
-    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
-    SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof(limits));
-    return job;
-}
-
 } // namespace
 
 DWORD waitTime(milliseconds time)
@@ -51,7 +43,7 @@ DWORD waitTime(milliseconds time)
 
 ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::wstring>& arguments,
                            const ChildOptions& options)
-    : job(jobThatEndsWithItsOwner())
+    : job(endingJob())
 {
     std::wstring line;
     const std::wstring launcher = nearestAbove(L"tools\\launcher.exe");

@@ -174,6 +174,9 @@ int main(int argc, char** argv)
     settingsAreBack = backEvent.get();
     SetConsoleCtrlHandler(&stop, TRUE);
     SetEnvironmentVariableW(L"TESSERA_TESTS_MAY_CHANGE_SETTINGS", L"1");
+    // The Qt tests carry the program's manifest, which asks for the highest rights: without this an
+    // administrator who has not elevated the runner could not start them.
+    SetEnvironmentVariableW(L"__COMPAT_LAYER", L"RunAsInvoker");
     SetEnvironmentVariableW(L"TESSERA_DPI", std::to_wstring(screenDpi()).c_str());
     // Without a console of its own Qt Test writes to the debugger only.
     SetEnvironmentVariableW(L"QT_FORCE_STDERR_LOGGING", L"1");

@@ -1,6 +1,7 @@
 #include "tools/windows_kit/runner/test_run.h"
 
 #include "support/win32/unique_handle.h"
+#include "tests/windows/support/ending_job.h"
 
 namespace kit {
 
@@ -32,15 +33,6 @@ std::string contents(const FileHandle& file)
     while (ReadFile(file.get(), buffer, sizeof(buffer), &read, nullptr) && read > 0)
         text.append(buffer, read);
     return text;
-}
-
-KernelHandle jobThatEndsWithItsOwner()
-{
-    KernelHandle job(CreateJobObjectW(nullptr, nullptr));
-    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
-    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
-    SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof(limits));
-    return job;
 }
 
 std::wstring wide(const std::string& ascii)
@@ -75,7 +67,7 @@ TestResult runTest(const std::filesystem::path& folder, const TestEntry& entry, 
     const ULONGLONG begun = GetTickCount64();
     DWORD ended = WAIT_FAILED;
     {
-        const KernelHandle job = jobThatEndsWithItsOwner();
+        const KernelHandle job = windows_tests::endingJob();
         if (!AssignProcessToJobObject(job.get(), process.get())) {
             result.code = GetLastError();
             TerminateProcess(process.get(), 1);
