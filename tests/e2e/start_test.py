@@ -60,6 +60,7 @@ class Preselection(SuiteTestCase):
                     program.main_window.press_uninstall()
                 program.main_window.close()
                 self.assertEqual(program.exit_code(), 0)
+        self.assertNotIn("--> uninstallButtonClicked", [message.text for message in suite.log()])
         self.assertEqual(suite.records.recorded(), [])
 
 

@@ -4,7 +4,6 @@
 //   start ID           runs the start-up for the application; answer: milliseconds
 //   send NAME          queues one "click" event; answer: number microseconds
 //   post NAME          the same, posted before the answer
-//   country            answer: the country for the statistics
 //   reread             rereads common.cfg; answer: ClientGuid Location
 //
 // At the end of the input the process ends as the program does, with static destruction.
@@ -12,7 +11,6 @@
 #include "support/keelbase/keelbase.h"
 #include "ui/common/config/common_config.h"
 #include "ui/common/stat/app_event_stat.h"
-#include "ui/common/stat/user_location.h"
 #include "ui/uninstall/src/stat_startup.h"
 
 #include <chrono>
@@ -60,8 +58,6 @@ bool execute(const std::string& command, const std::string& argument)
         start(std::stoi(argument));
     else if (command == "send" || command == "post")
         send(argument, command == "post");
-    else if (command == "country")
-        std::cout << stats::getUserCountry(stats::readProxySettings());
     else if (command == "reread")
         reread();
     else

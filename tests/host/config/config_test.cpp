@@ -1,5 +1,5 @@
 #include "tests/host/support/temp_folder.h"
-#include "tests/host/support/vtable_index.h"
+#include "tests/support/vtable_index.h"
 #include "ui/common/config/config.h"
 #include "ui/common/sys/file_io.h"
 #include "ui/common/sys/result_codes.h"
@@ -62,10 +62,10 @@ TEST_F(Config, StartsEmptyWithoutAPath)
 
 TEST_F(Config, KeepsItsSlotsInOrder)
 {
-    EXPECT_EQ(host::vtableIndex(&CConfig::setFileName), 0U);
-    EXPECT_EQ(host::vtableIndex(&CConfig::save), 1U);
-    EXPECT_EQ(host::vtableIndex(&CConfig::load), 2U);
-    EXPECT_EQ(host::vtableIndex(&CConfig::reload), 3U);
+    EXPECT_EQ(testing_support::vtableIndex(&CConfig::setFileName), 0U);
+    EXPECT_EQ(testing_support::vtableIndex(&CConfig::save), 1U);
+    EXPECT_EQ(testing_support::vtableIndex(&CConfig::load), 2U);
+    EXPECT_EQ(testing_support::vtableIndex(&CConfig::reload), 3U);
     EXPECT_FALSE(std::has_virtual_destructor_v<CConfig>);
     EXPECT_TRUE(std::is_final_v<CConfig>);
 }

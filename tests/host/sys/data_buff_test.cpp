@@ -1,4 +1,4 @@
-#include "tests/host/support/vtable_index.h"
+#include "tests/support/vtable_index.h"
 #include "ui/common/sys/data_buff.h"
 
 #include <gtest/gtest.h>
@@ -51,19 +51,19 @@ std::size_t heldBytes()
 TEST(DataBuff, KeepsItsSlotsInOrder)
 {
     // Slots 0 and 1 are the destructor.
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::resize), 2U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::clear), 3U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::assignString), 4U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::assign), 5U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::attach), 6U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::attachFrom), 7U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::detach), 8U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::moveTo), 9U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::copyToWideString), 10U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::copyToString), 11U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::toString), 12U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::size), 13U);
-    EXPECT_EQ(host::vtableIndex(&IDataBuff::empty), 14U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::resize), 2U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::clear), 3U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::assignString), 4U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::assign), 5U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::attach), 6U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::attachFrom), 7U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::detach), 8U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::moveTo), 9U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::copyToWideString), 10U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::copyToString), 11U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::toString), 12U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::size), 13U);
+    EXPECT_EQ(testing_support::vtableIndex(&IDataBuff::empty), 14U);
 }
 
 TEST(DataBuff, StartsEmpty)

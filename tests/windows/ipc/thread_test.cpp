@@ -1,3 +1,5 @@
+#include "tests/support/vtable_index.h"
+#include "ui/common/sys/interprocess_communication_win.h"
 #include "ui/common/sys/thread.h"
 #include "ui/common/sys/thread_start.h"
 
@@ -28,6 +30,14 @@ public:
     std::atomic<int> runs{0};
     win32::KernelHandle gate{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
 };
+
+// A destructor takes two slots.
+TEST(ChannelInterfaces, KeepTheirVirtualFunctionsInOrder)
+{
+    using testing_support::vtableIndex;
+    EXPECT_EQ(vtableIndex(&win32::CThreadFunction::run), 2U);
+    EXPECT_EQ(vtableIndex(&IMessageFromOtherProcess::onMessageFromOtherProcess), 2U);
+}
 
 TEST(BaseThread, RunsItsFunctionOnAnotherThreadWithItsNumber)
 {

@@ -3,9 +3,9 @@
 #include <cstddef>
 #include <cstring>
 
-namespace host {
+namespace testing_support {
 
-// The index of a virtual function in its class's virtual table. The C++ ABI of this machine
+// The index of a virtual function in its class's virtual table. The C++ ABI of GCC and Clang
 // (Itanium) stores it in the member pointer as 1 + the byte offset. A virtual destructor occupies
 // two slots in this ABI, and one with other compilers.
 template <typename MemberFunction>
@@ -17,4 +17,4 @@ std::size_t vtableIndex(MemberFunction function)
     return (offset - 1) / sizeof(void*);
 }
 
-} // namespace host
+} // namespace testing_support
