@@ -12,16 +12,13 @@ class StandingClock
 {
 public:
     using Pause = void (*)();
-    explicit StandingClock(Pause whilePaused) { pause() = whilePaused; }
+    explicit StandingClock(Pause whilePaused) { paused = whilePaused; }
 
 private:
-    static Pause& pause()
-    {
-        static Pause current;
-        return current;
-    }
+    static inline Pause paused = nullptr;
+
     static ULONGLONG WINAPI standingStill() { return 1; }
-    static void WINAPI pauseInstead(DWORD) { pause()(); }
+    static void WINAPI pauseInstead(DWORD) { paused(); }
 
     const ReplacedImport<decltype(&standingStill)> clock{"GetTickCount64", &standingStill};
     const ReplacedImport<decltype(&pauseInstead)> sleep{"Sleep", &pauseInstead};
