@@ -41,9 +41,9 @@ class SuiteTestCase(unittest.TestCase):
     def setUp(self):
         self.programs: List[RunningProgram] = []
         self.addCleanup(self.prefix.end)
-        self.addCleanup(self._keep_last_screen)
 
-    def _keep_last_screen(self):
+    def tearDown(self):
+        # Now, before the programs are ended.
         self.last_screen = screen.whole_screen().picture()
 
     # Steps that most tests begin with

@@ -5,6 +5,7 @@ Positions are relative to the window.
 
 import atexit
 import functools
+import itertools
 import re
 import subprocess
 from dataclasses import dataclass, field
@@ -26,6 +27,7 @@ _MODIFIERS = {"alt": "Alt_L", "ctrl": "Control_L"}
 _SETTLED = 6
 # Window managers obey such a caller even while another window is in use.
 _PAGER = 2
+_ping_numbers = itertools.count(1)
 
 
 @functools.lru_cache(maxsize=None)
@@ -118,8 +120,8 @@ class Window:
             _send(X.KeyRelease, *reversed(codes))
 
     def activate(self) -> None:
-        """Brings the window forward and waits until it has the keyboard focus, which a program takes
-        only some time after it becomes active; keys pressed in between are lost."""
+        """Brings the window forward and waits until it has the keyboard focus and its program knows
+        that; keys pressed earlier are lost."""
         def active() -> bool:
             focused = getattr(_display().get_input_focus().focus, "id", None)
             if [*_root_property("_NET_ACTIVE_WINDOW"), focused] == [self.identifier] * 2:
@@ -127,6 +129,29 @@ class Window:
             _ask_manager_to_activate(self._window)
             return not self.exists()
         wait_until(active, f"window {self.identifier} did not become the active one")
+        self._wait_until_events_are_handled()
+
+    def _wait_until_events_are_handled(self) -> None:
+        """A program handles a window's events in their order and answers a window manager's ping by
+        sending it to the root window."""
+        display, number = _display(), next(_ping_numbers)
+        root = display.screen().root
+        ping = ClientMessage(window=self._window, client_type=display.get_atom("WM_PROTOCOLS"),
+                             data=(32, [display.get_atom("_NET_WM_PING"), number, self.identifier,
+                                        0, 0]))
+
+        def answered() -> bool:
+            while display.pending_events() > 0:
+                event = display.next_event()
+                if event.type == X.ClientMessage and event.data[1][1] == number:
+                    return True
+            return not self.exists()
+        root.change_attributes(event_mask=X.SubstructureNotifyMask)
+        self._window.send_event(ping)
+        try:
+            wait_until(answered, f"window {self.identifier} did not answer")
+        finally:
+            root.change_attributes(event_mask=X.NoEventMask)
 
     def picture(self) -> Picture:
         size = self._window.get_geometry()
