@@ -7,7 +7,7 @@ from pathlib import Path
 from typing import List
 
 from tests.harness.prefix import Prefix
-from tests.harness.waiting import wait_until
+from tests.harness.waiting import PATIENCE, wait_until
 
 
 class AnnouncedProgram:
@@ -27,6 +27,8 @@ class AnnouncedProgram:
         text = os.pread(self._output.fileno(), 4096, 0).decode("ascii")
         return text[:text.rfind("\n") + 1].splitlines()
 
-    def close(self) -> None:
-        """Forgets its output. The process is the caller's to end, before this."""
+    def stop(self) -> None:
+        """Ends it. Must also be called when it has ended by itself."""
+        self.process.terminate()
+        self.process.wait(PATIENCE)
         self._output.close()

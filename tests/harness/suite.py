@@ -140,20 +140,16 @@ class RunningApplication:
         # It is ready once it holds its mutex.
         self.program = AnnouncedProgram(suite.prefix,
                                         suite.folder(application) / application.process_name)
-        self.process = self.program.process
 
     @property
     def running(self) -> bool:
-        return self.process.poll() is None
+        return self.program.process.poll() is None
 
     def wait_until_ended(self) -> None:
         wait_until(lambda: not self.running, f"{self.application.process_name} still runs")
 
     def stop(self) -> None:
-        """Ends it. Must also be called when it has ended by itself."""
-        self.process.terminate()
-        self.process.wait(PATIENCE)
-        self.program.close()
+        self.program.stop()
 
 
 class RunningProgram:

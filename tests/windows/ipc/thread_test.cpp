@@ -31,13 +31,14 @@ public:
     win32::KernelHandle gate{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
 };
 
-// A destructor takes two slots.
+#ifdef __GNUC__ // whose object layout vtableIndex knows; a destructor takes two slots
 TEST(ChannelInterfaces, KeepTheirVirtualFunctionsInOrder)
 {
     using testing_support::vtableIndex;
     EXPECT_EQ(vtableIndex(&win32::CThreadFunction::run), 2U);
     EXPECT_EQ(vtableIndex(&IMessageFromOtherProcess::onMessageFromOtherProcess), 2U);
 }
+#endif
 
 TEST(BaseThread, RunsItsFunctionOnAnotherThreadWithItsNumber)
 {
