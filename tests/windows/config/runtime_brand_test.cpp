@@ -96,6 +96,13 @@ TEST_F(RuntimeBrand, FileIsFoundUnderNonAsciiPaths)
     EXPECT_EQ(runtimeBrandFor(folder + L"\\"), "Corvane");
 }
 
+TEST_F(RuntimeBrand, FileIsFoundUnderPathsThatWindowsTakesLiterally)
+{
+    const std::wstring folder = programBelow(L"Suite");
+    writeBytes(scratch / L"Suite" / L"global.cfg", "CompanyBrandMode=1\n");
+    EXPECT_EQ(runtimeBrandFor(L"\\\\?\\" + folder), "Corvane");
+}
+
 TEST_F(RuntimeBrand, UnreadableFileLeavesTheDefault)
 {
     const std::wstring folder = programBelow(L"Suite");

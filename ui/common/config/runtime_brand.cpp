@@ -2,11 +2,11 @@
 
 #include "ui/common/config/brand.h"
 #include "ui/common/sys/file_io.h"
-#include "ui/common/sys/folders.h"
 #include "ui/common/sys/module_path.h"
 #include "ui/common/sys/result_codes.h"
 #include "ui/common/sys/text_convert.h"
 
+#include <filesystem>
 #include <string_view>
 
 namespace fs {
@@ -38,8 +38,10 @@ std::string runtimeBrandFor(const std::wstring& moduleFolder)
     if (const auto brand = brandFromFolderName(sys::toNarrow(name)))
         return *brand;
 
-    // The separator matters for a drive: "D:" is its current folder, "D:/" its root.
-    const std::wstring globalConfig = sys::joinedPath(std::wstring(parent) + L'/', L"global.cfg");
+    // With a separator even after a drive: "D:" is its current folder, "D:\" its root. Paths that
+    // begin with "\\?\" know no other separator.
+    constexpr wchar_t separator = std::filesystem::path::preferred_separator;
+    const std::wstring globalConfig = std::wstring(parent) + separator + L"global.cfg";
     std::string content;
     if (!sys::fileExists(globalConfig) || sys::readWholeFile(globalConfig, content) != sys::success)
         return defaultBrand;
