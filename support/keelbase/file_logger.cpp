@@ -54,8 +54,8 @@ void FileLogger::write(const LogRecord& record) noexcept
     }
 }
 
-// Opening the file creates missing folders, and folders that somebody removed, such as an
-// uninstaller that deletes the user's history, must not come back.
+// Folders that somebody removed, such as an uninstaller that deletes the user's history, must not
+// come back.
 bool FileLogger::folderWasRemoved() const
 {
     return opened && !spdlog::details::os::path_exists(file.parent_path().native());
@@ -64,6 +64,9 @@ bool FileLogger::folderWasRemoved() const
 void FileLogger::append(const std::string& line)
 {
     const GateLock lock(gate);
+    // The library makes missing folders too, but none below a network path.
+    if (!opened)
+        makeFolders(file.parent_path());
     const spdlog::details::log_msg message({}, spdlog::level::off, line);
     // A rotation fails while another program has an older file open, but it empties the current
     // file, so the second attempt finds room there.

@@ -16,6 +16,9 @@ std::filesystem::path logFileBelow(const std::filesystem::path& roaming,
                                    const std::string& settingsName,
                                    const std::filesystem::path& program);
 
+// Makes a folder and those above it that are missing. Errors are ignored.
+void makeFolders(const std::filesystem::path& folder);
+
 // Serialises the processes that write to one log file. The threads of one process are serialised by
 // the logger that owns the gate.
 class WriteGate

@@ -8,6 +8,12 @@ std::filesystem::path logFilePath(const std::string&)
     return {};
 }
 
+void makeFolders(const std::filesystem::path& folder)
+{
+    std::error_code ignored;
+    std::filesystem::create_directories(folder, ignored);
+}
+
 struct WriteGate::State
 {};
 

@@ -51,6 +51,16 @@ std::filesystem::path logFilePath(const std::string& settingsName)
     return logFileBelow(roamingFolder(), settingsName, programPath());
 }
 
+// From the end: the first parts of a network path can be neither seen nor made.
+void makeFolders(const std::filesystem::path& folder)
+{
+    if (CreateDirectoryW(folder.c_str(), nullptr) || GetLastError() != ERROR_PATH_NOT_FOUND ||
+        !folder.has_relative_path())
+        return;
+    makeFolders(folder.parent_path());
+    CreateDirectoryW(folder.c_str(), nullptr);
+}
+
 struct WriteGate::State
 {
     win32::KernelHandle mutex;

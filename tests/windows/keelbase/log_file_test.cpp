@@ -1,3 +1,4 @@
+#include "support/keelbase/file_logger.h"
 #include "support/keelbase/keelbase.h"
 #include "support/keelbase/platform.h"
 #include "support/win32/unique_handle.h"
@@ -166,6 +167,14 @@ TEST(LogFilePath, ThatThereIsNoMemoryForLeavesTheProgramWithoutALog)
     ASSERT_TRUE(logger);
     EXPECT_EQ(logger->level(), 0);
     Keelbase::setSettingsName(before.c_str());
+}
+
+TEST_F(LogFile, FoldersAreMadeBelowAPathWhoseFirstPartsAreNone)
+{
+    // As below a network path, spdlog gives up at the first part.
+    Keelbase::FileLogger logger(L"\\\\?\\" + file().native(), Keelbase::levelInformation);
+    logger.write({Keelbase::levelError, "Writer", "tests/log_writer", 1, "a0"});
+    EXPECT_EQ(messages(), std::vector<std::string>{"3 a0"});
 }
 
 TEST_F(LogFile, LevelIsSixWithoutTheVariable)
