@@ -24,6 +24,6 @@ llvm-profdata merge -o "$build/all.profdata" "$build"/*.profraw
 llvm-cov report "${objects[@]}" -instr-profile "$build/all.profdata" \
     support/keelbase/log_line.cpp \
     ui/common/config/{brand,config,config_text}.cpp \
-    ui/common/stat/{event_body,template_params,text_template,url_encode}.cpp \
+    ui/common/stat/{event_body,template_params,url_encode}.cpp \
     ui/common/sys/{ipc_commands,pipe_frame}.cpp \
     ui/uninstall/src/{app_catalogue,command_line,uninstall_command}.cpp

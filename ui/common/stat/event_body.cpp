@@ -18,11 +18,10 @@ constexpr std::string_view bodyText =
 
 std::string buildEventBody(const TemplateParams& shared, const EventTexts& texts)
 {
-    static const TextTemplate bodyTemplate(bodyText);
     TemplateParams params = shared;
     params.set({{"SRC", texts.src}, {"EVENT_TYPE", texts.eventType}}, false);
     params.set({{"INFO_TYPE", texts.infoType}, {"INFO", texts.info}}, false);
-    return params.expand(bodyTemplate, false).text;
+    return params.expand(bodyText, false).text;
 }
 
 } // namespace stats

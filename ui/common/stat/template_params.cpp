@@ -5,33 +5,36 @@
 namespace stats {
 namespace {
 
-// Cuts the text before its last "&". Event bodies rarely have one, and find() rules it out faster
-// than rfind().
+bool isNameByte(char byte)
+{
+    return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') ||
+           (byte >= '0' && byte <= '9') || byte == '-' || byte == '_';
+}
+
+// The name of the placeholder that opens with this brace; empty when it opens none.
+std::string_view nameAfter(std::string_view text, std::size_t brace)
+{
+    const std::size_t start = brace + 1;
+    std::size_t end = start;
+    while (end < text.size() && isNameByte(text[end]))
+        ++end;
+    const bool isClosed = end < text.size() && text[end] == '}';
+    return isClosed ? text.substr(start, end - start) : std::string_view();
+}
+
 void removeLastPair(std::string& text)
 {
-    if (text.find('&') != std::string::npos)
-        text.resize(text.rfind('&'));
+    text.resize(std::min(text.rfind('&'), text.size()));
 }
 
 } // namespace
 
-const std::string* TemplateParams::find(std::string_view name) const
-{
-    for (const Entry& entry : entries) {
-        if (entry.name == name)
-            return &entry.value;
-    }
-    return nullptr;
-}
-
 void TemplateParams::set(const std::string& name, const std::string& value, bool overwrite)
 {
-    const auto place = std::find_if(entries.begin(), entries.end(),
-                                    [&](const Entry& entry) { return entry.name == name; });
-    if (place == entries.end())
-        entries.push_back({name, value});
-    else if (overwrite)
-        place->value = value;
+    if (overwrite)
+        values.insert_or_assign(name, value);
+    else
+        values.emplace(name, value);
 }
 
 void TemplateParams::set(const std::vector<std::pair<std::string, std::string>>& pairs,
@@ -43,34 +46,35 @@ void TemplateParams::set(const std::vector<std::pair<std::string, std::string>>&
 
 std::string TemplateParams::get(const std::string& name) const
 {
-    const std::string* const value = find(name);
-    return value != nullptr ? *value : std::string();
-}
-
-TemplateParams::Expansion TemplateParams::expand(const TextTemplate& textTemplate,
-                                                 bool dropUnknown) const
-{
-    Expansion result;
-    std::string& text = result.text;
-    text.reserve(2 * textTemplate.length());
-    for (std::size_t index = 0; index < textTemplate.placeholderCount(); ++index) {
-        text += textTemplate.literalBefore(index);
-        const std::string* const value = find(textTemplate.name(index));
-        if (value != nullptr) {
-            text += *value;
-        } else if (!dropUnknown) {
-            ++result.unresolvedCount;
-            removeLastPair(text);
-        }
-    }
-    text += textTemplate.rest();
-    return result;
+    const auto found = values.find(name);
+    return found != values.end() ? found->second : std::string();
 }
 
 TemplateParams::Expansion TemplateParams::expand(std::string_view templateText,
                                                  bool dropUnknown) const
 {
-    return expand(TextTemplate(templateText), dropUnknown);
+    Expansion result;
+    std::size_t position = 0;
+    for (;;) {
+        const std::size_t brace = templateText.find('{', position);
+        result.text += templateText.substr(position, brace - position);
+        if (brace == std::string_view::npos)
+            return result;
+        const std::string_view name = nameAfter(templateText, brace);
+        if (name.empty()) {
+            result.text += '{';
+            position = brace + 1;
+            continue;
+        }
+        position = brace + name.size() + 2;
+        const auto found = values.find(name);
+        if (found != values.end()) {
+            result.text += found->second;
+        } else if (!dropUnknown) {
+            ++result.unresolvedCount;
+            removeLastPair(result.text);
+        }
+    }
 }
 
 } // namespace stats

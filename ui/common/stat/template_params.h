@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/common/stat/text_template.h"
-
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -9,7 +9,8 @@
 
 namespace stats {
 
-// Named values that fill the {NAME} placeholders of web addresses and event bodies. Names and
+// Named values that fill the {NAME} placeholders of web addresses and event bodies. NAME is one or
+// more ASCII letters, digits, "-" and "_"; braces around anything else are literal text. Names and
 // values are UTF-8, names are compared byte by byte. Not synchronised.
 class TemplateParams
 {
@@ -32,21 +33,10 @@ public:
     // is true. Otherwise it counts as unresolved and the output is cut before its last "&", so that
     // an address loses the whole "&key={NAME}"; output without "&" stays. Values are inserted
     // unchanged, and an "&" in one counts like any other.
-    Expansion expand(const TextTemplate& textTemplate, bool dropUnknown) const;
     Expansion expand(std::string_view templateText, bool dropUnknown) const;
 
 private:
-    struct Entry
-    {
-        std::string name;
-        std::string value;
-    };
-
-    const std::string* find(std::string_view name) const;
-
-    // In no particular order. A set holds some twenty names and is copied for every event: one
-    // block of memory serves that better than a tree.
-    std::vector<Entry> entries;
+    std::map<std::string, std::string, std::less<>> values;
 };
 
 } // namespace stats
