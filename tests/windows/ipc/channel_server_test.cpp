@@ -1,6 +1,5 @@
 // Starting and stopping the channel's server end.
 
-#include "tests/support/import_slot.h"
 #include "tests/support/recorded_log.h"
 #include "tests/windows/ipc/channel_client.h"
 #include "tests/windows/ipc/peer_events.h"
@@ -12,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <future>
 #include <iterator>
@@ -84,39 +82,6 @@ TEST(ChannelServer, DoesNotStartWithoutAClaimedMutex)
     CInterprocessCommunicationWin channel;
     EXPECT_EQ(channel.createServer(), 87);
     expectNoPipe(channel);
-}
-
-struct PipeRequest
-{
-    std::wstring path;
-    DWORD openMode;
-    DWORD pipeMode;
-    DWORD instances;
-    DWORD outBuffer;
-    DWORD inBuffer;
-    DWORD wait;
-} pipeRequest;
-
-HANDLE WINAPI refusePipe(const wchar_t* path, DWORD openMode, DWORD pipeMode, DWORD instances,
-                         DWORD outBuffer, DWORD inBuffer, DWORD wait, SECURITY_ATTRIBUTES*)
-{
-    pipeRequest = {path, openMode, pipeMode, instances, outBuffer, inBuffer, wait};
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return INVALID_HANDLE_VALUE;
-}
-
-TEST(ChannelServer, AsksForAPipeOfThisKind)
-{
-    Server server;
-    const ReplacedImport refused("CreateNamedPipeW", &refusePipe);
-    EXPECT_EQ(server.channel.createServer(), ERROR_NOT_ENOUGH_MEMORY);
-    EXPECT_EQ(pipeRequest.path, pipePath);
-    EXPECT_EQ(pipeRequest.openMode, 0x40000003U);
-    EXPECT_EQ(pipeRequest.pipeMode, 6U);
-    EXPECT_EQ(pipeRequest.instances, 255U);
-    EXPECT_EQ(pipeRequest.outBuffer, 65535U);
-    EXPECT_EQ(pipeRequest.inBuffer, 65535U);
-    EXPECT_EQ(pipeRequest.wait, 15000U);
 }
 
 // A fake of _beginthreadex that fails.
