@@ -23,8 +23,9 @@ BEFORE_THE_SUITE = [f"Application{number:02}" for number in range(20)]
 AFTER_THE_SUITE = [f"Video{number:02}" for number in range(9)]
 IN_ORDER = [*BEFORE_THE_SUITE, *AFTER_THE_SUITE, SUITE.id_string]
 
-# Less than the wait for one uninstaller, and than the time after which Windows calls a window hung.
-LONGEST_ANSWER_MS = 1500
+# A window that does not answer during the waits answers late once for each uninstaller. A busy
+# machine may make a few answers late.
+MOST_LATE_ANSWERS = len(IN_ORDER) // 4
 # Seconds. No second start waits for the end of the run, which takes a minute.
 LONGEST_SECOND_START = 20.0
 # Messages that second starts log as well.
@@ -38,6 +39,7 @@ class Watch(NamedTuple):
     asked: int
     unanswered: int
     hung: int
+    late: int
     longest_ms: int
 
 
@@ -122,7 +124,7 @@ class LongRun(SuiteTestCase):
         # The window answered the system at all times.
         self.assertGreater(watched.asked, len(IN_ORDER) * 5)
         self.assertEqual((watched.unanswered, watched.hung), (0, 0))
-        self.assertLess(watched.longest_ms, LONGEST_ANSWER_MS)
+        self.assertLess(watched.late, MOST_LATE_ANSWERS)
         # It showed the list becoming shorter.
         self.assertGreater(len(self.pictures), 10)
         # It answered other copies during the run.

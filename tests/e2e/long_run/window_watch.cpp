@@ -4,8 +4,8 @@
 //   window_watch TITLE
 //
 // Prints "ready" after the first answer; at the end a line of numbers: checks, checks without an
-// answer in time, checks at which the system called the window hung, and the longest time of an
-// answer in milliseconds.
+// answer in time, checks at which the system called the window hung, late answers, and the longest
+// time of an answer in milliseconds.
 #include "support/win32/unique_handle.h"
 
 #include <algorithm>
@@ -19,6 +19,8 @@ namespace {
 constexpr DWORD checkIntervalMs = 50;
 // After this time Windows calls a window hung.
 constexpr UINT longestAnswerMs = 5000;
+// Less than the program's wait for one uninstaller.
+constexpr ULONGLONG lateAnswerMs = 1500;
 
 } // namespace
 
@@ -35,12 +37,15 @@ int main(int argc, char** argv)
     int asked = 0;
     int unanswered = 0;
     int hung = 0;
+    int late = 0;
     ULONGLONG longest = 0;
     do {
         const ULONGLONG begun = GetTickCount64();
         DWORD_PTR result = 0;
         if (SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, longestAnswerMs, &result)) {
-            longest = std::max(longest, GetTickCount64() - begun);
+            const ULONGLONG taken = GetTickCount64() - begun;
+            late += taken > lateAnswerMs ? 1 : 0;
+            longest = std::max(longest, taken);
         } else if (IsWindow(window)) {
             ++unanswered;
         } else {
@@ -53,6 +58,6 @@ int main(int argc, char** argv)
             std::fflush(stdout);
         }
     } while (WaitForSingleObject(process.get(), checkIntervalMs) == WAIT_TIMEOUT);
-    std::printf("%d %d %d %llu\n", asked, unanswered, hung, longest);
+    std::printf("%d %d %d %d %llu\n", asked, unanswered, hung, late, longest);
     return 0;
 }
