@@ -32,8 +32,9 @@ endfunction()
 # tessera_add_windows_entry(NAME COMMAND program arguments... [ENVIRONMENT variable=value...]
 #                           [TIMEOUT seconds] [COST seconds])
 #   One CTest entry for a Windows test program, with its own Wine prefix, so that entries share no
-#   registry, mutexes or pipes. CTest runs it through the cross-compiling emulator. An entry without
-#   ENVIRONMENT also goes into the kit for a real Windows (tools/windows_kit).
+#   registry, mutexes or pipes, and with a private screen even on a developer's desktop, since they
+#   take the focus. CTest runs it through the cross-compiling emulator. An entry without ENVIRONMENT
+#   also goes into the kit for a real Windows (tools/windows_kit).
 function(tessera_add_windows_entry name)
     cmake_parse_arguments(ARG "" "TIMEOUT;COST" "COMMAND;ENVIRONMENT" ${ARGN})
     if(NOT ARG_TIMEOUT)
@@ -49,7 +50,8 @@ function(tessera_add_windows_entry name)
     endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "WINEPREFIX=${PROJECT_BINARY_DIR}/prefixes/${name};${one_processor};${ARG_ENVIRONMENT}")
+        ENVIRONMENT "WINEPREFIX=${PROJECT_BINARY_DIR}/prefixes/${name};${one_processor};${ARG_ENVIRONMENT}"
+        ENVIRONMENT_MODIFICATION "DISPLAY=unset:")
     if(ARG_COST)
         set_tests_properties(${name} PROPERTIES COST ${ARG_COST})
     endif()

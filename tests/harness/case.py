@@ -1,8 +1,8 @@
 """The base of the end-to-end tests."""
 
-import os
 import shutil
 import subprocess
+import tempfile
 import unittest
 from pathlib import Path
 from typing import Dict, Iterable, List, Optional, Sequence
@@ -25,8 +25,9 @@ class SuiteTestCase(unittest.TestCase):
         result = result or self.defaultTestResult()
         problems = len(result.failures) + len(result.errors)
         name = self.id().rpartition(".")[0].rpartition(".")[2] + "." + self._testMethodName
-        self.scratch: Path = layout.BUILD / "e2e" / f"{name}-{os.getpid()}"
-        self.scratch.mkdir(parents=True)
+        folder = layout.BUILD / "e2e"
+        folder.mkdir(exist_ok=True)
+        self.scratch = Path(tempfile.mkdtemp(prefix=f"{name}-", dir=folder))
         self.prefix = Prefix(self.scratch / "prefix")
         self.last_screen: Optional[screen.Picture] = None
         super().run(result)

@@ -1,10 +1,10 @@
-"""Windows' rule for splitting a command line into arguments."""
+"""The C runtime's rule for splitting a command line into arguments."""
 
 from typing import List, Tuple
 
 
 def split(line: str) -> List[str]:
-    """The arguments after the program's name, as CommandLineToArgvW yields them."""
+    """The arguments after the program's name."""
     rest = _after_program(line)
     arguments: List[str] = []
     position = 0

@@ -100,6 +100,7 @@ class MainWindow:
         return self._delete_box().checked
 
     def wait_for_rows(self, count: int) -> None:
+        self._delete_box()  # a window that is not painted yet shows no rows either
         wait_until(lambda: len(self._rows()) == count, f"the list does not show {count} rows")
 
     def wait_for_checked_rows(self, expected: List[bool]) -> None:

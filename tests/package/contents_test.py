@@ -118,7 +118,7 @@ class Package(ScratchTestCase):
         self.assertIn("qtbase-opensource-src=5.", text_of(folder / "README.txt"))
         linker = self.scratch / "linker"
         linker.write_text("#!/bin/sh\nexec x86_64-w64-mingw32-g++-posix \"$@\" "
-                          f"-Wl,--verbose,-Map,{self.scratch}/map\n", encoding="utf-8")
+                          f"-Wl,--verbose,-Map,'{self.scratch}/map'\n", encoding="utf-8")
         linker.chmod(0o755)
         prefix = re.search(r"^Qt5_DIR:PATH=(.*)/lib/cmake/Qt5$",
                            (BUILD / "CMakeCache.txt").read_text(encoding="utf-8"), re.MULTILINE)[1]

@@ -82,7 +82,3 @@ class UncaughtExceptions(unittest.TestCase):
 
     def test_are_not_described_on_a_console_that_nobody_sees(self):
         self.assertNotIn(b"terminate called", PROGRAM.read_bytes())
-
-
-if __name__ == "__main__":
-    unittest.main()

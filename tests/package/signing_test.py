@@ -45,4 +45,4 @@ class SigningCommand(ScratchTestCase):
                 result = pack(self.scratch / "out", environment={"TESSERA_SIGN_COMMAND": command})
                 self.assertEqual(result.returncode, 1)
                 self.assertIn(complaint, result.stdout)
-                self.assertFalse((self.scratch / "out").exists())
+                self.assertEqual(list((self.scratch / "out").iterdir()), [])

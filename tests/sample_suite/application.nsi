@@ -54,6 +54,17 @@ UninstPage instfiles
   ${EndIf}
 !macroend
 
+; Deletes the file of a program that is about to end.
+!macro deleteOnceEnded file
+  ${ForEach} $1 1 200 + 1
+    Delete "${file}"
+    ${IfNot} ${FileExists} "${file}"
+      ${ExitFor}
+    ${EndIf}
+    Sleep 50
+  ${Next}
+!macroend
+
 ; ---------------------------------------------------------------- installer
 
 Function .onInit
@@ -220,17 +231,12 @@ Section un.Remove
   Delete "$INSTDIR\presets\standard.preset"
   RMDir "$INSTDIR\presets"
 !ifndef KEEPER
-  Delete "$INSTDIR\Uninst.exe"
+  ; Its first process, which started this one from a temporary folder, may not have ended yet.
+  !insertmacro deleteOnceEnded "$INSTDIR\Uninst.exe"
 !endif
-  ; The suite's own folder holds the program that started us, which can be deleted once it has ended.
   ${If} $isLast == 1
-    ${ForEach} $1 1 200 + 1
-      Delete "$INSTDIR\Uninstall.exe"
-      ${IfNot} ${FileExists} "$INSTDIR\Uninstall.exe"
-        ${ExitFor}
-      ${EndIf}
-      Sleep 50
-    ${Next}
+    ; The program that started us.
+    !insertmacro deleteOnceEnded "$INSTDIR\Uninstall.exe"
   ${EndIf}
   RMDir "$INSTDIR"
 

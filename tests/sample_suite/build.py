@@ -21,7 +21,7 @@ VERSION = "4.2.0.17"
 def makensis(script: Path, values: dict) -> None:
     command = ["makensis", "-V2", "-NOCD", "-WX", "-INPUTCHARSET", "UTF8"]
     command += [f"-D{name}={value}" for name, value in values.items()]
-    command += [f"-X!addincludedir {HERE}", str(script)]
+    command += [f'-X!addincludedir "{HERE}"', str(script)]
     result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
                             encoding="utf-8", env={**os.environ, "LC_ALL": "C.UTF-8"}, check=False)
     if result.returncode != 0:

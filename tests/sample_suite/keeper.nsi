@@ -31,7 +31,8 @@ Section
   ${EndIf}
   ${If} $R1 == 0
     Delete "$EXEDIR\Uninst_core.exe"
-    ; A running program cannot delete itself: the system does so at its next start.
+    ; A running program cannot delete itself. For administrators the system does so at its next
+    ; start.
     Delete /REBOOTOK "$EXEPATH"
     RMDir /REBOOTOK "$EXEDIR"
   ${EndIf}

@@ -39,7 +39,8 @@ inline bool appendToRecord(const std::wstring& lines)
     const std::wstring path = std::wstring(recordsFolder) + L'\\' + ownName() + L".txt";
     const std::unique_ptr<std::FILE, FileCloser> record(_wfopen(path.c_str(), L"ab"));
     if (record &&
-        std::fwrite(lines.data(), sizeof(wchar_t), lines.size(), record.get()) == lines.size())
+        std::fwrite(lines.data(), sizeof(wchar_t), lines.size(), record.get()) == lines.size() &&
+        std::fflush(record.get()) == 0)
         return true;
     std::fprintf(stderr, "%ls: the record cannot be written\n", ownName().c_str());
     return false;

@@ -124,6 +124,7 @@ class HttpService(LocalServer):
     def serve(self, connection: socket.socket) -> None:
         if self._tls is not None:
             connection = self._tls.wrap_socket(connection, server_side=True)
+            self.track(connection)  # wrapping took the other one's place
         with connection:
             request = self._read(connection)
             if request is None:

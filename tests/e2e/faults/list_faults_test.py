@@ -1,6 +1,5 @@
 """Lists and names beyond what the suite's installers register."""
 
-import unittest
 
 from tests.harness import probes
 from tests.harness.case import SuiteTestCase
@@ -91,7 +90,3 @@ class ListFaults(SuiteTestCase):
         program.main_window.toggle_row(PRECOMPOSED)
         self.end_run(program)
         self.assert_ran(PRECOMPOSED)
-
-
-if __name__ == "__main__":
-    unittest.main()

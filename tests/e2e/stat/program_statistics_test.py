@@ -1,7 +1,6 @@
 """The statistics of the program while a surveyed application is removed."""
 
 import threading
-import unittest
 
 from tests.e2e.stat.statistics_world import (GUID, SuiteWithServices, event_of, proxy_values,
                                              store_settings, stored_settings)
@@ -127,7 +126,3 @@ class ProgramStatistics(SuiteWithServices):
         self.assertEqual(program.exit_code(), 0)
         self.assert_untouched(suite, PARTNER)
         self.assertEqual(stored_settings(self.common_file)["Location"], "NL")
-
-
-if __name__ == "__main__":
-    unittest.main()

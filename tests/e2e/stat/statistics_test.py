@@ -2,7 +2,6 @@
 
 import tempfile
 import time
-import unittest
 from pathlib import Path
 
 from tests.e2e.stat.statistics_world import (GEO_HOST, GUID, STATISTICS_HOST, LogLine,
@@ -329,7 +328,3 @@ class Patience(StatisticsCase):
         self.store_common(**proxy_values(self.proxy(geo=geo)))
         self.check_bound(self.driver().start() / 1000, LOOKUP_TIMEOUT)
         self.assertEqual(self.log(), [LOOKUP_FAILED])
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -138,8 +138,10 @@ TEST(PlantedFiles, AreNeitherLoadedNorRun)
     EXPECT_EQ(program.waitForExit(), 0U);
 
     EXPECT_TRUE(application.waitForExit().has_value()) << "Windows' own taskkill has ended it";
-    for (const Application& removed : {clipSaver, karaokeStage})
+    for (const Application& removed : {clipSaver, karaokeStage}) {
         suite.removalArguments(removed);
+        EXPECT_TRUE(suite.isRemoved(removed, false));
+    }
     EXPECT_EQ(touched(suite.programFolder()), std::vector<std::wstring>());
     EXPECT_EQ(touched(currentFolder.path()), std::vector<std::wstring>());
 }

@@ -83,7 +83,9 @@ ChildProcess::ChildProcess(const std::wstring& program, const std::vector<std::w
     const win32::KernelHandle mainThread(information.hThread);
     if (!AssignProcessToJobObject(job.get(), process.get())) {
         std::fprintf(stderr, "AssignProcessToJobObject: error %lu\n", GetLastError());
-        kill();
+        TerminateProcess(process.get(), 1);
+        process.reset();
+        return;
     }
     ResumeThread(mainThread.get());
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 // Windows test programs change the settings of the user who runs them: they clear
-// HKCU\Software\Corvane and the suite's folder below %APPDATA%. settings_guard.cpp, which
-// cmake/tests.cmake links into each, ends the program before main unless the environment allows
-// this. Wine prefixes made by tools/wine-run do (tools/wine/prefix.reg).
+// HKCU\Software\Corvane and the suite's folder below %APPDATA%. settings_guard.cpp, which is
+// linked into each, ends the program before main unless the environment allows this. Wine prefixes
+// made by tools/wine-run do (tools/wine/prefix.reg).
 
 namespace windows_tests {
 
