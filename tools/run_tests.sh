@@ -75,6 +75,18 @@ countPreset() {
 $(caseCount "$folder/Testing/Temporary/LastTest.log") cases")
 }
 
+# The tests' process groups. Ctrl+C reaches only this script's own.
+groups=()
+endTests() {
+    local group
+    for group in "${groups[@]}"; do
+        kill -TERM -- "-$group" 2>/dev/null
+    done
+    exit "$1"
+}
+trap 'endTests 130' INT
+trap 'endTests 143' TERM HUP
+
 built=()
 for preset in "${presets[@]}"; do
     if buildPreset "$preset"; then
@@ -93,14 +105,20 @@ for preset in "${built[@]}"; do
         hostPresets+=("$preset")
     fi
 done
+set -m
 (for preset in "${hostPresets[@]}"; do
     testPreset "$preset" "$(nproc)"
 done) &
 hostTests=$!
+set +m
+groups+=("$hostTests")
 if [[ " ${built[*]} " == *" windows-cross "* ]]; then
     echo "== windows-cross: test"
+    set -m
     testPreset windows-cross "${TEST_JOBS:-$((3 * $(nproc)))}" &
     windowsTests=$!
+    set +m
+    groups+=("$windowsTests")
     tail -n +1 --pid="$windowsTests" -F build/windows/test_output.txt 2>/dev/null
     wait "$windowsTests"
     countPreset windows-cross

@@ -30,8 +30,10 @@ echo
 if [[ -s $logs/failures.txt ]]; then
     echo "failed, how often:"
     sort "$logs/failures.txt" | uniq -c | sort -rn
-else
+elif ((clean == runs)); then
     echo "no entry failed"
+else
+    echo "a run failed as a whole: see the logs in $logs"
 fi
 echo "$clean of $runs runs without a failure"
 ((clean == runs))

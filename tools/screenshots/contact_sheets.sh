@@ -17,7 +17,8 @@ mapfile -t languages < <(
     sed -n 's/^\([a-z]\+\) .*/\1/p' "$root/ui/uninstall/resources/languages/languages.txt"
 )
 
-cmake --build --preset windows-cross --target gallery
+cd "$root"
+cmake --build --preset windows-cross --target gallery wine_launcher
 
 rm -rf "$pictures"
 mkdir -p "$pictures"
