@@ -108,10 +108,12 @@ runStage() {
     fi
 }
 
-# The machine's own mirrors, as source lists; nothing on the machine is changed.
+# The machine's own mirrors of Debian, as source lists; nothing on the machine is changed. Other
+# makers' archives are left out: their keys are often known for their own entries only.
 writeSourceList() {
     # shellcheck disable=SC2016 # the placeholders are apt's
-    apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' |
+    apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' \
+        'Created-By: Packages' 'Origin: Debian' |
         sort -u | sed 's/^/deb-src /'
 }
 
