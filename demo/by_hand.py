@@ -8,8 +8,8 @@ from demo import computer
 
 def main() -> None:
     demo = computer.Computer()
-    demo.set_up()
     try:
+        demo.set_up()
         computer.heading("Before")
         demo.show_state()
         print(f"\n  {computer.RUNNING.process_name} is running. The window is yours.", flush=True)

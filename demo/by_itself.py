@@ -2,6 +2,7 @@
 what happened. Pictures go to build/demo/."""
 
 import os
+import signal
 import sys
 
 from demo import computer
@@ -33,8 +34,8 @@ class Demo:
     def run(self) -> int:
         for old in computer.FOLDER.glob("*.png"):
             old.unlink()
-        self.computer.set_up()
         try:
+            self.computer.set_up()
             return self.removal()
         finally:
             self.computer.tear_down()
@@ -106,6 +107,8 @@ def main() -> None:
         environment.pop("DISPLAY", None)
         screen = str(layout.REPOSITORY / "tools" / "wine" / "with-display")
         os.execve(screen, [screen, sys.executable, *sys.orig_argv[1:]], environment)
+    # Ctrl+C arrives as this signal, by way of with-display.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
     sys.exit(Demo().run())
 
 

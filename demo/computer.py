@@ -34,7 +34,7 @@ class Computer:
 
     def __init__(self):
         if not layout.PROGRAM.exists():
-            sys.exit(f"{layout.PROGRAM} is missing: run \"make build\" first")
+            sys.exit(f"{layout.PROGRAM} is missing: run \"make demo\"")
         self.prefix = Prefix(FOLDER / "prefix")
         self.suite = Suite(self.prefix, PRODUCT_BRAND)
         self.running: RunningApplication
@@ -52,7 +52,6 @@ class Computer:
 
     def tear_down(self) -> None:
         """Ends what still runs; the files stay to be looked at."""
-        self.running.stop()
         self.prefix.end()
         self.services.end()
 
