@@ -56,6 +56,14 @@ testPreset() {
     echo $? >"$folder/test_status"
 }
 
+# One preset after the other, beside those of Windows.
+testHostPresets() {
+    local preset
+    for preset in "${hostPresets[@]}"; do
+        testPreset "$preset" "$(nproc)"
+    done
+}
+
 countPreset() {
     local preset=$1 folder all bad status
     folder=$(folderOf "$preset")
@@ -75,8 +83,16 @@ countPreset() {
 $(caseCount "$folder/Testing/Temporary/LastTest.log") cases")
 }
 
-# The tests' process groups. Ctrl+C reaches only this script's own.
+# startGroup COMMAND...: in the background, as a process group of its own, which Ctrl+C does not
+# reach; hence endTests.
 groups=()
+startGroup() {
+    set -m
+    "$@" &
+    set +m
+    groups+=("$!")
+}
+
 endTests() {
     local group
     for group in "${groups[@]}"; do
@@ -98,27 +114,18 @@ for preset in "${built[@]}"; do
     rm -f "$(folderOf "$preset")"/test_{report.xml,output.txt,status}
 done
 
-# The host's tests, one preset after the other, beside those of Windows.
 hostPresets=()
 for preset in "${built[@]}"; do
     if [[ $preset != windows-cross ]]; then
         hostPresets+=("$preset")
     fi
 done
-set -m
-(for preset in "${hostPresets[@]}"; do
-    testPreset "$preset" "$(nproc)"
-done) &
+startGroup testHostPresets
 hostTests=$!
-set +m
-groups+=("$hostTests")
 if [[ " ${built[*]} " == *" windows-cross "* ]]; then
     echo "== windows-cross: test"
-    set -m
-    testPreset windows-cross "${TEST_JOBS:-$((3 * $(nproc)))}" &
+    startGroup testPreset windows-cross "${TEST_JOBS:-$((3 * $(nproc)))}"
     windowsTests=$!
-    set +m
-    groups+=("$windowsTests")
     tail -n +1 --pid="$windowsTests" -F build/windows/test_output.txt 2>/dev/null
     wait "$windowsTests"
     countPreset windows-cross

@@ -1,6 +1,5 @@
 """Lists and names beyond what the suite's installers register."""
 
-
 from tests.harness import probes
 from tests.harness.case import SuiteTestCase
 from tests.harness.main_window import VISIBLE_ROWS
