@@ -4,7 +4,7 @@
 # sets $qtSource, $qtBuild, $qtPrefix, $qtStage and $qtPatches.
 
 # The expected number of compiler calls, for the progress display only.
-qtCompilerCalls=780
+qtCompilerCalls=640
 
 # Only what the program and its tests use. Four facts behind the choice:
 # - tabletevent must be off: Debian's source leaves out the header its Windows part would include;
@@ -35,6 +35,32 @@ qtUnusedFeatures=(
     splitter
 )
 
+# What no program here links and no feature switches off: a minute of compiling. When the linker
+# misses a class of Qt, take its name out.
+qtUnusedFolders=(devicediscovery edid fbconvenience minimal)
+qtUnusedSources=(
+    qabstractitemmodeltester qabstractlayoutstyleinfo qastchandler qatomic qbenchmarkperfevents
+    qblittable qbytearraylist qcollator qcollator_win qcontiguouscache qdistancefield
+    qelfparser_p qexception qfactoryinterface qfileiconprovider qfileselector qfontsubset
+    qfragmentmap qfreelist qfutureinterface qfuturewatcher qgenericmatrix qgesture
+    qgesturemanager qgesturerecognizer qgridlayoutengine qimage_compat qktxhandler qlayoutpolicy
+    qlinkedlist qmachparser qmath qmessageauthenticationcode qmetaobjectbuilder
+    qnoncontiguousbytedevice qobjectcleanuphandler qoffscreensurface qpaintengine_blitter
+    qpaintengine_pic qparallelanimationgroup qpathsimplifier qpauseanimation qpdf qpdfwriter
+    qpicture qpictureformatplugin qpixelformat qpixmap_blitter qpixmapstyle qpkmhandler
+    qplatformgraphicsbuffer qplatformgraphicsbufferhelper qplatformoffscreensurface
+    qplatformsessionmanager qplatformsharedgraphicscache qplatformsystemtrayicon qpointer
+    qppmhandler qproxystyle qrefcount qresultstore qrhi qrhid3d11 qrhinull qrhiprofiler
+    qscrollarea qsequentialanimationgroup qsessionmanager qshader qshaderdescription
+    qshaderformat qshadergraph qshadergraphloader qshaderlanguage qshadernode qshadernodeport
+    qshadernodesloader qshareddata qsharedmemory qsharedmemory_win qsignalmapper qsimplecodec
+    qstandardgestures qstorageinfo qstorageinfo_win qstring_compat qstringbuilder
+    qstringlistmodel qstringview qstylepainter qsyntaxhighlighter qsystemsemaphore
+    qsystemsemaphore_win qsystemtrayicon qsystemtrayicon_qpa qtextdocumentwriter
+    qtexturefiledata qtexturefilereader qtimeline qtldurl qtriangulatingstroker qtriangulator
+    qversiontagging qwidgetresizehandler qwindowscodec qxbmhandler qxmlstream qxmlutils
+)
+
 # The compilers are taken by the names without "-posix" inside Qt's makefiles, so a folder of links
 # at the front of PATH decides which thread model they are.
 qtLinkCompilers() {
@@ -51,7 +77,9 @@ qtConfigure() {
     mkdir -p "$qtBuild"
     cd "$qtBuild"
     "$qtSource/configure" -prefix "$qtPrefix" "${qtOptions[@]}" \
-        "${qtUnusedFeatures[@]/#/-no-feature-}"
+        "${qtUnusedFeatures[@]/#/-no-feature-}" \
+        -device-option "QT_UNUSED_FOLDERS=${qtUnusedFolders[*]}" \
+        -device-option "QT_UNUSED_SOURCES=${qtUnusedSources[*]}"
 }
 
 qtCompile() {
