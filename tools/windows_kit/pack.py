@@ -38,7 +38,7 @@ def main() -> None:
     arguments = parser.parse_args()
     output: Path = arguments.output.resolve()
     output.parent.mkdir(parents=True, exist_ok=True)
-    with zipfile.ZipFile(output, "w", zipfile.ZIP_DEFLATED, compresslevel=9) as packed:
+    with zipfile.ZipFile(output, "w", zipfile.ZIP_DEFLATED) as packed:
         for name, content in sorted(contents(arguments.build_dir).items()):
             packed.writestr(f"{output.stem}/{name}", content)
     print(f"{output} ({output.stat().st_size / 1e6:.1f} MB)")
