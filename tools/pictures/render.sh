@@ -1,10 +1,10 @@
-#!/bin/sh
+#!/usr/bin/env bash
 # Renders the SVG sources to the PNG and ICO files of the resources, which are committed. Needed only
 # after a change of a drawing (packages librsvg2-bin and imagemagick).
-set -eu
+set -euo pipefail
 
-pictures="$(cd "$(dirname "$0")/../.." && pwd)/ui/uninstall/resources/pictures"
-scratch="$(mktemp -d)"
+pictures=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)/ui/uninstall/resources/pictures
+scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 for tool in rsvg-convert convert; do
@@ -18,15 +18,13 @@ png() {
 
 # ico NAME OUTPUT: the sizes for 100 to 250 percent, and the large one.
 ico() {
-    frames=""
+    local size frame frames=()
     for size in 16 20 24 32 40 48 64 256; do
-        frame="$scratch/$1-$size.png"
+        frame=$scratch/$1-$size.png
         rsvg-convert --width "$size" --height "$size" --output "$frame" "$pictures/src/$1.svg"
-        frames="$frames $frame"
+        frames+=("$frame")
     done
-    # Word splitting is wanted: the scratch folder has no spaces.
-    # shellcheck disable=SC2086
-    convert $frames "$pictures/$2"
+    convert "${frames[@]}" "$pictures/$2"
 }
 
 png uninstall uninstall_ico_48x48.png 48 48
