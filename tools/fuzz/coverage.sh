@@ -15,8 +15,8 @@ cmake --build "$build" --target fuzz_targets
 objects=()
 while read -r target; do
     program=$build/tests/fuzz/${target}_fuzz
-    LLVM_PROFILE_FILE="$build/$target.profraw" "$program" -runs=0 "tests/fuzz/corpora/$target" \
-        >/dev/null 2>&1
+    LLVM_PROFILE_FILE="$build/$target.profraw" \
+        runTarget "$target" "$program" -runs=0 "tests/fuzz/corpora/$target"
     # llvm-cov takes the first program as an argument and the others by -object.
     objects+=(${objects[0]:+-object} "$program")
 done < <(fuzzTargets)

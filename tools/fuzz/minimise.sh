@@ -11,19 +11,19 @@ source tools/fuzz/targets.sh
 
 buildFuzzTargets
 mapfile -t targets < <(fuzzTargets)
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+work=$fuzzData/merge
+rm -rf "$work"
+# libFuzzer names inputs by their SHA-1.
+namedBySum=(-type f -regextype posix-extended -regex '.*/[0-9a-f]{40}')
 for target in "${targets[@]}"; do
     kept=tests/fuzz/corpora/$target
     grown=$fuzzData/corpora/$target
     mkdir -p "$grown" "$work/$target"
-    # libFuzzer names inputs by their SHA-1.
-    find "$kept" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' \
-        -exec mv -t "$grown" {} +
     cp "$kept"/* "$work/$target"
-    "$(fuzzProgram "$target")" -merge=1 -use_counters=0 "$work/$target" "$grown" >"$work/$target.log" 2>&1
-    find "$work/$target" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' \
-        -exec cp -t "$kept" {} +
+    find "$work/$target" "${namedBySum[@]}" -exec mv -t "$grown" {} +
+    runTarget "$target" "$(fuzzProgram "$target")" -merge=1 -use_counters=0 "$work/$target" "$grown"
+    find "$kept" "${namedBySum[@]}" -delete
+    find "$work/$target" "${namedBySum[@]}" -exec cp -t "$kept" {} +
     echo "$target: $(find "$kept" -type f | wc -l) inputs," \
         "$(find "$kept" -type f -printf '%s\n' | awk '{ n += $1 } END { print n + 0 }') bytes"
 done

@@ -19,32 +19,17 @@ summary=()
 failed=0
 for target in "${targets[@]}"; do
     corpus=$fuzzData/corpora/$target
-    findings=$fuzzData/findings/$target
     log=$fuzzData/$target.log
-    mkdir -p "$corpus" "$findings"
-    begun=$(mktemp)
+    mkdir -p "$corpus"
     echo "== $target for $seconds s"
-    status=0
-    "$(fuzzProgram "$target")" -max_total_time="$seconds" -max_len=256 -timeout=10 \
-        -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$findings/" \
-        "${moreOptions[@]}" "$corpus" "tests/fuzz/corpora/$target" >"$log" 2>&1 || status=$?
-    mapfile -t found < <(find "$findings" -type f -newer "$begun")
-    rm -f "$begun"
-    if ((status == 0)); then
+    if runTarget "$target" "$(fuzzProgram "$target")" -max_total_time="$seconds" -max_len=256 \
+        -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 "${moreOptions[@]}" \
+        "$corpus" "tests/fuzz/corpora/$target"; then
         summary+=("$target: $(grep '^Done' "$log" || echo "ended")")
-        continue
+    else
+        failed=1
+        summary+=("$target: FAILED, see $log")
     fi
-    failed=1
-    summary+=("$target: FAILED, see $log")
-    echo "$target failed (exit code $status). The end of $log:"
-    tail -n 40 "$log"
-    for input in "${found[@]}"; do
-        printf '%s\n' "" "The input is kept in $input." \
-            "  reproduce:   $(fuzzProgram "$target") $input" \
-            "  shorten:     $(fuzzProgram "$target") -minimize_crash=1 -runs=100000 $input" \
-            "  keep:        cp $input tests/fuzz/corpora/$target/WHAT_IT_SHOWS" \
-            "\"make test\" runs every input that is kept."
-    done
 done
 echo
 printf '%s\n' "== summary" "${summary[@]}"
