@@ -64,12 +64,12 @@ stopStage() {
 trap 'stopStage; exit 130' INT
 trap 'stopStage; exit 143' TERM HUP
 
-# progressOf LOG STEPS: "43 %, src/corelib" from the compiler lines in a log.
+# progressOf STEPS: "43 %, src/corelib" from the compiler lines in $setupLog.
 progressOf() {
-    local log=$1 steps=$2 count last percent=""
+    local steps=$1 count last percent=""
     # The whole log is read again and again, so the patterns are plain texts.
-    count=$(grep -cF -e ' -c ' -e '  CC ' "$log" || true)
-    last=$(tail -n 40 "$log" | grep -oE '[^ ]+\.(cpp|c|cc)( |$)' | tail -n 1 |
+    count=$(grep -cF -e ' -c ' -e '  CC ' "$setupLog" || true)
+    last=$(tail -n 40 "$setupLog" | grep -oE '[^ ]+\.(cpp|c|cc)( |$)' | tail -n 1 |
         sed 's,^\(\.\./\)*,,' || true)
     if ((steps > 0)); then
         percent=$((count * 100 / steps))
@@ -82,25 +82,23 @@ progressOf() {
 # runStage TITLE STEPS COMMAND...: runs the command with its output in $setupLog and reports its
 # progress every 15 seconds. STEPS is the expected number of compiler calls, 0 when unknown.
 runStage() {
-    local title=$1 steps=$2 log status=0 nextReport=15 begun=$SECONDS
+    local title=$1 steps=$2 status=0 nextReport=15 begun=$SECONDS
     shift 2
     say "$title"
-    log=$(mktemp "${TMPDIR:-/tmp}/tessera-stage.XXXXXX")
+    printf '=== %s\n' "$title" >>"$setupLog"
     set -m
-    (set -e; "$@") </dev/null >"$log" 2>&1 9>&- &
+    (set -e; "$@") </dev/null >>"$setupLog" 2>&1 9>&- &
     stagePid=$!
     set +m
     while kill -0 "$stagePid" 2>/dev/null; do
         sleep 0.5
         if ((SECONDS - begun >= nextReport)); then
-            say "$title: $(progressOf "$log" "$steps")"
+            say "$title: $(progressOf "$steps")"
             nextReport=$((nextReport + 15))
         fi
     done
     wait "$stagePid" || status=$?
     stagePid=""
-    { printf '=== %s\n' "$title"; cat "$log"; } >>"$setupLog"
-    rm -f "$log"
     if ((status != 0)); then
         say "failed: $title (exit code $status); the last lines of $setupLog:"
         tail -n 30 "$setupLog" >&2

@@ -50,7 +50,9 @@ if ((EUID != 0)); then
     asRoot=(sudo)
 fi
 say "installing ${#missing[@]} packages: ${missing[*]}"
-setupLog=$(mktemp "${TMPDIR:-/tmp}/tessera-packages.XXXXXX.log")
+takeLock "$(cacheRoot)/packages.lock"
+setupLog=$(cacheRoot)/packages.log
+: >"$setupLog"
 
 # sudo resets the environment, hence env. A fresh machine may hold the lock for its own updates.
 aptGet() {
@@ -64,5 +66,4 @@ if ((EUID != 0)); then
 fi
 runStage "updating the package lists" 0 aptGet update
 runStage "installing" 0 aptGet install -y --no-install-recommends "${missing[@]}"
-rm -f "$setupLog"
 say "done"
