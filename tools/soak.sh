@@ -10,9 +10,11 @@ logs=build/soak
 rm -rf "$logs"
 mkdir -p "$logs"
 
-# failuresIn LOG: the entries that ctest counts as failed, from "12/49 Test #3: NAME ....***Failed".
+# failuresIn LOG: "PRESET: NAME" of the entries that ctest counts as failed, from the preset's heading
+# and from "12/49 Test #3: NAME ....***Failed".
 failuresIn() {
-    sed -n 's/^ *[0-9]*\/[0-9]* Test *#[0-9]*: \([^ ]*\) .*\*\*\*.*/\1/p' "$1"
+    awk '/^== .*: test$/ { preset = $2 }
+         /^ *[0-9]+\/[0-9]+ Test *#[0-9]+: .*\*\*\*/ { sub(/^[^:]*: /, ""); print preset, $1 }' "$1"
 }
 
 clean=0
