@@ -1,17 +1,23 @@
 #include "bench/ipc/bare_pipe.h"
 
+#include "bench/support/give_up.h"
+
 namespace bench {
 
 namespace {
 
 constexpr DWORD largest = 65535;
+constexpr DWORD longestWait = 60000; // ms
 constexpr const wchar_t* pipeName = L"DF467A07-9FF8-46A9-B701-2D3ADDD9BE3B_Uninstall";
 
 // False when `stop` was signalled instead.
 bool completes(HANDLE io, HANDLE stop)
 {
     const HANDLE either[] = {stop, io};
-    return WaitForMultipleObjects(2, either, FALSE, INFINITE) == WAIT_OBJECT_0 + 1;
+    const DWORD signalled = WaitForMultipleObjects(2, either, FALSE, longestWait);
+    if (signalled == WAIT_TIMEOUT)
+        giveUp("a server hears nothing from its client");
+    return signalled == WAIT_OBJECT_0 + 1;
 }
 
 } // namespace

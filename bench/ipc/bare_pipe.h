@@ -12,7 +12,8 @@
 
 namespace bench {
 
-// Echoes each frame, one client at a time, until `stop` is signalled.
+// Echoes each frame, one client at a time, until `stop` is signalled. Gives up after a minute
+// without a client or a frame, which also ends a client's wait for its answer.
 void serveBare(HANDLE stop, HANDLE ready);
 
 class BareClient

@@ -25,6 +25,7 @@ using ipctest::ChildProcess;
 using ipctest::NamedEvent;
 using namespace bench;
 
+constexpr double exchangeGoal = 1.10;
 constexpr DWORD longestRun = 600000; // ms
 constexpr int turns = 4;
 constexpr int starts = 15;
@@ -46,7 +47,9 @@ int serveChannel(const NamedEvent& stop, const NamedEvent& ready)
     channel.receiver = &echo;
     const int result = ipctest::serveForSure(channel);
     ready.set();
-    stop.wait(longestRun);
+    // Its end also ends a client's wait for an answer.
+    if (!stop.wait(longestRun))
+        giveUp("a server is not told to stop");
     return result;
 }
 
@@ -87,8 +90,11 @@ void measure(int count, const std::function<bool()>& connect, const std::functio
              const std::function<void()>& close, Times& times)
 {
     for (int i = 0; i < count; ++i) {
+        const ULONGLONG end = GetTickCount64() + ipctest::waitTime(ipctest::patience);
         double begun = now();
         while (!connect()) {
+            if (GetTickCount64() >= end)
+                giveUp("a server takes no client");
             WaitNamedPipeW(ipctest::pipePath, 1000);
             begun = now();
         }
@@ -128,20 +134,21 @@ void measureChannel(std::size_t textSize, int count, Times& times)
     }
 }
 
+// `goal` 0: none.
 void row(const char* name, const char* what, const std::vector<double>& ours,
-         const std::vector<double>& floor)
+         const std::vector<double>& floor, double goal)
 {
     const double our = median(ours);
     const double least = median(floor);
-    std::printf("%-8s %-18s %10.0f %10.0f %10.1f %10.1f %7.2f\n", name, what, 1e6 / our,
-                1e6 / least, our, least, our / least);
+    std::printf("%-8s %-18s %10.0f %10.0f %10.1f %10.1f   %s\n", name, what, 1e6 / our, 1e6 / least,
+                our, least, verdict(our / least, goal).c_str());
 }
 
 // Floor and channel in turns, so that other load on the machine affects both.
 void compareExchanges(int count)
 {
     std::printf("Round trips            (per second, from the medians)   (median, microseconds)\n");
-    std::printf("%-8s %-18s %10s %10s %10s %10s %7s\n", "text", "", "channel", "floor", "channel",
+    std::printf("%-8s %-18s %10s %10s %10s %10s   %s\n", "text", "", "channel", "floor", "channel",
                 "floor", "ratio");
     const struct
     {
@@ -155,8 +162,8 @@ void compareExchanges(int count)
             measureBare(size.size, count, bare);
             measureChannel(size.size, count, channel);
         }
-        row(size.name, "request to answer", channel.exchange, bare.exchange);
-        row(size.name, "with open, close", channel.whole, bare.whole);
+        row(size.name, "request to answer", channel.exchange, bare.exchange, exchangeGoal);
+        row(size.name, "with open, close", channel.whole, bare.whole, 0);
         std::fflush(stdout);
     }
 }

@@ -59,8 +59,11 @@ ULONGLONG processorTime(HANDLE process)
 // Waits until the program has nothing to do: a window that is closed earlier is painted first.
 void waitForRest(HANDLE process)
 {
+    const ULONGLONG end = GetTickCount64() + ipctest::waitTime(ipctest::patience);
     ULONGLONG before = 0;
     for (ULONGLONG used = processorTime(process); used != before; used = processorTime(process)) {
+        if (GetTickCount64() >= end)
+            giveUp("a program does not come to rest");
         before = used;
         Sleep(quiet);
     }
@@ -123,15 +126,6 @@ void registerApplications()
     }
 }
 
-std::string judged(double ours, double bare, double goal)
-{
-    if (goal > 0)
-        return bench::verdict(ours / bare, goal);
-    char text[32] = {};
-    std::snprintf(text, sizeof(text), "%.3f", ours / bare);
-    return text;
-}
-
 // A figure of the program, of the bare window of the same Qt, and of the one of unpatched Qt.
 using Figures = std::array<double, 3>;
 
@@ -139,8 +133,8 @@ void row(const char* what, const Figures& figures, const Goals& goals)
 {
     const auto [ours, same, unpatched] = figures;
     std::printf("| %s | %.1f | %.1f | %s | %.1f | %s |\n", what, ours, same,
-                judged(ours, same, goals.sameQt).c_str(), unpatched,
-                judged(ours, unpatched, goals.unpatchedQt).c_str());
+                bench::verdict(ours / same, goals.sameQt).c_str(), unpatched,
+                bench::verdict(ours / unpatched, goals.unpatchedQt).c_str());
 }
 
 void print(const std::array<Subject, 3>& subjects)

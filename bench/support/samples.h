@@ -35,12 +35,15 @@ inline double median(const std::vector<double>& samples)
     return quantile(samples, 0.5);
 }
 
-// "1.04 (goal 1.15 met)": `ratio` is to be at most `goal`.
+// "1.040 (goal 1.15 met)": `ratio` is to be at most `goal`; only the ratio when `goal` is 0.
 inline std::string verdict(double ratio, double goal)
 {
     char text[64] = {};
-    std::snprintf(text, sizeof(text), "%.3f (goal %.2f %s)", ratio, goal,
-                  ratio <= goal ? "met" : "missed");
+    if (goal > 0)
+        std::snprintf(text, sizeof(text), "%.3f (goal %.2f %s)", ratio, goal,
+                      ratio <= goal ? "met" : "missed");
+    else
+        std::snprintf(text, sizeof(text), "%.3f", ratio);
     return text;
 }
 
