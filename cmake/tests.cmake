@@ -96,8 +96,9 @@ function(tessera_add_python_test name module)
     if(ARG_DISPLAY)
         set(screen "${PROJECT_SOURCE_DIR}/tools/wine/with-display")
     endif()
+    # Nothing goes on when CTest is ended.
     add_test(NAME ${name}
-        COMMAND ${screen} "${Python3_EXECUTABLE}" -B -m unittest -v ${module}
+        COMMAND setpriv --pdeathsig TERM ${screen} "${Python3_EXECUTABLE}" -B -m unittest -v ${module}
         WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}

@@ -8,11 +8,14 @@ from pathlib import Path
 from typing import Dict, Iterable, List, Optional, Sequence
 
 from tests.harness import layout, screen
+from tests.harness.interruption import catch_signals
 from tests.harness.prefix import Prefix
 from tests.harness.suite import (MAIN_TITLE, PRODUCT_BRAND, SELECTIVE, START_OF_LOG,
                                  RunningApplication, RunningProgram, Suite)
 from tests.harness.waiting import wait_until
 from tests.sample_suite.applications import Application
+
+catch_signals()
 
 
 class SuiteTestCase(unittest.TestCase):
@@ -30,7 +33,13 @@ class SuiteTestCase(unittest.TestCase):
         self.scratch = Path(tempfile.mkdtemp(prefix=f"{name}-", dir=folder))
         self.prefix = Prefix(self.scratch / "prefix")
         self.last_screen: Optional[screen.Picture] = None
-        super().run(result)
+        try:
+            super().run(result)
+        except KeyboardInterrupt:
+            # unittest leaves the clean-ups out.
+            self.prefix.end()
+            shutil.rmtree(self.scratch, ignore_errors=True)
+            raise
         if len(result.failures) + len(result.errors) == problems:
             shutil.rmtree(self.scratch, ignore_errors=True)
         else:

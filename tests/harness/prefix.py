@@ -1,12 +1,13 @@
 """A Wine prefix: one simulated computer with one user."""
 
+import atexit
 import getpass
 import os
 import shutil
 import subprocess
 import uuid
 from pathlib import Path, PureWindowsPath
-from typing import Dict, Optional, Sequence, Union
+from typing import Dict, List, Optional, Sequence, Union
 
 from tests.harness import layout, registry
 
@@ -16,7 +17,7 @@ RUN_DEADLINE = 120.0
 
 class Prefix:
     """Owns the folder: `create` or its first program makes it, `destroy` ends its processes and
-    removes it.
+    removes it. No process outlives ours.
 
     Its programs' output goes to a file beside the folder, never to a pipe: Wine's service processes
     inherit it, and a reader would wait until they end."""
@@ -24,6 +25,8 @@ class Prefix:
     def __init__(self, folder: Path):
         self.folder = folder
         self.output = folder.with_suffix(".txt")
+        self._started: List[subprocess.Popen] = []
+        atexit.register(self.end)
 
     @property
     def exists(self) -> bool:
@@ -35,7 +38,13 @@ class Prefix:
 
     def end(self) -> None:
         """Ends every Windows process of the prefix and writes its registry to disk."""
+        # First those that Wine's server may not know yet.
+        for process in self._started:
+            process.kill()
+            process.wait()
+        self._started.clear()
         self._wine_run("--end")
+        atexit.unregister(self.end)
 
     def destroy(self) -> None:
         if self.folder.exists():
@@ -82,10 +91,12 @@ class Prefix:
         """Starts a Windows program; `options` are those of Popen."""
         self.folder.mkdir(parents=True, exist_ok=True)
         with self.output.open("ab") as output:
-            return subprocess.Popen([layout.WINE_RUN, str(program), *arguments],
-                                    env=self.environment(environment),
-                                    **{"stdin": subprocess.DEVNULL, "stdout": output,
-                                       "stderr": output, **options})
+            process = subprocess.Popen([layout.WINE_RUN, str(program), *arguments],
+                                       env=self.environment(environment),
+                                       **{"stdin": subprocess.DEVNULL, "stdout": output,
+                                          "stderr": output, **options})
+        self._started.append(process)
+        return process
 
     def run(self, program: Union[str, Path], *arguments: str) -> None:
         """Runs a Windows program to its end; raises when it reports a failure."""

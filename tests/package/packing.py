@@ -1,7 +1,6 @@
 """Runs tools/package/package for tests, and unpacks its results."""
 
 import os
-import shutil
 import subprocess
 import tempfile
 import unittest
@@ -9,7 +8,10 @@ import zipfile
 from pathlib import Path
 from typing import Dict, Optional
 
+from tests.harness.interruption import catch_signals
 from tests.harness.layout import BUILD, REPOSITORY
+
+catch_signals()
 
 SOURCE_DATE = 1767323045  # 2026-01-02 03:04:05 UTC
 DEADLINE = 300
@@ -57,8 +59,8 @@ class ScratchTestCase(unittest.TestCase):
     """Each test has a folder of its own."""
 
     def setUp(self):
-        self.scratch = Path(tempfile.mkdtemp(prefix="tessera-package-test-"))
-        self.addCleanup(shutil.rmtree, self.scratch)
+        self.scratch = Path(self.enterContext(
+            tempfile.TemporaryDirectory(prefix="tessera-package-test-")))
 
     def assert_packed(self, result: subprocess.CompletedProcess):
         self.assertEqual(result.returncode, 0, result.stdout)
