@@ -5,10 +5,12 @@
 //   send NAME          queues one "click" event; answer: number microseconds
 //   post NAME          the same, posted before the answer
 //   reread             rereads common.cfg; answer: ClientGuid Location
+//   offline            makes every host's name unknown; answer: 1
 //
 // At the end of the input the process ends as the program does, with static destruction.
 
 #include "support/keelbase/keelbase.h"
+#include "tests/support/import_slot.h"
 #include "ui/common/config/common_config.h"
 #include "ui/common/stat/app_event_stat.h"
 #include "ui/uninstall/src/stat_startup.h"
@@ -18,6 +20,10 @@
 #include <iostream>
 #include <sstream>
 #include <string>
+
+#include <winsock2.h>
+
+#include <ws2tcpip.h>
 
 namespace {
 
@@ -52,6 +58,17 @@ void reread()
     std::cout << common.getValue("ClientGuid", "-") << ' ' << common.getValue("Location", "-");
 }
 
+int WSAAPI knowNobody(PCSTR, PCSTR, const ADDRINFOA*, PADDRINFOA*)
+{
+    return WSAHOST_NOT_FOUND;
+}
+
+// This machine's own name service may hang.
+void goOffline()
+{
+    std::cout << (replaceImport("getaddrinfo", &knowNobody) != nullptr);
+}
+
 bool execute(const std::string& command, const std::string& argument)
 {
     if (command == "start")
@@ -60,6 +77,8 @@ bool execute(const std::string& command, const std::string& argument)
         send(argument, command == "post");
     else if (command == "reread")
         reread();
+    else if (command == "offline")
+        goOffline();
     else
         return false;
     std::cout << std::endl;

@@ -18,7 +18,7 @@ from tests.services.http_service import (HttpService, answer, declared_size, hea
 from tests.services.local_server import LocalServer
 
 PROBE = os.environ["NETPULL_PROBE"]
-HANGING_PROBE = os.environ["NETPULL_HANGING_PROBE"]
+LOOKUP_PROBE = os.environ["NETPULL_LOOKUP_PROBE"]
 ANSWER_LIMIT = 1024 * 1024
 
 PROBE_OUT_OF_MEMORY = 3
@@ -212,15 +212,15 @@ class Limits(unittest.TestCase):
             self.check_time(outcome, 1)
 
     def test_a_name_lookup_that_hangs_costs_the_connecting_time(self):
-        self.check_time(fetch("GET", "http://host.invalid/", probe=HANGING_PROBE, timeout=9,
+        self.check_time(fetch("GET", "http://hangs.invalid/", probe=LOOKUP_PROBE, timeout=9,
                               connect=1), 1)
 
     def test_a_name_lookup_that_hangs_costs_the_timeout_when_that_is_shorter(self):
-        self.check_time(fetch("GET", "http://host.invalid/", probe=HANGING_PROBE, timeout=1), 1)
+        self.check_time(fetch("GET", "http://hangs.invalid/", probe=LOOKUP_PROBE, timeout=1), 1)
 
     def test_a_hanging_lookup_of_the_proxy_counts_too(self):
-        self.check_time(fetch("GET", "http://127.0.0.1/", probe=HANGING_PROBE, timeout=1,
-                              proxy="proxy.invalid"), 1)
+        self.check_time(fetch("GET", "http://127.0.0.1/", probe=LOOKUP_PROBE, timeout=1,
+                              proxy="hangs.invalid"), 1)
 
     def test_requests_without_time_are_refused(self):
         for option in ("timeout", "longest", "connect"):
@@ -313,7 +313,7 @@ CipherString = DEFAULT@SECLEVEL=0
 
 class Connections(unittest.TestCase):
     def test_a_name_that_does_not_resolve(self):
-        self.assertEqual(fetch("GET", "http://no-such-host.invalid/").code,
+        self.assertEqual(fetch("GET", "http://unknown.invalid/", probe=LOOKUP_PROBE).code,
                          COULD_NOT_RESOLVE_HOST)
 
     def test_a_port_where_nobody_listens(self):
