@@ -28,9 +28,12 @@ class Records:
         """The id strings of the applications whose uninstaller has started."""
         return sorted(path.stem for path in self.folder.glob("*.txt"))
 
+    def file(self, id_string: str) -> Path:
+        return self.folder / f"{id_string}.txt"
+
     def runs(self, id_string: str) -> List[Run]:
         """Every run so far, oldest first. An incomplete last line is ignored."""
-        path = self.folder / f"{id_string}.txt"
+        path = self.file(id_string)
         if not path.exists():
             return []
         content = path.read_bytes()

@@ -1,8 +1,8 @@
 // An uninstaller that misbehaves. It records its command line like every sample uninstaller and
-// then does what its file name says:
+// does what its file name says:
 //   hangs.exe       never ends by itself
 //   crashes.exe     ends with an access violation
-//   hands_over.exe  starts a copy of itself and ends; the copy ends once the file
+//   hands_over.exe  starts a copy of itself, records and ends; the copy ends once the file
 //                   C:\records\hands_over.release exists
 //   drops_key.exe   deletes everything that the suite has in the registry
 // elevated_uninstaller.exe is the same program with a manifest that asks for administrator rights.
@@ -36,7 +36,7 @@ int handOver()
         return 1;
     CloseHandle(copy.hThread);
     CloseHandle(copy.hProcess);
-    return 0;
+    return sample_suite::recordCommandLine() ? 0 : 1;
 }
 
 int workAsCopy()
@@ -64,15 +64,15 @@ int main()
 {
     if (std::wstring(GetCommandLineW()) == copyMark)
         return workAsCopy();
+    const std::wstring behaviour = sample_suite::ownName();
+    if (behaviour == L"hands_over")
+        return handOver();
     if (!sample_suite::recordCommandLine())
         return 1;
-    const std::wstring behaviour = sample_suite::ownName();
     if (behaviour == L"hangs")
         Sleep(longestLifeMs);
     if (behaviour == L"crashes")
         return crash();
-    if (behaviour == L"hands_over")
-        return handOver();
     if (behaviour == L"drops_key")
         return dropKey();
     std::fprintf(stderr, "%ls: no such behaviour\n", behaviour.c_str());
