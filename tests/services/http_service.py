@@ -4,7 +4,6 @@ import http.client
 import socket
 import ssl
 import threading
-import time
 from dataclasses import dataclass
 from email.message import Message
 from typing import Callable, Dict, List, Optional
@@ -19,7 +18,6 @@ class Received:
     target: str
     headers: Message
     body: bytes
-    at: float
 
 
 # Called with the connection once a request has been read. The event is set when the service ends.
@@ -146,7 +144,7 @@ class HttpService(LocalServer):
             method, target, _ = first_line.split(" ", 2)
             headers = http.client.parse_headers(stream)
             body = stream.read(int(headers.get("Content-Length", "0")))
-        return Received(method, target, headers, body, time.monotonic())
+        return Received(method, target, headers, body)
 
 
 def header_names(request: Received) -> Dict[str, str]:

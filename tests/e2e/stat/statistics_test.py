@@ -16,7 +16,9 @@ LOOKUP_FAILED = LogLine(3, "MainForm", "ui/uninstall/src/widget:160",
                         "getOrCreateUserLocation | dlutil_getUserLocation returned error")
 POST_TIMEOUT = 10
 LOOKUP_TIMEOUT = 15
-# Seconds that a busy machine may add to a time-out, and that queueing an event may take.
+# Seconds that a timer may end early, that a busy machine may add to a time-out, and that queueing an
+# event may take.
+TIMER_SLACK = 0.1
 TIMEOUT_SLACK = 4.0
 QUEUEING_LIMIT = 2.0
 BIG = 50 * 1024 * 1024
@@ -293,19 +295,18 @@ class Patience(StatisticsCase):
         return driver
 
     def check_bound(self, seconds, timeout):
-        # Seen from the server, what comes before the request is missing: proxy and handshake.
-        self.assertGreater(seconds, timeout - TIMEOUT_SLACK)
+        self.assertGreater(seconds, timeout - TIMER_SLACK)
         self.assertLess(seconds, timeout + TIMEOUT_SLACK)
 
     def test_a_silent_service_costs_a_background_post_its_timeout(self):
         driver = self.start(stall)
+        begun = time.monotonic()
         for index in range(3):
             number, seconds = driver.send("x")
             self.assertEqual(number, index + 1)
             self.assertLess(seconds, QUEUEING_LIMIT, "the caller does not wait")
-        begun = self.statistics.wait_for(1)[0].at
-        ended = self.statistics.wait_for(2)[1].at
-        self.check_bound(ended - begun, POST_TIMEOUT)
+        self.statistics.wait_for(2)
+        self.check_bound(time.monotonic() - begun, POST_TIMEOUT)
         self.assertIn(transport_error(28), self.log())
 
     def test_a_dripping_service_costs_its_timeout(self):
