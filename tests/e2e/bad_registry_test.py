@@ -4,7 +4,7 @@ from tests.harness import probes
 from tests.harness.case import SuiteTestCase
 from tests.harness.registry import (REG_BINARY, REG_DWORD, REG_EXPAND_SZ, REG_MULTI_SZ, Value,
                                     text_bytes)
-from tests.harness.suite import LIST_KEY, SELECTIVE, SUITE_KEY, Suite
+from tests.harness.suite import LIST_KEY, SELECTIVE, SUITE_KEY
 from tests.sample_suite.applications import PARTNER, RUNNING
 
 # With the other switches added, Windows still starts a command of this length.
@@ -17,9 +17,7 @@ class BadRegistry(SuiteTestCase):
 
     def setUp(self):
         super().setUp()
-        self.suite = Suite(self.prefix)
-        self.suite.install([])
-        self.suite.place_program()
+        self.suite = self.install([])
 
     def place_probe(self, name):
         """Returns its Windows path."""

@@ -9,7 +9,7 @@ from pathlib import PureWindowsPath
 from tests.harness import layout
 from tests.harness.case import SuiteTestCase
 from tests.harness.registry import REG_DWORD, Value
-from tests.harness.suite import LIST_KEY, SUITE_KEY, Suite
+from tests.harness.suite import LIST_KEY, SUITE_KEY
 from tests.harness.waiting import wait_until
 
 PAGE = layout.REPOSITORY / "docs" / "integrating.md"
@@ -56,10 +56,7 @@ class IntegratingPage(SuiteTestCase):
         self.assertTrue((self.settings / "WaveTuner.cfg").exists())
 
     def test_its_uninstaller_is_run_by_the_program(self):
-        suite = Suite(self.prefix)
-        suite.install([])
-        suite.place_program()
-        self.remove_rows(suite, [0], rows=1)
+        self.remove_rows(self.install([]), [0], rows=1)
         self._assert_removed(self.prefix.logs / "WaveTuner_uninstall.log")
         self.assertTrue(self.settings.exists())
 

@@ -12,7 +12,7 @@ from tests.harness.case import SuiteTestCase
 from tests.harness.main_window import VISIBLE_ROWS
 from tests.harness.registry import Value
 from tests.harness.suite import (EARLY, LATE, LIST_KEY, MAIN_TITLE, START_OF_LOG,
-                                 UNINSTALLER_WAIT, RunningProgram, Suite)
+                                 UNINSTALLER_WAIT, RunningProgram)
 from tests.harness.waiting import PATIENCE, wait_until
 from tests.sample_suite.applications import SUITE
 
@@ -47,9 +47,7 @@ class LongRun(SuiteTestCase):
 
     def setUp(self):
         super().setUp()
-        self.suite = Suite(self.prefix)
-        self.suite.install([])
-        self.suite.place_program()
+        self.suite = self.install([])
         folder = self.prefix.unix_path(FOLDER)
         folder.mkdir(parents=True)
         values = []

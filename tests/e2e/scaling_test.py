@@ -1,8 +1,6 @@
 """The window at 100, 125, 150 and 200 percent."""
 
-from tests.harness import screen
 from tests.harness.case import SuiteTestCase
-from tests.harness.suite import MAIN_TITLE
 
 
 class Scaling(SuiteTestCase):
@@ -13,8 +11,7 @@ class Scaling(SuiteTestCase):
                           (192, (758, 610))):
             with self.subTest(dpi=dpi):
                 program = self.start_program(suite, environment={"WINE_RUN_DPI": str(dpi)})
-                window = screen.wait_for_window(MAIN_TITLE, [program.process])
-                picture = window.picture()
+                picture = program.main_window.window.picture()
                 self.assertEqual((picture.width, picture.height), size)
-                window.press("alt+F4")
+                program.main_window.close()
                 self.assertEqual(program.exit_code(), 0)

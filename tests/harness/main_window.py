@@ -113,7 +113,7 @@ class MainWindow:
         box = wait_until(lambda: self._rows()[row:row + 1], f"row {row} is not shown")[0]
         self.window.click(box.x + self._aside, box.y)
         self._aside = -self._aside
-        wait_until(lambda: self._rows()[row].checked != box.checked,
+        wait_until(lambda: self.checked_rows()[row:row + 1] == [not box.checked],
                    f"row {row} did not change its state")
 
     def press_in_list(self, *keys: str) -> None:

@@ -4,7 +4,7 @@ from tests.harness import probes
 from tests.harness.case import SuiteTestCase
 from tests.harness.main_window import VISIBLE_ROWS
 from tests.harness.registry import Value
-from tests.harness.suite import DETAILED_LOG, LIST_KEY, SELECTIVE, Suite
+from tests.harness.suite import DETAILED_LOG, LIST_KEY, SELECTIVE
 from tests.harness.waiting import wait_until
 
 MANY = 500
@@ -27,9 +27,7 @@ class ListFaults(SuiteTestCase):
 
     def setUp(self):
         super().setUp()
-        self.suite = Suite(self.prefix)
-        self.suite.install([])
-        self.suite.place_program()
+        self.suite = self.install([])
         probes.place_working(self.prefix, "works")
 
     def register(self, names):
