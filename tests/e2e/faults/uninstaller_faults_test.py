@@ -13,7 +13,7 @@ from tests.sample_suite.applications import SUITE
 
 FULL = [*SELECTIVE, "/DISABLEREDIRECT"]
 # Seconds in which the program goes on after an uninstaller's end, however long its start took.
-NOTICED_END = UNINSTALLER_WAIT / 2
+NOTICED_END = UNINSTALLER_WAIT * 3 / 4
 NOT_STARTED = "DoUninsstall: not started: Process failed to start: "
 
 
