@@ -33,16 +33,21 @@ class LocalServer:
 
     def __exit__(self, *_) -> None:
         self.stopping.set()
-        # Closing alone does not wake a thread that waits in accept() or recv().
-        for connection in [self._listener, *self._connections]:
-            try:
-                connection.shutdown(socket.SHUT_RDWR)
-            except OSError:
-                pass
+        self._shut_down(self._listener)
         self._acceptor.join()
+        for connection in self._connections:
+            self._shut_down(connection)
         for thread in self._threads:
             thread.join()
         self._listener.close()
+
+    @staticmethod
+    def _shut_down(connection: socket.socket) -> None:
+        """Closing alone does not wake a thread that waits in accept() or recv()."""
+        try:
+            connection.shutdown(socket.SHUT_RDWR)
+        except OSError:
+            pass  # the other side has closed it
 
     def _accept(self) -> None:
         while not self.stopping.is_set():
