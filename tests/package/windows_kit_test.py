@@ -19,6 +19,8 @@ PACK = layout.REPOSITORY / "tools" / "windows_kit" / "pack.py"
 FOLDER = PureWindowsPath("C:/users/Public/Tests of Uninstall – 卸载 (1)")
 LARGEST_ZIP = 40_000_000
 DEADLINE = 240
+# What Wine's "pause" says.
+PROMPT = "Press any key to continue... "
 CMD = r"C:\windows\system32\cmd.exe"
 ASIDE_KEY = "HKEY_CURRENT_USER\\Software\\Tessera test kit"
 OWN_VALUES = [Value(f"{SUITE_KEY}\\Sub", "Text", "mine"),
@@ -100,7 +102,7 @@ class WindowsKit(SuiteTestCase):
         self.assertLess(self.zip.stat().st_size, LARGEST_ZIP)
         code = self.run_tests("windows_sys", "windows_widget_run", "windows_config",
                               "windows_scenarios")
-        self.assertEqual(self.lines()[-1:], ["4 passed, 0 failed"], self.report())
+        self.assertEqual(self.lines()[-2:], ["4 passed, 0 failed", PROMPT], self.report())
         self.assertEqual(code, 0)
         program = hashlib.sha256(layout.PROGRAM.read_bytes()).hexdigest()
         for text in ("Windows: ", "Account: ", "Elevated: ", " 96 dpi", program,
@@ -118,7 +120,7 @@ class WindowsKit(SuiteTestCase):
                       "if %__COMPAT_LAYER%==RunAsInvoker (exit 0) else exit 1")
         code = self.run_tests("fails", "hangs", "is_missing", "writes", "finds_nothing",
                               "asks_for_no_rights")
-        self.assertEqual(self.lines()[-1:], ["2 passed, 4 failed"], self.report())
+        self.assertEqual(self.lines()[-2:], ["2 passed, 4 failed", PROMPT], self.report())
         self.assertEqual(code, 1)
         self.assertRegex(self.report(), r"(?s)fails: FAILED with code 3 .*"
                                         r"hangs: FAILED: over its time limit .*"
@@ -130,6 +132,12 @@ class WindowsKit(SuiteTestCase):
     def test_changes_nothing_without_consent(self):
         self.assertEqual(self.run_tests("windows_sys", answer="no"), 2)
         self.assertFalse((self.kit / "report.txt").exists())
+        self.assert_settings_are_back()
+
+    def test_changes_nothing_when_its_report_cannot_be_written(self):
+        (self.kit / "report.txt").mkdir()
+        self.assertEqual(self.run_tests("windows_sys"), 2)
+        self.assertIn("report.txt cannot be written", self.told.read_text(encoding="utf-8"))
         self.assert_settings_are_back()
 
     def test_puts_back_at_its_next_start_what_a_run_that_was_cut_off_left_aside(self):

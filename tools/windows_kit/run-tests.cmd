@@ -6,5 +6,5 @@ set code=%errorlevel%
 rem After a double-click the window would close before anybody has read the result.
 setlocal enabledelayedexpansion
 set line=!cmdcmdline:/c=!
-if not "!line!"=="!cmdcmdline!" pause >nul
+if not "!line!"=="!cmdcmdline!" pause
 exit /b %code%

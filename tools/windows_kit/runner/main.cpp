@@ -82,6 +82,7 @@ class Report
 public:
     explicit Report(const std::filesystem::path& file) : stream(file, std::ios::binary) {}
 
+    bool opened() const { return stream.is_open(); }
     // To the console and the file.
     void line(const std::string& text)
     {
@@ -181,7 +182,14 @@ int main(int argc, char** argv)
     // Without a console of its own Qt Test writes to the debugger only.
     SetEnvironmentVariableW(L"QT_FORCE_STDERR_LOGGING", L"1");
 
-    Report report(kitFolder / "report.txt");
+    const std::filesystem::path reportFile = kitFolder / "report.txt";
+    Report report(reportFile);
+    if (!report.opened()) {
+        std::fprintf(stderr,
+                     "%s cannot be written: close it, or unpack the ZIP into another folder.\n",
+                     reportFile.u8string().c_str());
+        return refusedOrStopped;
+    }
     report.line(describeMachine() + "Uninstall.exe: SHA-256 " +
                 sha256Of(kitFolder / "Uninstall.exe") + '\n');
     if (!putSettingsAside())
@@ -193,7 +201,7 @@ int main(int argc, char** argv)
     report.line(back ? "\nYour settings are back." : "\nYOUR SETTINGS COULD NOT BE PUT BACK.");
     if (count.stopped)
         report.line("Stopped before the end.");
-    std::printf("The report is in %s\n", (kitFolder / "report.txt").u8string().c_str());
+    std::printf("The report is in %s\n", reportFile.u8string().c_str());
     report.line(std::to_string(count.passed) + " passed, " + std::to_string(count.failed) +
                 " failed");
     if (count.stopped || !back)
