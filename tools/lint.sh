@@ -53,10 +53,12 @@ checkWithCppcheck() {
             --suppressions-list=tools/lint/cppcheck_suppressions.txt
 }
 
-# The headers that Qt's tools generate are built; nothing else.
+# With the measurements. The headers that Qt's tools generate are built; nothing else.
 prepareFolders() {
     local -a generated
-    tools/setup/configure.sh host >/dev/null && tools/setup/configure.sh windows-cross >/dev/null &&
+    cmake --preset host -B build/host-bench -DTESSERA_BENCH=ON >/dev/null &&
+        tools/setup/configure.sh windows-cross >/dev/null &&
+        cmake -DTESSERA_BENCH=ON build/windows >/dev/null &&
         mapfile -t generated < <(ninja -C build/windows -t targets all |
             sed -n 's,^\([^/]*_autogen\): phony$,\1,p') &&
         cmake --build build/windows --target "${generated[@]}" >/dev/null
@@ -68,7 +70,7 @@ check "Python" checkPython
 check "spelling" checkSpelling
 check "cppcheck" checkWithCppcheck
 check "build folders" prepareFolders
-check "clang-tidy" python3 -B tools/lint/read_again.py clang-tidy build/host "$cache"
+check "clang-tidy" python3 -B tools/lint/read_again.py clang-tidy build/host-bench "$cache"
 check "clang for Windows" python3 -B tools/lint/read_again.py clang build/windows "$cache"
 if ((${#failed[@]} > 0)); then
     say "failed: ${failed[*]}"

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Reads the sources of a build folder with another tool than the build's own compiler.
 
-    read_again.py clang-tidy build/host CACHE       looks for mistakes, by .clang-tidy
-    read_again.py clang      build/windows CACHE    clang's warnings, with the build's own options
+    read_again.py clang-tidy build/host-bench CACHE  looks for mistakes, by .clang-tidy
+    read_again.py clang      build/windows CACHE     clang's warnings, with the build's own options
 
 Only files that git knows are read, one process per core. A source that passed is read again when
 its command, the tool, .clang-tidy or any file it includes has changed; CACHE remembers this by
