@@ -1,6 +1,7 @@
 """Paths in the source and build trees."""
 
 import os
+import re
 from pathlib import Path
 
 REPOSITORY = Path(__file__).resolve().parents[2]
@@ -12,3 +13,11 @@ COMPUTERS = INSTALLERS / "computers"
 ARGUMENT_RECORDER = INSTALLERS / "argument_recorder.exe"
 WINE_RUN = REPOSITORY / "tools" / "wine-run"
 WINE_TOOLS = BUILD / "tools"
+
+
+def cmake_variable(name: str) -> str:
+    """Its value in the build's cache."""
+    cache = BUILD / "CMakeCache.txt"
+    if not cache.exists():
+        raise SystemExit(f"{cache} is missing: run \"make build\"")
+    return re.search(f"^{name}:STRING=(.*)$", cache.read_text(encoding="utf-8"), re.MULTILINE)[1]

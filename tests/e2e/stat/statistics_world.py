@@ -1,7 +1,6 @@
 """The surroundings of the statistics: a user's settings, the suite's two services, and a proxy."""
 
 import json
-import os
 import queue
 import subprocess
 import tempfile
@@ -21,8 +20,8 @@ from tests.services.certificates import Authority
 from tests.services.connect_proxy import ConnectProxy
 from tests.services.http_service import HttpService, Received
 
-STATISTICS_HOST = os.environ.get("TESSERA_STATS_HOST", "stats.tessera.example")
-GEO_HOST = os.environ.get("TESSERA_GEO_HOST", "geo.tessera.example")
+STATISTICS_HOST = layout.cmake_variable("TESSERA_STATS_HOST")
+GEO_HOST = layout.cmake_variable("TESSERA_GEO_HOST")
 ANSWER_DEADLINE = 60.0
 GUID = "^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$"
 
