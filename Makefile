@@ -71,8 +71,7 @@ fuzz: ## run each fuzz target for FUZZ_SECONDS (60) under sanitizers
 	@tools/fuzz/run.sh
 
 lint: setup ## check format, scripts, spelling; cppcheck, clang-tidy, clang's warnings
-	@tools/setup/packages.sh lint
-	@tools/setup/packages.sh bench
+	@tools/setup/packages.sh lint bench
 	@tools/lint.sh
 
 format: ## format all C++ sources

@@ -20,4 +20,4 @@ def cmake_variable(name: str) -> str:
     cache = BUILD / "CMakeCache.txt"
     if not cache.exists():
         raise SystemExit(f"{cache} is missing: run \"make build\"")
-    return re.search(f"^{name}:STRING=(.*)$", cache.read_text(encoding="utf-8"), re.MULTILINE)[1]
+    return re.search(rf"^{name}:\w+=(.*)$", cache.read_text(encoding="utf-8"), re.MULTILINE)[1]

@@ -26,7 +26,6 @@ class Prefix:
         self.folder = folder
         self.output = folder.with_suffix(".txt")
         self._started: List[subprocess.Popen] = []
-        atexit.register(self.end)
 
     @property
     def exists(self) -> bool:
@@ -95,6 +94,8 @@ class Prefix:
                                        env=self.environment(environment),
                                        **{"stdin": subprocess.DEVNULL, "stdout": output,
                                           "stderr": output, **options})
+        if not self._started:
+            atexit.register(self.end)
         self._started.append(process)
         return process
 

@@ -8,7 +8,7 @@ import subprocess
 import zipfile
 from pathlib import Path
 
-from tests.harness.layout import BUILD, PROGRAM, REPOSITORY
+from tests.harness.layout import PROGRAM, REPOSITORY, cmake_variable
 from tests.package.packing import ScratchTestCase, only, pack, pack_for_class, unpack
 
 TABLE = json.loads((REPOSITORY / "packaging" / "components.json").read_text(encoding="utf-8"))
@@ -88,7 +88,7 @@ class Package(ScratchTestCase):
         self.assertIn("GCC RUNTIME LIBRARY EXCEPTION", text_of(folder / "licences" / "gcc.txt"))
         version = re.search(r"qtbase-opensource-src (5\.\d+\.\d+)", notices)
         self.assertIsNotNone(version)
-        self.assertIn(f"qt-{version[1]}-", (BUILD / "CMakeCache.txt").read_text(encoding="utf-8"))
+        self.assertIn(f"qt-{version[1]}-", cmake_variable("Qt5_DIR"))
 
     def test_lists_components_with_versions_and_the_hashes_of_what_was_linked(self):
         folder = self.unpacked()
@@ -104,11 +104,9 @@ class Package(ScratchTestCase):
             self.assertRegex(entries[entry["id"]]["version"], r"^\d+\.\d+")
             self.assertTrue(entries[entry["id"]]["purl"].startswith("pkg:deb/debian/"))
         curl = entries["curl"]["components"][0]
-        prefix = re.search(r"^CURL_DIR:PATH=(.*)/lib/cmake/CURL$",
-                           (BUILD / "CMakeCache.txt").read_text(encoding="utf-8"), re.MULTILINE)[1]
+        library = Path(cmake_variable("CURL_DIR")).parents[1] / "libcurl.a"
         self.assertEqual(curl["hashes"][0]["content"],
-                         hashlib.sha256((Path(prefix) / "lib" / "libcurl.a").read_bytes())
-                         .hexdigest())
+                         hashlib.sha256(library.read_bytes()).hexdigest())
         depended = {reference for entry in document["dependencies"]
                     for reference in entry["dependsOn"]}
         self.assertEqual(depended, set(entries))
@@ -120,8 +118,7 @@ class Package(ScratchTestCase):
         linker.write_text("#!/bin/sh\nexec x86_64-w64-mingw32-g++-posix \"$@\" "
                           f"-Wl,--verbose,-Map,'{self.scratch}/map'\n", encoding="utf-8")
         linker.chmod(0o755)
-        prefix = re.search(r"^Qt5_DIR:PATH=(.*)/lib/cmake/Qt5$",
-                           (BUILD / "CMakeCache.txt").read_text(encoding="utf-8"), re.MULTILINE)[1]
+        prefix = Path(cmake_variable("Qt5_DIR")).parents[2]
         output = subprocess.run([folder / "relink.sh", prefix], text=True, check=True,
                                 env={"CXX": linker, "PATH": "/usr/bin:/bin"},
                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout

@@ -38,11 +38,14 @@ class SigningCommand(ScratchTestCase):
                 self.assertEqual(self.packed_program(), PROGRAM.read_bytes())
 
     def test_leaves_no_package_not_even_an_older_one_when_it_fails(self):
-        self.assert_packed(pack(self.scratch / "out"))
+        out = self.scratch / "out"
+        self.assert_packed(pack(out))
+        others = out / "notes.txt"
+        others.touch()
         for command, complaint in ((self.command("exit 3"), "ended with code 3"),
                                    (str(self.scratch / "missing"), "cannot be run")):
             with self.subTest(complaint):
-                result = pack(self.scratch / "out", environment={"TESSERA_SIGN_COMMAND": command})
+                result = pack(out, environment={"TESSERA_SIGN_COMMAND": command})
                 self.assertEqual(result.returncode, 1)
                 self.assertIn(complaint, result.stdout)
-                self.assertEqual(list((self.scratch / "out").iterdir()), [])
+                self.assertEqual(list(out.iterdir()), [others])

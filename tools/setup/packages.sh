@@ -2,10 +2,10 @@
 # Installs the Debian packages that building, testing and running need; does nothing, and asks for
 # no rights, when they are all there.
 #
-#   tools/setup/packages.sh         for build, test and run
-#   tools/setup/packages.sh lint    for "make lint" and "make format" as well
-#   tools/setup/packages.sh bench   for "make bench" as well
-#   tools/setup/packages.sh fuzz    for "make fuzz" as well
+#   tools/setup/packages.sh [SET...]   for build, test and run, and for each SET:
+#       lint    "make format"; with bench, "make lint"
+#       bench   "make bench"
+#       fuzz    "make fuzz"
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -27,19 +27,21 @@ packages=(
     # the sample suite's installers
     nsis
 )
-if [[ ${1:-} == lint ]]; then
-    packages+=(clang clang-format clang-tidy cppcheck shellcheck codespell pyflakes3)
-elif [[ ${1:-} == fuzz ]]; then
-    packages+=(clang llvm libclang-rt-dev)
-elif [[ ${1:-} == bench ]]; then
-    # other libraries that the measurements compare with
-    packages+=(qtbase5-dev libctemplate-dev libkainjow-mustache-dev libsimpleini-dev libinih-dev)
-fi
+for set in "$@"; do
+    case $set in
+        lint) packages+=(clang clang-format clang-tidy cppcheck shellcheck codespell pyflakes3) ;;
+        fuzz) packages+=(clang llvm libclang-rt-dev) ;;
+        bench) # other libraries that the measurements compare with
+            packages+=(qtbase5-dev libctemplate-dev libkainjow-mustache-dev libsimpleini-dev libinih-dev)
+            ;;
+        *) die "there is no set \"$set\" of packages: lint, bench and fuzz" ;;
+    esac
+done
 
 missing=()
 while read -r package; do
     missing+=("$package")
-done < <(comm -23 <(printf '%s\n' "${packages[@]}" | sort) \
+done < <(comm -23 <(printf '%s\n' "${packages[@]}" | sort -u) \
     <(dpkg-query -W -f '${db:Status-Status} ${Package}\n' | sed -n 's/^installed //p' | sort -u))
 ((${#missing[@]} == 0)) && exit 0
 
